@@ -1,0 +1,68 @@
+#include "app/maindialog.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QFontDatabase>
+
+namespace {
+
+void discardMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+/// Windows are shown at their own size, whatever the display's density.
+void refuseScaling()
+{
+    for (const char *variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_DEVICE_PIXEL_RATIO"}) {
+        qunsetenv(variable);
+    }
+    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+}
+
+QByteArray platformArgument()
+{
+#ifdef Q_OS_WIN
+    return QByteArrayLiteral("windows:dpiawareness=0");
+#else
+    const QByteArray named = qgetenv("QT_QPA_PLATFORM");
+    // The frameless window moves itself in global coordinates, which not every platform offers.
+    return named.isEmpty() ? QByteArrayLiteral("xcb") : named;
+#endif
+}
+
+void loadFonts()
+{
+    for (const char *file :
+         {"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf", "NotoSans-Regular.ttf"}) {
+        const QString path = QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(file);
+        if (QFontDatabase::addApplicationFont(path) == -1) {
+            qWarning("Failed to load %s", file);
+        }
+    }
+    // The medium face registers under a longer name than the one that is asked for.
+    QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
+    // Each call replaces the one before; pages and style sheets ask for the other families by name.
+    for (const char *family : {"Noto Sans", "Noto Sans Light", "Noto Sans Med"}) {
+        QApplication::setFont(QFont(QLatin1String(family)));
+    }
+}
+
+} // namespace
+
+// Command-line arguments are neither read nor passed on.
+int main(int, char *[])
+{
+    refuseScaling();
+    QByteArray platform = platformArgument();
+    char name[] = "calorainstaller";
+    char option[] = "-platform";
+    char *arguments[] = {name, option, platform.data(), nullptr};
+    int argumentCount = 3;
+    QApplication application(argumentCount, arguments);
+    QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
+    qDebug("main() release mode");
+    qInstallMessageHandler(discardMessage);
+    loadFonts();
+    MainDialog dialog;
+    dialog.show();
+    return QApplication::exec();
+}

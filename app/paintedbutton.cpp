@@ -1,0 +1,58 @@
+#include "app/paintedbutton.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+PaintedButton::PaintedButton(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+void PaintedButton::setText(const QString &newText)
+{
+    text = newText;
+    update();
+}
+
+void PaintedButton::enterEvent(QEvent *)
+{
+    hovered = true;
+    update();
+}
+
+void PaintedButton::leaveEvent(QEvent *)
+{
+    if (hovered) {
+        hovered = false;
+        update();
+    }
+}
+
+void PaintedButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->buttons() == Qt::LeftButton) {
+        pressed = true;
+        update();
+    }
+}
+
+// The place of the release doesn't matter, and neither does the button that is released.
+void PaintedButton::mouseReleaseEvent(QMouseEvent *)
+{
+    if (pressed) {
+        pressed = false;
+        update();
+        click();
+    }
+}
+
+void PaintedButton::drawText(QPainter &painter, const QRect &place) const
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    QFont large = font();
+    large.setPointSize(15);
+    painter.setFont(large);
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, text);
+}

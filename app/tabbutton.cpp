@@ -1,0 +1,27 @@
+#include "app/tabbutton.h"
+
+#include <QPainter>
+
+TabButton::TabButton(QWidget *parent)
+    : PaintedButton(parent)
+{
+}
+
+void TabButton::setSelected(bool nowSelected)
+{
+    selected = nowSelected;
+    update();
+}
+
+void TabButton::click() { emit clicked(); }
+
+void TabButton::paintEvent(QPaintEvent *)
+{
+    constexpr int lineHeight = 2;
+    const bool marked = selected || pressed;
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(0, height() - lineHeight, width(), lineHeight,
+                     QColor(marked ? QStringLiteral("#A50034") : QStringLiteral("#D6D6D7")));
+    drawText(painter, QRect(0, 0, width(), height() - lineHeight));
+}

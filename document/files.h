@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+class QString;
+
+/// Whole files. What exists and isn't a regular file (a folder, a FIFO, a device) counts as one that can't be
+/// opened.
+namespace files {
+
+/// The bytes of the file; nothing when it can't be opened.
+std::optional<QByteArray> read(const QString &path);
+
+/// Opens the file for reading and writing, creates it when missing, and replaces its content. False when it
+/// can't be opened; then nothing is changed.
+bool replaceContent(const QString &path, const QByteArray &content);
+
+} // namespace files

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QMap>
+
+/// The °C/°F table, and the numbers in item texts.
+namespace temperature {
+
+/// °C -> °F for every whole °C from -50 to 120. It holds even °F only, and some neighbours share one.
+QMap<int, int> makeTable();
+
+/// The lowest °C whose value is `fahrenheit`; 0 when there is none.
+int lowestCelsius(const QMap<int, int> &table, int fahrenheit);
+
+} // namespace temperature

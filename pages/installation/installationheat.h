@@ -1,0 +1,19 @@
+#pragma once
+
+#include "pages/installation/section.h"
+
+class InstallationHeat : public Section
+{
+    Q_OBJECT
+
+public:
+    explicit InstallationHeat(QWidget *parent = nullptr);
+
+signals:
+    void refreshInstallationPageSignal();
+
+public slots:
+    void changeLanguage();
+    void refresh();
+    void saveJsonData(const QString &path, const QJsonValue &value) override;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "pages/page.h"
+
+class QFrame;
+class QPushButton;
+
+/// What the sections of the Installation tab share: a header whose button opens and closes the body. A closed
+/// section writes nothing, which keeps its loads and refreshes out of the document.
+class Section : public Page
+{
+public:
+    explicit Section(QWidget *parent = nullptr);
+
+protected:
+    /// Starts closed: hides the body and gives the button its arrow.
+    void collapse(QPushButton *hideButton, QFrame *frame);
+    void toggle(QPushButton *hideButton, QFrame *frame);
+    /// The guarded write: only while the section is open, and never into an empty document.
+    void writeWhileExpanded(const QString &path, const QJsonValue &value) const;
+
+    bool expanded = false;
+};

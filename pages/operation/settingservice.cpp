@@ -1,0 +1,10 @@
+#include "pages/operation/settingservice.h"
+
+SettingService::SettingService(QWidget *parent)
+    : Page(parent)
+{
+}
+
+void SettingService::changeLanguage() {}
+
+void SettingService::saveJsonData(const QString &, const QJsonValue &) {}

@@ -1,0 +1,136 @@
+#include "pages/page.h"
+
+#include "app/maindialog.h"
+#include "document/util.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QRadioButton>
+
+#include <algorithm>
+
+Page::Page(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+QJsonValue Page::read(const QString &path) { return Util::readJsonValue(mainDialog->document(), path); }
+
+QString Page::text(const QString &path) { return read(path).toString(); }
+
+QString Page::word(const QString &path) { return text(path).toUpper(); }
+
+int Page::number(const QString &path) { return read(path).toInt(); }
+
+bool Page::isSet(const QString &path) { return word(path) == QLatin1String("SET"); }
+
+bool Page::flag(const char *name) { return isSet(flagPath(name)); }
+
+QString Page::flagPath(const char *name) { return QStringLiteral("IduFuncList.") + QLatin1String(name); }
+
+QString Page::installation(const char *key)
+{
+    return QStringLiteral("SettingInfo.installation.") + QLatin1String(key);
+}
+
+void Page::write(const QString &path, const QJsonValue &value)
+{
+    QJsonDocument document = mainDialog->document();
+    Util::modifyJsonValue(document, path, value);
+    mainDialog->setDocument(document);
+}
+
+void Page::writeUnlessEmpty(const QString &path, const QJsonValue &value)
+{
+    if (!mainDialog->document().isEmpty()) {
+        write(path, value);
+    }
+}
+
+void Page::setCaptions(const std::vector<CaptionRow> &rows)
+{
+    for (const CaptionRow &row : rows) {
+        const QString caption = mainDialog->languageValue(QLatin1String(row.key));
+        if (auto *label = qobject_cast<QLabel *>(row.widget)) {
+            label->setText(caption);
+        } else if (auto *button = qobject_cast<QAbstractButton *>(row.widget)) {
+            button->setText(caption);
+        }
+    }
+}
+
+void Page::saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton *button)
+{
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [button](const ChoiceRow &each) { return each.button == button; });
+    if (row != rows.end()) {
+        saveJsonData(QLatin1String(row->path), QLatin1String(row->word));
+    }
+}
+
+void Page::saveValue(const ValueRow &row) { saveJsonData(QLatin1String(row.path), shownValue(row)); }
+
+QJsonValue Page::shownValue(const ValueRow &row)
+{
+    const auto celsius = [](int shown) {
+        return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
+    };
+    const QString shownText = row.combo->currentText();
+    switch (row.shown) {
+    case Shown::Index:
+        return row.combo->currentIndex() + row.offset;
+    case Shown::Temperature:
+        return celsius(mainDialog->textWithoutTwoChars(shownText));
+    case Shown::Kelvin:
+        return celsius(mainDialog->textWithoutOneChar(shownText));
+    case Shown::Number:
+        return shownText.toInt();
+    case Shown::Key:
+        return mainDialog->languageKeyOrText(shownText);
+    }
+    return {};
+}
+
+void Page::uncheck(std::initializer_list<QRadioButton *> radios)
+{
+    for (QRadioButton *radio : radios) {
+        radio->setAutoExclusive(false);
+    }
+    for (QRadioButton *radio : radios) {
+        radio->setChecked(false);
+    }
+    for (QRadioButton *radio : radios) {
+        radio->setAutoExclusive(true);
+    }
+}
+
+void Page::checkPair(const QString &value, const PairRow &pair)
+{
+    if (value == QLatin1String(pair.firstWord)) {
+        pair.first->setChecked(true);
+    } else if (value == QLatin1String(pair.secondWord)) {
+        pair.second->setChecked(true);
+    } else {
+        uncheck({pair.first, pair.second});
+    }
+}
+
+QStringList Page::languageTexts(const std::vector<const char *> &keys)
+{
+    QStringList texts;
+    for (const char *key : keys) {
+        texts.append(mainDialog->languageValue(QLatin1String(key)));
+    }
+    return texts;
+}
+
+QStringList Page::numbered(int first, int last, int step, const QString &suffix)
+{
+    QStringList items;
+    for (int value = first; value <= last; value += step) {
+        items.append(QString::number(value) + suffix);
+    }
+    return items;
+}

@@ -1,0 +1,19 @@
+#include "pages/style.h"
+
+namespace style {
+
+QString radioText(bool isEnabled)
+{
+    return QStringLiteral("QRadioButton{color : %1} QRadioButton::indicator { width: 18px; height: 18px; "
+                          "margin-right:8px;}"
+                          "QRadioButton::indicator::unchecked {image: url(:/images/btn_radiobtn_off.png);}"
+                          "QRadioButton::indicator::checked {image: url(:/images/btn_radiobtn_on.png);}")
+        .arg(isEnabled ? QStringLiteral("rgba(33,33,33)") : QStringLiteral("rgba(33,33,33,30%)"));
+}
+
+QString labelText(bool isEnabled)
+{
+    return isEnabled ? QStringLiteral("color : #555555;") : QStringLiteral("color : rgba(55,55,55,30%)");
+}
+
+} // namespace style

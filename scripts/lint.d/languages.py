@@ -1,0 +1,39 @@
+#!/usr/bin/env python3
+"""Holds the language keys that the code asks for against those of the delivered English file."""
+import json
+import re
+from pathlib import Path
+
+from tree import ROOT, allowed, finish, own_files
+
+ENGLISH = ROOT / "resources/language/English.json"
+RESERVED = ROOT / "resources/language/reserved-keys.txt"  # in the file, but not asked for
+UNANSWERED = Path(__file__).with_name("languages-unanswered.txt")  # asked for, but not in the file
+
+LITERAL = re.compile(r'"((?:\\.|[^"\\\n])*)"')
+TEXT = r'(?:QStringLiteral\(|QLatin1String\()?"([^"\n]+)"'
+ASKED = [
+    re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT),
+    re.compile(r"\{\s*ui->\w+,\s*" + TEXT + r"\)?\s*\}"),  # a caption's row
+]
+
+
+def main():
+    keys = set(json.loads(ENGLISH.read_text(encoding="utf-8")))
+    reserved, unanswered = allowed(RESERVED), allowed(UNANSWERED)
+    mentioned, findings = set(), []
+    for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*"):
+        text = (ROOT / path).read_text(encoding="utf-8")
+        mentioned.update(LITERAL.findall(text))
+        for pattern in ASKED:
+            for match in pattern.finditer(text):
+                if match.group(1) not in keys | unanswered:
+                    line = text.count("\n", 0, match.start()) + 1
+                    findings.append(f"{path}:{line}: no key {match.group(1)!r} in {ENGLISH.name}")
+    findings += [f"nobody asks for the key {key!r} of {ENGLISH.name}" for key in sorted(keys - mentioned - reserved)]
+    findings += [f"{RESERVED.name}: {key!r} is not a key" for key in sorted(reserved - keys)]
+    findings += [f"{UNANSWERED.name}: {key!r} is a key by now" for key in sorted(unanswered & keys)]
+    finish("languages", findings)
+
+
+main()

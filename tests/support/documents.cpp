@@ -1,0 +1,78 @@
+#include "support/documents.h"
+
+#include <QFile>
+#include <QJsonObject>
+
+namespace {
+
+void collect(const QJsonObject &object, const QString &prefix, QVariantMap &leaves)
+{
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const QString path = prefix + member.key();
+        if (member->isObject() && !member->toObject().isEmpty()) {
+            collect(member->toObject(), path + QLatin1Char('.'), leaves);
+        } else {
+            leaves.insert(path, member->toVariant());
+        }
+    }
+}
+
+QVariantMap leaves(const QJsonDocument &document)
+{
+    QVariantMap result;
+    collect(document.object(), QString(), result);
+    return result;
+}
+
+QJsonObject set(QJsonObject object, const QStringList &names, const QVariant &value)
+{
+    const QString &name = names.first();
+    if (names.size() > 1) {
+        object.insert(name, set(object.value(name).toObject(), names.mid(1), value));
+    } else if (value.isValid()) {
+        object.insert(name, QJsonValue::fromVariant(value));
+    } else {
+        object.remove(name);
+    }
+    return object;
+}
+
+} // namespace
+
+QJsonDocument documents::standard(const QString &refrigerant)
+{
+    QFile file(QStringLiteral(":/defaultsettings/KV5_AWHP_DATA_%1.json").arg(refrigerant));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("No default document %s", qPrintable(refrigerant));
+    }
+    return QJsonDocument::fromJson(file.readAll());
+}
+
+QJsonDocument documents::with(QJsonDocument document, const QVariantMap &values)
+{
+    QJsonObject root = document.object();
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        root = set(root, value.key().split(QLatin1Char('.')), value.value());
+    }
+    document.setObject(root);
+    return document;
+}
+
+QVariantMap documents::changes(const QJsonDocument &before, const QJsonDocument &after)
+{
+    const QVariantMap old = leaves(before);
+    const QVariantMap now = leaves(after);
+    QVariantMap result;
+    for (auto leaf = now.begin(); leaf != now.end(); ++leaf) {
+        if (!old.contains(leaf.key()) || old.value(leaf.key()) != leaf.value()
+            || old.value(leaf.key()).type() != leaf.value().type()) {
+            result.insert(leaf.key(), leaf.value());
+        }
+    }
+    for (auto leaf = old.begin(); leaf != old.end(); ++leaf) {
+        if (!now.contains(leaf.key())) {
+            result.insert(leaf.key(), QVariant());
+        }
+    }
+    return result;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QJsonDocument>
+#include <QVariantMap>
+
+/// Settings documents of the tests.
+namespace documents {
+
+/// The default document of "R32" or "R410".
+QJsonDocument standard(const QString &refrigerant);
+
+/// The document with the values set at their paths; an invalid QVariant removes the key.
+QJsonDocument with(QJsonDocument document, const QVariantMap &values);
+
+/// Path -> value of every leaf that differs: the value in `after`, or an invalid QVariant where it is gone.
+QVariantMap changes(const QJsonDocument &before, const QJsonDocument &after);
+
+} // namespace documents

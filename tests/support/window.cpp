@@ -1,0 +1,139 @@
+#include "support/window.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFrame>
+#include <QMetaMethod>
+
+Window::Window()
+{
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog)) {
+        qFatal("The window isn't shown");
+    }
+}
+
+void Window::use(const QJsonDocument &document, const QString &unit)
+{
+    dialog.setDocument(document);
+    dialog.setTempUnit(unit);
+}
+
+void Window::showPage(int step, int tab)
+{
+    auto *steps = find<QStackedWidget>(&dialog, "stackedWidget");
+    steps->setCurrentIndex(MainDialog::SelectPage);
+    if (tab >= 0) {
+        find<QStackedWidget>(&dialog, "settingStackedWidget")->setCurrentIndex(tab);
+    }
+    steps->setCurrentIndex(step);
+}
+
+void Window::expand(QWidget *section, bool open)
+{
+    auto *button = find<QPushButton>(section, "hideButton");
+    if (find<QFrame>(section, "frame")->isHidden() == open) {
+        click(button);
+    }
+}
+
+QVariantMap Window::changes(const std::function<void()> &action) const
+{
+    const QJsonDocument before = dialog.document();
+    action();
+    return documents::changes(before, dialog.document());
+}
+
+void Window::click(QWidget *widget)
+{
+    if (!widget->isVisible() || !widget->isEnabled()) {
+        qFatal("Can't click %s: it is hidden or disabled", qPrintable(widget->objectName()));
+    }
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(12, widget->height() / 2));
+}
+
+void Window::choose(QComboBox *combo, const QString &item)
+{
+    const int index = combo->findText(item, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) {
+        qFatal("%s has no item %s", qPrintable(combo->objectName()), qPrintable(item));
+    }
+    choose(combo, index);
+}
+
+void Window::choose(QComboBox *combo, int index)
+{
+    if (!combo->isVisible() || !combo->isEnabled()) {
+        qFatal("Can't choose in %s: it is hidden or disabled", qPrintable(combo->objectName()));
+    }
+    combo->setFocus();
+    combo->showPopup();
+    QAbstractItemView *list = combo->view();
+    list->setCurrentIndex(combo->model()->index(index, combo->modelColumn(), combo->rootModelIndex()));
+    QTest::keyClick(list, Qt::Key_Return);
+}
+
+void Window::type(QLineEdit *edit, const QString &text)
+{
+    if (!edit->isVisible() || !edit->isEnabled()) {
+        qFatal("Can't type into %s: it is hidden or disabled", qPrintable(edit->objectName()));
+    }
+    edit->setFocus();
+    edit->selectAll();
+    if (text.isEmpty()) {
+        QTest::keyClick(edit, Qt::Key_Delete);
+    } else {
+        QTest::keyClicks(edit, text);
+    }
+}
+
+QStringList Window::items(const QComboBox *combo)
+{
+    QStringList texts;
+    for (int index = 0; index < combo->count(); ++index) {
+        texts.append(combo->itemText(index));
+    }
+    return texts;
+}
+
+namespace {
+
+QStringList ownMethods(const QObject *object, QMetaMethod::MethodType type)
+{
+    QStringList signatures;
+    const QMetaObject *meta = object->metaObject();
+    for (int index = meta->methodOffset(); index < meta->methodCount(); ++index) {
+        const QMetaMethod method = meta->method(index);
+        if (method.methodType() == type && (method.attributes() & QMetaMethod::Cloned) == 0) {
+            signatures.append(QString::fromLatin1(method.methodSignature()));
+        }
+    }
+    return signatures;
+}
+
+} // namespace
+
+QStringList Window::ownSlots(const QObject *object) { return ownMethods(object, QMetaMethod::Slot); }
+
+QStringList Window::ownSignals(const QObject *object) { return ownMethods(object, QMetaMethod::Signal); }
+
+QStringList range(int lower, int upper, const QString &suffix, int step)
+{
+    QStringList texts;
+    for (int value = lower; value <= upper; value += step) {
+        texts.append(QString::number(value) + suffix);
+    }
+    return texts;
+}
+
+int runTests(QObject *tests, int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
+    for (const char *face : {"Medium", "Bold", "Light", "Regular"}) {
+        QFontDatabase::addApplicationFont(QCoreApplication::applicationDirPath()
+                                          + QStringLiteral("/NotoSans-%1.ttf").arg(QLatin1String(face)));
+    }
+    QApplication::setFont(QFont(QStringLiteral("Noto Sans Medium")));
+    return QTest::qExec(tests, argc, argv);
+}

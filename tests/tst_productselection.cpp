@@ -1,0 +1,272 @@
+#include "support/window.h"
+
+#include "pages/product/productselection.h"
+
+#include <QSignalSpy>
+
+// Step 1: product type, product spec and refrigerant.
+class TestProductSelection : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        window = std::make_unique<Window>();
+        page = window->page<ProductSelection>();
+        Window::click(&window->dialog, "newButton");
+        messages::clear();
+    }
+    void cleanup() { window.reset(); }
+
+    void showsAwhpAloneOnNew();
+    void slotsAreDeclaredInOrder();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void mediumTemperatureAloneLeavesTheStepOpen();
+    void completesInAnyOrder_data();
+    void completesInAnyOrder();
+    void refrigerantStartsTheDocumentOver();
+    void sameRefrigerantTwiceStartsOver();
+    void showingAgainChangesNothing();
+    void newClearsAllRadios();
+    void highTemperatureWritesItsFlags();
+    void aquaboxWritesAndThenLoadsR410();
+    void unknownRefrigerantIsRefused();
+    void writesNothingWithoutDocument();
+
+private:
+    bool checked(const char *name) const { return Window::checked(page, name); }
+    bool productDone() const { return window->dialog.members().productDone; }
+
+    std::unique_ptr<Window> window;
+    ProductSelection *page = nullptr;
+};
+
+void TestProductSelection::showsAwhpAloneOnNew()
+{
+    QVERIFY(checked("radioButtonAwhp"));
+    for (const char *name : {"radioButtonMiddleTemp", "radioButtonHighTemp", "radioButtonR32",
+                             "radioButtonR410", "radioButtonAquabox"}) {
+        QVERIFY2(!checked(name), name);
+    }
+    for (const char *name :
+         {"label_img_awhp", "label_img_aquabox", "radioButtonAquabox", "radioButtonHighTemp"}) {
+        QVERIFY2(!Window::visible(page, name), name);
+    }
+    for (const char *name : {"label_img_awhp", "label_img_aquabox"}) {
+        QVERIFY2(!Window::find<QLabel>(page, name)->pixmap(Qt::ReturnByValue).isNull(), name);
+    }
+    QVERIFY(Window::enabled(page, "radioButtonMiddleTemp"));
+    QVERIFY(!Window::enabled(page, "radioButtonHighTemp"));
+    QVERIFY(!Window::enabled(page, "radioButtonAquabox"));
+    QVERIFY(!productDone());
+}
+
+void TestProductSelection::slotsAreDeclaredInOrder()
+{
+    QCOMPARE(Window::ownSignals(page), QStringList{"buttonClicked(QString)"});
+    QCOMPARE(Window::ownSlots(page),
+             (QStringList{"loadJsonData()", "saveJsonData(QString,QJsonValue)", "enableProductSpec()",
+                          "enableRefrigerantType()", "validationCheck()", "on_radioButtonAwhp_clicked()",
+                          "on_radioButtonAquabox_clicked()", "on_radioButtonMiddleTemp_clicked()",
+                          "on_radioButtonHighTemp_clicked()", "on_radioButtonR410_clicked()",
+                          "on_radioButtonR32_clicked()"}));
+}
+
+void TestProductSelection::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelProductType") << "Product type";
+    QTest::newRow("radioButtonAwhp") << "Calora";
+    QTest::newRow("radioButtonAquabox") << "Aquabox";
+    QTest::newRow("labelProductSpec") << "Product spec";
+    QTest::newRow("radioButtonMiddleTemp") << "Medium temperature";
+    QTest::newRow("radioButtonHighTemp") << "High temperature";
+    QTest::newRow("labelRefregerantType") << "Refrigerant type";
+    QTest::newRow("radioButtonR410") << "R410A";
+    QTest::newRow("radioButtonR32") << "R32";
+}
+
+void TestProductSelection::textsFollowTheLanguage()
+{
+    QFETCH(QString, text);
+    QCOMPARE(Window::find(page, QTest::currentDataTag())->property("text").toString(), text);
+}
+
+void TestProductSelection::mediumTemperatureAloneLeavesTheStepOpen()
+{
+    Window::click(page, "radioButtonMiddleTemp");
+    QVERIFY(!productDone());
+    QVERIFY(messages::contain("ProductSelection::validationCheck radioButtonR32"));
+}
+
+void TestProductSelection::completesInAnyOrder_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::newRow("spec first") << QByteArray("radioButtonMiddleTemp") << QByteArray("radioButtonR32");
+    QTest::newRow("refrigerant first")
+        << QByteArray("radioButtonR410") << QByteArray("radioButtonMiddleTemp");
+}
+
+void TestProductSelection::completesInAnyOrder()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    Window::click(page, first.constData());
+    QVERIFY(!productDone());
+    Window::click(page, second.constData());
+    QVERIFY(productDone());
+}
+
+void TestProductSelection::refrigerantStartsTheDocumentOver()
+{
+    QSignalSpy clicked(page, &ProductSelection::buttonClicked);
+    Window::click(page, "radioButtonR32");
+    QCOMPARE(window->dialog.document(), documents::standard("R32"));
+    QCOMPARE(window->dialog.members().refrigerant, QStringLiteral("R32"));
+    QCOMPARE(Window::find<QLabel>(&window->dialog, "pathLabel")->text(), QStringLiteral("R32"));
+    Window::click(page, "radioButtonR410");
+    QCOMPARE(window->dialog.document(), documents::standard("R410"));
+    QCOMPARE(window->dialog.members().refrigerant, QStringLiteral("R410"));
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked.at(0).at(0).toString(), QStringLiteral("R32"));
+    QCOMPARE(clicked.at(1).at(0).toString(), QStringLiteral("R410"));
+    for (const char *icon : {"functionValidationIcon", "userValidationIcon", "serviceValidationIcon",
+                             "installationValidationIcon"}) {
+        QVERIFY2(Window::shownItself(&window->dialog, icon), icon);
+    }
+    QVERIFY(Window::shownItself(&window->dialog, "labelErrorSetting"));
+    QVERIFY(!window->dialog.members().settingDone);
+}
+
+void TestProductSelection::sameRefrigerantTwiceStartsOver()
+{
+    Window::click(page, "radioButtonR32");
+    window->use(documents::with(documents::standard("R32"), {{"SettingInfo.user.themeSet", "black"}}));
+    Window::click(page, "radioButtonR32");
+    QCOMPARE(window->dialog.document(), documents::standard("R32"));
+}
+
+void TestProductSelection::showingAgainChangesNothing()
+{
+    Window::click(page, "radioButtonR32");
+    const QJsonDocument worked = documents::with(documents::standard("R32"),
+                                                 {{"SettingInfo.user.themeSet", "black"}});
+    window->use(worked);
+    window->showPage(MainDialog::ProductPage);
+    QCOMPARE(window->dialog.document(), worked);
+}
+
+// AWHP is checked again by the last step of the load that New runs; no group keeps any other radio.
+void TestProductSelection::newClearsAllRadios()
+{
+    Window::click(page, "radioButtonMiddleTemp");
+    Window::click(page, "radioButtonR32");
+    QVERIFY(productDone());
+    messages::clear();
+    Window::click(&window->dialog, "newButton");
+    QVERIFY(messages::contain("ProductSelection::newJsonData"));
+    QVERIFY(!productDone());
+    showsAwhpAloneOnNew();
+}
+
+void TestProductSelection::highTemperatureWritesItsFlags()
+{
+    const QJsonDocument before = documents::with(documents::standard("R410"),
+                                                 {{"IduFuncList.is_heater2", "x"},
+                                                  {"IduFuncList.is_heater1", "x"},
+                                                  {"IduFuncList.is_cool", "x"},
+                                                  {"IduFuncList.isDisableDisinfect", "x"},
+                                                  {"IduFuncList.is_hotwater_by_disinfection", "x"},
+                                                  {"IduFuncList.is_installed_heater", "x"},
+                                                  {"IduFuncList.isCoolTempMin5", "x"},
+                                                  {"IduFuncList.isR32", "x"}});
+    window->use(before);
+    const QVariantMap changes = window->changes(
+        [this] { Window::invoke(page, "on_radioButtonHighTemp_clicked"); });
+    const QVariantMap expected{{"IduFuncList.is_heater2", "CLR"},
+                               {"IduFuncList.is_heater1", "CLR"},
+                               {"IduFuncList.is_cool", "CLR"},
+                               {"IduFuncList.isDisableDisinfect", "CLR"},
+                               {"IduFuncList.is_hotwater_by_disinfection", "SET"},
+                               {"IduFuncList.is_installed_heater", "CLR"},
+                               {"IduFuncList.isCoolTempMin5", "CLR"},
+                               {"IduFuncList.isR32", "CLR"}};
+    QCOMPARE(changes, expected);
+}
+
+void TestProductSelection::aquaboxWritesAndThenLoadsR410()
+{
+    const QVariantMap written{{"product", "aquabox"},
+                              {"IduFuncList.is_schedule_boostHeater", "CLR"},
+                              {"IduFuncList.isSilentDisable", "CLR"},
+                              {"IduFuncList.isWaterFlowRate", "SET"},
+                              {"IduFuncList.isOverride", "SET"},
+                              {"IduFuncList.isDisableHotwaterKeyCool", "SET"},
+                              {"IduFuncList.isDisableRunMode", "CLR"},
+                              {"IduFuncList.is_200Combination", "SET"},
+                              {"IduFuncList.is_cement_Curing", "CLR"},
+                              {"IduFuncList.is_waterthermoonoff", "SET"},
+                              {"IduFuncList.is_coolThermoOnOff", "SET"},
+                              {"IduFuncList.is_ghpWarningOil", "SET"},
+                              {"IduFuncList.is_ModeLock", "CLR"},
+                              {"IduFuncList.is_MainZone_circuit", "CLR"},
+                              {"IduFuncList.isSGReady", "CLR"},
+                              {"IduFuncList.isModbusAddress", "CLR"},
+                              {"IduFuncList.isOduFunctionMS", "SET"},
+                              {"IduFuncList.isDefrostMode", "SET"},
+                              {"IduFuncList.isLeakRefrigerant", "SET"},
+                              {"IduFuncList.isIduAdd", "SET"},
+                              {"IduFuncList.isEmergencyAllStop", "SET"},
+                              {"IduFuncList.isSilentPriority", "SET"},
+                              {"IduFuncList.isHsModel", "SET"},
+                              {"IduFuncList.is200CombinationOp2", "SET"},
+                              {"IduFuncList.isModeStandby", "SET"},
+                              {"IduFuncList.isMotorDuty", "CLR"},
+                              {"IduFuncList.isWaterCtrBasisAir", "SET"},
+                              {"IduFuncList.isHotwaterTankHeaterUse", "CLR"},
+                              {"IduFuncList.isAntiFreeze", "CLR"},
+                              {"IduFuncList.isMeterInterface", "SET"},
+                              {"IduFuncList.isCoolAir16", "SET"},
+                              {"IduFuncList.isWaterPumpOperationByForceAdv", "SET"},
+                              {"IduFuncList.isPumpPreOverRun", "SET"},
+                              {"IduFuncList.isIduAirTempSW", "SET"},
+                              {"IduFuncList.isNoticeCanEmerOper", "SET"}};
+    QCOMPARE(written.size(), 35);
+    QVariantMap marked;
+    for (auto path = written.keyBegin(); path != written.keyEnd(); ++path) {
+        marked.insert(*path, "x");
+    }
+    // With AWHP checked the slot's writes stay in the document.
+    window->use(documents::with(documents::standard("R32"), marked));
+    QCOMPARE(window->changes([this] { Window::invoke(page, "on_radioButtonAquabox_clicked"); }), written);
+
+    // With Aquabox itself checked the refrigerant click follows and loads the R410 default.
+    auto *aquabox = Window::find<QRadioButton>(page, "radioButtonAquabox");
+    aquabox->setEnabled(true);
+    aquabox->show();
+    Window::click(aquabox);
+    QCOMPARE(window->dialog.document(), documents::standard("R410"));
+    QVERIFY(!Window::enabled(page, "radioButtonR32"));
+    QVERIFY(checked("radioButtonR410"));
+}
+
+void TestProductSelection::unknownRefrigerantIsRefused()
+{
+    QVERIFY(!window->dialog.openNewJsonFile("R134"));
+    QVERIFY(messages::contain("MainDialog::openNewJsonFile load json data failed"));
+    QVERIFY(window->dialog.openNewJsonFile("r32"));
+    QCOMPARE(Window::find<QLabel>(&window->dialog, "pathLabel")->text(), QStringLiteral("R32"));
+}
+
+void TestProductSelection::writesNothingWithoutDocument()
+{
+    QVERIFY(window->dialog.document().isNull());
+    Window::invoke(page, "on_radioButtonHighTemp_clicked");
+    QVERIFY(window->dialog.document().isNull());
+}
+
+CALORA_TEST_MAIN(TestProductSelection)
+#include "tst_productselection.moc"
