@@ -2,8 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QFile>
 #include <QFontDatabase>
 #include <QFrame>
+#include <QJsonObject>
 #include <QMetaMethod>
 
 Window::Window()
@@ -18,6 +20,20 @@ void Window::use(const QJsonDocument &document, const QString &unit)
 {
     dialog.setDocument(document);
     dialog.setTempUnit(unit);
+}
+
+void Window::speak(const QString &mark)
+{
+    QFile file(QStringLiteral(":/language/English.json"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("No English");
+    }
+    QJsonObject texts = QJsonDocument::fromJson(file.readAll()).object();
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        text.value() = text.value().toString() + mark;
+    }
+    dialog.setLanguageDocument(QJsonDocument(texts));
+    dialog.changeLanguage();
 }
 
 void Window::showPage(int step, int tab)
