@@ -29,6 +29,8 @@ MainDialog::MainDialog(QWidget *parent)
 
     QFile look(QStringLiteral(":/style/calora.qss"));
     if (look.open(QIODevice::ReadOnly)) {
+        // A frame that isn't polished yet wouldn't tell the children that measured themselves already.
+        ui->windowFrame->ensurePolished();
         ui->windowFrame->setStyleSheet(QString::fromUtf8(look.readAll()));
     }
 

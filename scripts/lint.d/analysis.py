@@ -25,6 +25,7 @@ CLAZY_CHECKS = ",".join([
     "no-connect-by-name",  # slots named on_<object>_<signal> are how the pages are wired
     "no-qstring-ref",  # QStringRef is gone after Qt 5, and our strings are short
 ])
+CLAZY_CHECKS_OF_TESTS = CLAZY_CHECKS + ",no-range-loop-detach"  # a copy of a short list costs a test nothing
 
 
 def command_for_clang(entry):
@@ -80,17 +81,18 @@ def run_tidy(source):
 
 
 def run_clazy(source):
-    """clazy ends with 0 whatever it found, so its words decide."""
+    """clazy may end with 0 whatever it found, so its words decide."""
+    checks = CLAZY_CHECKS_OF_TESTS if Path(source).is_relative_to(ROOT / "tests") else CLAZY_CHECKS
     done = subprocess.run(
-        ["clazy-standalone", "-p", LINT, "--checks=" + CLAZY_CHECKS, "--ignore-dirs=/usr/|/build/", source],
+        ["clazy-standalone", "-p", LINT, "--checks=" + checks, "--ignore-dirs=/usr/|/build/", source],
         capture_output=True, text=True, check=False)
     output = done.stdout + done.stderr
-    return done.returncode == 0 and not re.search(r"\b(?:warning|error): ", output), output
+    return done.returncode == 0 and not re.search(r":\d+:\d+: (?:fatal )?(?:warning|error): ", output), output
 
 
 TOOLS = {
     "clang-tidy": (run_tidy, content(ROOT / ".clang-tidy")),
-    "clazy-standalone": (run_clazy, CLAZY_CHECKS),
+    "clazy-standalone": (run_clazy, CLAZY_CHECKS_OF_TESTS),
 }
 
 
