@@ -142,7 +142,7 @@ QByteArray laidOut(const QByteArray &key, const QJsonValue &value, int level)
         return start + json.mid(1, json.size() - 2);
     }
     QList<QByteArray> lines;
-    for (const QJsonValue &element : value.toArray())
+    for (const auto &element : value.toArray())
         lines.append(QByteArray(2 * level + 2, ' ') + QByteArray::number(element.toInt()));
     return start + "[\r\n" + lines.join(",\r\n") + "\r\n" + QByteArray(2 * level, ' ') + ']';
 }

@@ -16,6 +16,15 @@ ASKED = [
     re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT),
     re.compile(r"\{\s*ui->\w+,\s*" + TEXT + r"\)?\s*\}"),  # a caption's row
 ]
+LISTED = re.compile(r"\blanguageTexts\(\s*\{([^}]*)\}")  # the texts of a list
+
+
+def asked(text):
+    """Yields (position, key) of each key that the code names where it asks for one."""
+    for pattern in ASKED:
+        yield from ((match.start(1), match.group(1)) for match in pattern.finditer(text))
+    for keys in LISTED.finditer(text):
+        yield from ((keys.start(1) + match.start(1), match.group(1)) for match in LITERAL.finditer(keys.group(1)))
 
 
 def main():
@@ -25,11 +34,10 @@ def main():
     for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*"):
         text = (ROOT / path).read_text(encoding="utf-8")
         mentioned.update(LITERAL.findall(text))
-        for pattern in ASKED:
-            for match in pattern.finditer(text):
-                if match.group(1) not in keys | unanswered:
-                    line = text.count("\n", 0, match.start()) + 1
-                    findings.append(f"{path}:{line}: no key {match.group(1)!r} in {ENGLISH.name}")
+        for position, key in asked(text):
+            if key not in keys | unanswered:
+                line = text.count("\n", 0, position) + 1
+                findings.append(f"{path}:{line}: no key {key!r} in {ENGLISH.name}")
     findings += [f"nobody asks for the key {key!r} of {ENGLISH.name}" for key in sorted(keys - mentioned - reserved)]
     findings += [f"{RESERVED.name}: {key!r} is not a key" for key in sorted(reserved - keys)]
     findings += [f"{UNANSWERED.name}: {key!r} is a key by now" for key in sorted(unanswered & keys)]

@@ -51,7 +51,8 @@ public:
     /// Puts a document in force, as Open does, and °C unless told otherwise. No page is loaded by this.
     void use(const QJsonDocument &document, const QString &unit = QStringLiteral("CENTIGRADE"));
 
-    /// Puts English in force on all pages, or a language whose every text is the English one followed by `mark`.
+    /// Puts English in force on all pages, or a language whose every text is the English one followed by
+    /// `mark`.
     void speak(const QString &mark = QString());
 
     /// Shows a page anew, so that its show event loads it: the step's index, and the tab's for the Setting
