@@ -2,13 +2,9 @@
 
 #include "pages/operation/settingfunction.h"
 
-#include <QWheelEvent>
-
 namespace {
 
 const QString func = QStringLiteral("SettingInfo.func.");
-const QString startClock = func + QStringLiteral("silentTimer.start");
-const QString endClock = func + QStringLiteral("silentTimer.end");
 const QString enabledLabel = QStringLiteral("color : #555555;");
 const QString dimmedLabel = QStringLiteral("color : rgba(55,55,55,30%)");
 
@@ -51,21 +47,9 @@ private slots:
     void defaultsShowAndStay_data();
     void defaultsShowAndStay();
     void showingMarksTheStep();
-    void silentModeGroupShows_data();
-    void silentModeGroupShows();
-    void silentRadiosFollowTheDocument_data();
-    void silentRadiosFollowTheDocument();
-    void silentModeEnablesItsTimes();
     void radiosWrite_data();
     void radiosWrite();
     void onOffLockAloneIsLogged();
-    void hoursAreSavedByHalfDays_data();
-    void hoursAreSavedByHalfDays();
-    void minutesAreSaved();
-    void timesShow_data();
-    void timesShow();
-    void timesThatAreNotListedAreReplaced_data();
-    void timesThatAreNotListedAreReplaced();
     void allLockOverridesOnTheScreenOnly();
     void unknownAllLockCountsAsLocked_data();
     void unknownAllLockCountsAsLocked();
@@ -82,13 +66,8 @@ private slots:
     void everyChangeIsChecked();
     void unusedLockSlotsWork_data();
     void unusedLockSlotsWork();
-    void timesBecomeText_data();
-    void timesBecomeText();
-    void halfDaysBecomeText_data();
-    void halfDaysBecomeText();
     void stylesOfEnabledAndDimmed();
     void writesNothingWithoutDocument();
-    void wheelChangesNothing();
 
 private:
     void show(const QVariantMap &values = {});
@@ -297,109 +276,6 @@ void TestSettingFunction::showingMarksTheStep()
                                             "url(:/images/btn_step_3_focus.png);}"));
 }
 
-void TestSettingFunction::silentModeGroupShows_data()
-{
-    QTest::addColumn<QString>("disable");
-    QTest::addColumn<QString>("hasPriority");
-    QTest::addColumn<QString>("master");
-    QTest::addColumn<QString>("priority");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("not disabled") << "CLR"
-                                  << "CLR"
-                                  << "SLAVE"
-                                  << "oduSwitch" << true;
-    QTest::newRow("not disabled, any case") << "clr"
-                                            << "CLR"
-                                            << "SLAVE"
-                                            << "oduSwitch" << true;
-    QTest::newRow("disabled") << "SET"
-                              << "CLR"
-                              << "SLAVE"
-                              << "oduSwitch" << false;
-    QTest::newRow("remote has priority") << "SET"
-                                         << "SET"
-                                         << "MASTER"
-                                         << "rmcSetting" << true;
-    QTest::newRow("any case") << "SET"
-                              << "set"
-                              << "master"
-                              << "RMCSETTING" << true;
-    QTest::newRow("no priority flag") << "SET"
-                                      << "CLR"
-                                      << "MASTER"
-                                      << "rmcSetting" << false;
-    QTest::newRow("slave") << "SET"
-                           << "SET"
-                           << "SLAVE"
-                           << "rmcSetting" << false;
-    QTest::newRow("switch has priority") << "SET"
-                                         << "SET"
-                                         << "MASTER"
-                                         << "oduSwitch" << false;
-    QTest::newRow("nothing known") << ""
-                                   << ""
-                                   << ""
-                                   << "" << false;
-}
-
-void TestSettingFunction::silentModeGroupShows()
-{
-    QFETCH(QString, disable);
-    QFETCH(QString, hasPriority);
-    QFETCH(QString, master);
-    QFETCH(QString, priority);
-    QFETCH(bool, shown);
-    show({{"IduFuncList.isSilentDisable", disable},
-          {"IduFuncList.isSilentPriority", hasPriority},
-          {"SettingInfo.installation.OduFunctionMS", master},
-          {"SettingInfo.installation.silentModePriority", priority}});
-    QCOMPARE(Window::shownItself(page, "groupBoxSilentMode"), shown);
-    QCOMPARE(Window::enabled(page, "groupBoxSilentMode"), shown);
-}
-
-void TestSettingFunction::silentRadiosFollowTheDocument_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("off");
-    QTest::addColumn<bool>("on");
-    QTest::newRow("CLR") << QVariant("CLR") << true << false;
-    QTest::newRow("set") << QVariant("set") << false << true;
-    QTest::newRow("unknown") << QVariant("x") << false << false;
-    QTest::newRow("missing") << QVariant() << false << false;
-    QTest::newRow("SET") << QVariant("SET") << false << true;
-}
-
-void TestSettingFunction::silentRadiosFollowTheDocument()
-{
-    QFETCH(QVariant, value);
-    QFETCH(bool, off);
-    QFETCH(bool, on);
-    show({{func + "silentTimer.set", value}});
-    QCOMPARE(Window::checked(page, "radioSlientModeNotuse"), off);
-    QCOMPARE(Window::checked(page, "radioSlientModeUse"), on);
-    QCOMPARE(Window::enabled(page, "groupBoxSilentModeSub"), on);
-    QCOMPARE(valid(), off || on);
-}
-
-void TestSettingFunction::silentModeEnablesItsTimes()
-{
-    const auto verify = [this](bool on) {
-        for (const char *name : {"groupBoxSilentModeSub", "comboSilentStartHour", "comboSilentStartMin",
-                                 "comboSilentEndHour", "comboSilentEndMin"}) {
-            QVERIFY2(Window::enabled(page, name) == on, name);
-        }
-        QCOMPARE(style("labelStratTime"), on ? enabledLabel : dimmedLabel);
-        QCOMPARE(style("labelEndTime"), on ? enabledLabel : dimmedLabel);
-    };
-    show();
-    verify(false);
-    Window::click(page, "radioSlientModeUse");
-    verify(true);
-    Window::click(page, "radioSlientModeNotuse");
-    verify(false);
-    QCOMPARE(window->dialog.document(), documents::standard("R410"));
-}
-
 void TestSettingFunction::radiosWrite_data()
 {
     QTest::addColumn<QString>("path");
@@ -458,113 +334,6 @@ void TestSettingFunction::onOffLockAloneIsLogged()
         Window::click(page, radio);
         QCOMPARE(messages::contain("SettingFunction::on_radioOnOffButtonUse_clicked"),
                  qstrcmp(radio, "radioOnOffButtonUse") == 0);
-    }
-}
-
-void TestSettingFunction::hoursAreSavedByHalfDays_data()
-{
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<QString>("ampm");
-    QTest::newRow("00") << 0 << "AM";
-    QTest::newRow("01") << 1 << "AM";
-    QTest::newRow("11") << 11 << "AM";
-    QTest::newRow("12") << 12 << "AM";
-    QTest::newRow("13") << 1 << "PM";
-    QTest::newRow("22") << 10 << "PM";
-    QTest::newRow("23") << 11 << "PM";
-}
-
-void TestSettingFunction::hoursAreSavedByHalfDays()
-{
-    QFETCH(int, hour);
-    QFETCH(QString, ampm);
-    const std::vector<std::pair<const char *, QString>> clocks{{"comboSilentStartHour", startClock},
-                                                               {"comboSilentEndHour", endClock}};
-    for (const auto &[combo, clock] : clocks) {
-        show({{func + "silentTimer.set", "SET"}, {clock + ".hour", 5}, {clock + ".ampm", "PM"}});
-        QCOMPARE(Window::shown(page, combo), QStringLiteral("17"));
-        QVariantMap expected{{clock + ".hour", hour}};
-        if (ampm == "AM") {
-            expected.insert(clock + ".ampm", ampm);
-        }
-        QCOMPARE(changesOf(combo, QTest::currentDataTag()), expected);
-        QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
-        window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
-        QCOMPARE(Window::shown(page, combo), QString(QTest::currentDataTag()));
-    }
-}
-
-void TestSettingFunction::minutesAreSaved()
-{
-    show({{func + "silentTimer.set", "SET"}});
-    QCOMPARE(changesOf("comboSilentStartMin", "07"), (QVariantMap{{startClock + ".min", 7}}));
-    QCOMPARE(changesOf("comboSilentEndMin", "59"), (QVariantMap{{endClock + ".min", 59}}));
-    QCOMPARE(changesOf("comboSilentEndMin", "00"), (QVariantMap{{endClock + ".min", 0}}));
-}
-
-void TestSettingFunction::timesShow_data()
-{
-    QTest::addColumn<QString>("ampm");
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<QString>("shownHour");
-    QTest::addColumn<QString>("shownMinute");
-    QTest::newRow("AM 0:00") << "AM" << 0 << 0 << "00"
-                             << "00";
-    QTest::newRow("AM 9:09") << "AM" << 9 << 9 << "09"
-                             << "09";
-    QTest::newRow("AM 12:10") << "AM" << 12 << 10 << "12"
-                              << "10";
-    QTest::newRow("pm 1:59") << "pm" << 1 << 59 << "13"
-                             << "59";
-    QTest::newRow("PM 11:30") << "PM" << 11 << 30 << "23"
-                              << "30";
-}
-
-void TestSettingFunction::timesShow()
-{
-    QFETCH(QString, ampm);
-    QFETCH(int, hour);
-    QFETCH(int, minute);
-    for (const QString &clock : {startClock, endClock}) {
-        show({{clock + ".ampm", ampm}, {clock + ".hour", hour}, {clock + ".min", minute}});
-        const bool start = clock == startClock;
-        QTEST(Window::shown(page, start ? "comboSilentStartHour" : "comboSilentEndHour"), "shownHour");
-        QTEST(Window::shown(page, start ? "comboSilentStartMin" : "comboSilentEndMin"), "shownMinute");
-    }
-}
-
-// The lists stand on other items before; the slots write what is shown instead.
-void TestSettingFunction::timesThatAreNotListedAreReplaced_data()
-{
-    QTest::addColumn<QVariant>("ampm");
-    QTest::addColumn<QVariant>("hour");
-    QTest::addColumn<QVariant>("minute");
-    QTest::newRow("noon as PM 12") << QVariant("PM") << QVariant(12) << QVariant(60);
-    QTest::newRow("beyond the day") << QVariant("AM") << QVariant(24) << QVariant(100);
-    QTest::newRow("beyond the afternoon") << QVariant("PM") << QVariant(13) << QVariant(77);
-    QTest::newRow("far beyond") << QVariant("PM") << QVariant(2147483647) << QVariant(2147483647);
-    QTest::newRow("negative") << QVariant("AM") << QVariant(-1) << QVariant(-5);
-    QTest::newRow("no number") << QVariant("AM") << QVariant("7") << QVariant("7");
-    QTest::newRow("missing") << QVariant() << QVariant() << QVariant();
-}
-
-void TestSettingFunction::timesThatAreNotListedAreReplaced()
-{
-    QFETCH(QVariant, ampm);
-    QFETCH(QVariant, hour);
-    QFETCH(QVariant, minute);
-    for (const QString &clock : {startClock, endClock}) {
-        show({{clock + ".hour", 3}, {clock + ".min", 3}});
-        show({{clock + ".ampm", ampm}, {clock + ".hour", hour}, {clock + ".min", minute}});
-        const bool start = clock == startClock;
-        QCOMPARE(Window::shown(page, start ? "comboSilentStartHour" : "comboSilentEndHour"),
-                 QStringLiteral("00"));
-        QCOMPARE(Window::shown(page, start ? "comboSilentStartMin" : "comboSilentEndMin"),
-                 QStringLiteral("00"));
-        QCOMPARE(window->dialog.document(),
-                 documents::with(documents::standard("R410"),
-                                 {{clock + ".ampm", "AM"}, {clock + ".hour", 0}, {clock + ".min", 0}}));
     }
 }
 
@@ -784,60 +553,6 @@ void TestSettingFunction::unusedLockSlotsWork()
     }
 }
 
-void TestSettingFunction::timesBecomeText_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("0") << 0 << "00";
-    QTest::newRow("1") << 1 << "01";
-    QTest::newRow("9") << 9 << "09";
-    QTest::newRow("10") << 10 << "10";
-    QTest::newRow("59") << 59 << "59";
-    QTest::newRow("-1") << -1 << "-1";
-}
-
-void TestSettingFunction::timesBecomeText()
-{
-    QFETCH(int, value);
-    QString result;
-    QVERIFY(QMetaObject::invokeMethod(page, "convertTimeValueByJson", Q_RETURN_ARG(QString, result),
-                                      Q_ARG(int, value)));
-    QTEST(result, "text");
-}
-
-void TestSettingFunction::halfDaysBecomeText_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("ampm");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("0") << 0 << ""
-                       << "00";
-    QTest::newRow("9 AM") << 9 << "AM"
-                          << "09";
-    QTest::newRow("10 AM") << 10 << "AM"
-                           << "";
-    QTest::newRow("1 pm") << 1 << "pm"
-                          << "13";
-    QTest::newRow("12 PM") << 12 << "PM"
-                           << "24";
-}
-
-void TestSettingFunction::halfDaysBecomeText()
-{
-    QFETCH(int, value);
-    QFETCH(QString, ampm);
-    QString result;
-    QVERIFY(QMetaObject::invokeMethod(page, "calcurateTime", Q_RETURN_ARG(QString, result), Q_ARG(int, value),
-                                      Q_ARG(QString, ampm)));
-    QTEST(result, "text");
-    if (ampm.isEmpty()) {
-        QString withoutHalf;
-        QVERIFY(QMetaObject::invokeMethod(page, "calcurateTime", Q_RETURN_ARG(QString, withoutHalf),
-                                          Q_ARG(int, value)));
-        QTEST(withoutHalf, "text");
-    }
-}
-
 void TestSettingFunction::stylesOfEnabledAndDimmed()
 {
     const auto call = [this](const char *slot, bool enabled) {
@@ -862,16 +577,6 @@ void TestSettingFunction::writesNothingWithoutDocument()
     QVERIFY(QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
                                       Q_ARG(QString, func + "silentTimer.set")));
     QVERIFY(value.isNull());
-}
-
-void TestSettingFunction::wheelChangesNothing()
-{
-    show({{func + "silentTimer.set", "SET"}});
-    auto *combo = Window::find<QComboBox>(page, "comboSilentStartHour");
-    QWheelEvent turn(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5).toPoint()), QPoint(), QPoint(0, -120),
-                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCOMPARE(window->changes([&] { QCoreApplication::sendEvent(combo, &turn); }), QVariantMap());
-    QCOMPARE(combo->currentText(), QStringLiteral("22"));
 }
 
 CALORA_TEST_MAIN(TestSettingFunction)
