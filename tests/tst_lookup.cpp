@@ -1,58 +1,20 @@
+#include "support/languagefolder.h"
 #include "support/window.h"
 
-#include "languages/languagemenu.h"
-
-#include <QDir>
-#include <QFile>
-#include <QJsonObject>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
-// Language files and the lookup of texts. The test has a language folder of its own, which is put back after
-// each case.
+// The language in force and the lookup of texts.
 
 namespace {
 
-QString folder() { return QCoreApplication::applicationDirPath() + "/language"; }
-
-QString inFolder(const QString &name) { return folder() + '/' + name; }
-
-QString iniPath() { return inFolder("language.ini"); }
-
-void put(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-        qFatal("Can't write %s", qPrintable(path));
-    }
-}
-
-QByteArray content(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(none)");
-}
-
-QByteArray english() { return content(":/language/English.json"); }
-
-/// English with `mark` behind each text.
-QByteArray marked(const QString &mark)
-{
-    QJsonObject texts = QJsonDocument::fromJson(english()).object();
-    for (auto text = texts.begin(); text != texts.end(); ++text) {
-        text.value() = text.value().toString() + mark;
-    }
-    return QJsonDocument(texts).toJson();
-}
-
-QString quoted(const QString &path) { return '"' + path + '"'; }
+using testfiles::content;
+using testfiles::put;
+using testfiles::quoted;
 
 const QString emptyText = QStringLiteral("MainDialog::languageValue language value is empty");
 const QString unreadable = QStringLiteral("MainDialog::loadLanguageData failed to open file:");
-const QString unwritable = QStringLiteral("LanguageMenu::on_listWidget_itemClicked failed to open file:");
-const QString notLoaded = QStringLiteral("MainDialog::loadLanguageAnotherPath failed to open file:");
 
 } // namespace
 
@@ -61,8 +23,16 @@ class TestLookup : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        restart();
+        messages::clear();
+    }
+    void cleanup()
+    {
+        window.reset();
+        languagefolder::restore();
+    }
 
     void startsWithTheDeliveredLanguage();
     void startsWithTheRememberedLanguage();
@@ -86,20 +56,6 @@ private slots:
     void emptyKeyCountsAsNone();
     void settingADocumentTellsNoPage();
     void snapshotIsApart();
-    void savesTheName_data();
-    void savesTheName();
-    void nameCantBeSaved();
-    void unwritableNameReloadsTheOldLanguage();
-    void loadsFromAnotherPath_data();
-    void loadsFromAnotherPath();
-    void loadedFileReplacesItsNamesake();
-    void loadedFileMayLieAtItsTarget();
-    void linkToItsTargetLosesNothing();
-    void loadsABrokenFile();
-    void cantLoadFromAnotherPath_data();
-    void cantLoadFromAnotherPath();
-    void loadedLanguageIsntRemembered();
-    void defaultLanguageLiesAtTheRoot();
 
 private:
     MainDialog &dialog() const { return window->dialog; }
@@ -115,30 +71,13 @@ private:
     }
 
     std::unique_ptr<Window> window;
-    std::unique_ptr<QTemporaryDir> elsewhere;
 };
-
-void TestLookup::init()
-{
-    elsewhere = std::make_unique<QTemporaryDir>();
-    restart();
-    messages::clear();
-}
-
-void TestLookup::cleanup()
-{
-    window.reset();
-    QDir(folder()).removeRecursively();
-    QDir().mkpath(folder());
-    put(iniPath(), "English");
-    put(inFolder("English.json"), english());
-}
 
 void TestLookup::startsWithTheDeliveredLanguage()
 {
-    QCOMPARE(dialog().languageIniPath(), iniPath());
+    QCOMPARE(dialog().languageIniPath(), languagefolder::iniPath());
     QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(dialog().languageDocument(), QJsonDocument::fromJson(english()));
+    QCOMPARE(dialog().languageDocument(), QJsonDocument::fromJson(languagefolder::english()));
     QCOMPARE(dialog().languageMap().size(), 236);
     QVERIFY(dialog().languageSnapshotMap().isEmpty());
     QCOMPARE(dialog().members().selectText, QString("Select"));
@@ -146,8 +85,8 @@ void TestLookup::startsWithTheDeliveredLanguage()
 
 void TestLookup::startsWithTheRememberedLanguage()
 {
-    put(inFolder("Español.json"), marked("+"));
-    put(iniPath(), "Español");
+    put(languagefolder::file("Español.json"), languagefolder::marked("+"));
+    put(languagefolder::iniPath(), "Español");
     restart();
     QCOMPARE(currentLanguage(), QString("Español"));
     QCOMPARE(newText(), QString("New+"));
@@ -169,9 +108,9 @@ void TestLookup::startsWithoutALanguage()
     QFETCH(QByteArray, name);
     QFETCH(QString, shown);
     if (name.isNull()) {
-        QVERIFY(QFile::remove(iniPath()));
+        QVERIFY(QFile::remove(languagefolder::iniPath()));
     } else {
-        put(iniPath(), name);
+        put(languagefolder::iniPath(), name);
     }
     messages::clear();
     restart();
@@ -229,20 +168,20 @@ void TestLookup::languageChangeLeavesTheDocument()
 
 void TestLookup::loadsTheNamedLanguage()
 {
-    put(inFolder("Other.json"), marked("+"));
-    put(iniPath(), "Other");
-    dialog().loadLanguageData(iniPath());
+    put(languagefolder::file("Other.json"), languagefolder::marked("+"));
+    put(languagefolder::iniPath(), "Other");
+    dialog().loadLanguageData(languagefolder::iniPath());
     QCOMPARE(currentLanguage(), QString("Other"));
     QCOMPARE(newText(), QString("New+"));
     QCOMPARE(messages::all().value(0),
-             "MainDialog::loadLanguageData path: " + quoted(inFolder("Other.json")));
+             "MainDialog::loadLanguageData path: " + quoted(languagefolder::file("Other.json")));
     // The name may stand in any file.
-    const QString elsewhereIni = elsewhere->filePath("name.txt");
+    const QString elsewhereIni = languagefolder::file("name.txt");
     put(elsewhereIni, "English");
     dialog().loadLanguageData(elsewhereIni);
     QCOMPARE(currentLanguage(), QString("English"));
     QCOMPARE(newText(), QString("New"));
-    QCOMPARE(content(iniPath()), QByteArray("Other"));
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("Other"));
 }
 
 void TestLookup::namedFileCantBeOpened_data()
@@ -261,14 +200,14 @@ void TestLookup::namedFileCantBeOpened()
 {
     QFETCH(QByteArray, name);
     QFETCH(QString, printed);
-    QVERIFY(QDir().mkpath(inFolder("Folder.json")));
-    QCOMPARE(mkfifo(qPrintable(inFolder("Pipe.json")), 0600), 0);
-    put(iniPath(), name);
-    dialog().loadLanguageData(iniPath());
+    QVERIFY(QDir().mkpath(languagefolder::file("Folder.json")));
+    QCOMPARE(mkfifo(qPrintable(languagefolder::file("Pipe.json")), 0600), 0);
+    put(languagefolder::iniPath(), name);
+    dialog().loadLanguageData(languagefolder::iniPath());
     QCOMPARE(currentLanguage(), QString::fromUtf8(name));
     QCOMPARE(messages::all(),
-             (QStringList{"MainDialog::loadLanguageData path: " + quoted(folder() + printed),
-                          unreadable + ' ' + quoted(folder() + printed)}));
+             (QStringList{"MainDialog::loadLanguageData path: " + quoted(languagefolder::path() + printed),
+                          unreadable + ' ' + quoted(languagefolder::path() + printed)}));
     QCOMPARE(newText(), QString("New"));
     QCOMPARE(dialog().languageMap().size(), 236);
 }
@@ -278,7 +217,7 @@ void TestLookup::fileHoldsNoTexts_data()
     QTest::addColumn<QByteArray>("json");
     QTest::newRow("empty file") << QByteArray();
     QTest::newRow("no JSON") << QByteArray("New=Neu\n");
-    QTest::newRow("cut off") << english().chopped(5);
+    QTest::newRow("cut off") << languagefolder::english().chopped(5);
     QTest::newRow("array") << QByteArray("[{\"New\":\"Neu\"}]");
     QTest::newRow("text") << QByteArray("\"New\"");
     QTest::newRow("number") << QByteArray("5");
@@ -288,10 +227,10 @@ void TestLookup::fileHoldsNoTexts_data()
 void TestLookup::fileHoldsNoTexts()
 {
     QFETCH(QByteArray, json);
-    put(inFolder("Broken.json"), json);
-    put(iniPath(), "Broken");
+    put(languagefolder::file("Broken.json"), json);
+    put(languagefolder::iniPath(), "Broken");
     QSignalSpy told(&dialog(), &MainDialog::changeInstallationLanguage);
-    dialog().loadLanguageData(iniPath());
+    dialog().loadLanguageData(languagefolder::iniPath());
     QVERIFY(dialog().languageMap().isEmpty());
     QCOMPARE(told.size(), 1);
     QCOMPARE(currentLanguage(), QString("Broken"));
@@ -305,9 +244,9 @@ void TestLookup::fileHoldsNoTexts()
 
 void TestLookup::missingKeysLogAPairEach()
 {
-    put(inFolder("Part.json"), "{\"Open\":\"Auf\",\"Language\":\"\",\"R32\":7}");
-    put(iniPath(), "Part");
-    dialog().loadLanguageData(iniPath());
+    put(languagefolder::file("Part.json"), "{\"Open\":\"Auf\",\"Language\":\"\",\"R32\":7}");
+    put(languagefolder::iniPath(), "Part");
+    dialog().loadLanguageData(languagefolder::iniPath());
     // What is asked for in the window and on the pages that are called first, in this order.
     const QStringList keys{"New",
                            "Save",
@@ -445,7 +384,7 @@ void TestLookup::settingADocumentTellsNoPage()
 {
     QSignalSpy told(&dialog(), &MainDialog::changeInstallationLanguage);
     const QVariantMap before = dialog().languageMap();
-    const QJsonDocument other = QJsonDocument::fromJson(marked("+"));
+    const QJsonDocument other = QJsonDocument::fromJson(languagefolder::marked("+"));
     dialog().setLanguageDocument(other);
     QCOMPARE(dialog().languageDocument(), other);
     QCOMPARE(dialog().languageMap(), other.object().toVariantMap());
@@ -453,7 +392,7 @@ void TestLookup::settingADocumentTellsNoPage()
     QCOMPARE(before.value("New"), QVariant("New"));
     QCOMPARE(newText(), QString("New"));
     QCOMPARE(told.size(), 0);
-    QCOMPARE(content(iniPath()), QByteArray("English"));
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
 }
 
 void TestLookup::snapshotIsApart()
@@ -473,198 +412,6 @@ void TestLookup::snapshotIsApart()
     QCOMPARE(dialog().languageMap(), inForce);
     dialog().setLanguageSnapshot(QJsonDocument());
     QVERIFY(dialog().languageSnapshotMap().isEmpty());
-}
-
-void TestLookup::savesTheName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("longer") << "Brazilian Portuguese";
-    QTest::newRow("shorter") << "X";
-    QTest::newRow("not Latin") << "日本語";
-    QTest::newRow("empty") << "";
-    QTest::newRow("line break") << "a\n";
-}
-
-void TestLookup::savesTheName()
-{
-    QFETCH(QString, name);
-    dialog().saveLanguageName(name);
-    QCOMPARE(content(iniPath()), name.toUtf8());
-    QCOMPARE(currentLanguage(), name);
-    QVERIFY(QFile::remove(iniPath()));
-    dialog().saveLanguageName(name);
-    QCOMPARE(content(iniPath()), name.toUtf8());
-    QVERIFY(messages::all().isEmpty());
-}
-
-void TestLookup::nameCantBeSaved()
-{
-    QVERIFY(QFile::remove(iniPath()));
-    QVERIFY(QDir().mkpath(iniPath()));
-    dialog().saveLanguageName("Other");
-    QCOMPARE(messages::all(), QStringList{unwritable});
-    QCOMPARE(currentLanguage(), QString("English"));
-    messages::clear();
-    // It can't be read either.
-    dialog().loadLanguageData(iniPath());
-    QCOMPARE(messages::all(), QStringList{unreadable});
-    QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(dialog().languageMap().size(), 236);
-}
-
-void TestLookup::unwritableNameReloadsTheOldLanguage()
-{
-    put(inFolder("Other.json"), marked("+"));
-    QVERIFY(QFile::setPermissions(iniPath(), QFile::ReadOwner));
-    if (QFile ini(iniPath()); ini.open(QIODevice::ReadWrite)) {
-        QSKIP("This user may write any file");
-    }
-    dialog().saveLanguageName("Other");
-    QCOMPARE(messages::all(), QStringList{unwritable});
-    dialog().loadLanguageData(iniPath());
-    QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(newText(), QString("New"));
-}
-
-void TestLookup::loadsFromAnotherPath_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << "Other.json"
-                           << "Other";
-    QTest::newRow("extension twice") << "Other.json.json"
-                                     << "Other";
-    QTest::newRow("extension in the middle") << "my.jsonlanguage.json"
-                                             << "mylanguage";
-    QTest::newRow("upper case extension") << "Other.JSON"
-                                          << "Other.JSON";
-    QTest::newRow("other extension") << "Other.txt"
-                                     << "Other.txt";
-    QTest::newRow("nothing but the extension") << ".json"
-                                               << "";
-    QTest::newRow("not Latin") << "日本 語.json"
-                               << "日本 語";
-}
-
-void TestLookup::loadsFromAnotherPath()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, name);
-    put(elsewhere->filePath(file), marked("+"));
-    const auto *popup = dialog().members().languageMenuWidget;
-    dialog().setLanguageMenuOpen(true);
-    QSignalSpy told(&dialog(), &MainDialog::changeInstallationLanguage);
-    dialog().loadLanguageAnotherPath(elsewhere->filePath(file));
-    QCOMPARE(content(inFolder(name + ".json")), marked("+"));
-    QCOMPARE(content(elsewhere->filePath(file)), marked("+"));
-    QCOMPARE(content(iniPath()), name.toUtf8());
-    QCOMPARE(currentLanguage(), name);
-    QCOMPARE(newText(), QString("New+"));
-    QCOMPARE(told.size(), 1);
-    // The popup is built anew and stands closed; the old one stays behind.
-    QVERIFY(dialog().members().languageMenuWidget != popup);
-    QCOMPARE(dialog().findChildren<LanguageMenu *>().size(), 2);
-    QVERIFY(!dialog().members().languageMenuOpen);
-    QVERIFY(dialog().members().languageMenuWidget->isHidden());
-    // The next run speaks it.
-    restart();
-    QCOMPARE(newText(), QString("New+"));
-}
-
-void TestLookup::loadedFileReplacesItsNamesake()
-{
-    put(inFolder("Other.json"), "{}");
-    put(elsewhere->filePath("Other.json"), marked("+"));
-    dialog().loadLanguageAnotherPath(elsewhere->filePath("Other.json"));
-    QCOMPARE(content(inFolder("Other.json")), marked("+"));
-}
-
-void TestLookup::loadedFileMayLieAtItsTarget()
-{
-    put(inFolder("Other.json"), marked("+"));
-    for (const QString &path : {inFolder("Other.json"), folder() + "/../language/./Other.json",
-                                QDir::current().relativeFilePath(inFolder("Other.json"))}) {
-        dialog().loadLanguageAnotherPath(path);
-        QCOMPARE(content(inFolder("Other.json")), marked("+"));
-        QCOMPARE(newText(), QString("New+"));
-        QCOMPARE(content(iniPath()), QByteArray("Other"));
-    }
-}
-
-void TestLookup::linkToItsTargetLosesNothing()
-{
-    put(inFolder("Other.json"), marked("+"));
-    QVERIFY(QFile::link(inFolder("Other.json"), elsewhere->filePath("Other.json")));
-    dialog().loadLanguageAnotherPath(elsewhere->filePath("Other.json"));
-    QCOMPARE(content(inFolder("Other.json")), marked("+"));
-    // The other way round: the folder holds the link.
-    put(elsewhere->filePath("Far.json"), marked("-"));
-    QVERIFY(QFile::link(elsewhere->filePath("Far.json"), inFolder("Far.json")));
-    dialog().loadLanguageAnotherPath(elsewhere->filePath("Far.json"));
-    QCOMPARE(content(inFolder("Far.json")), marked("-"));
-    QCOMPARE(content(elsewhere->filePath("Far.json")), marked("-"));
-}
-
-void TestLookup::loadsABrokenFile()
-{
-    put(elsewhere->filePath("Broken.json"), "{\"New\":");
-    dialog().loadLanguageAnotherPath(elsewhere->filePath("Broken.json"));
-    QVERIFY(dialog().languageMap().isEmpty());
-    QCOMPARE(newText(), QString());
-    QCOMPARE(currentLanguage(), QString("Broken"));
-    QCOMPARE(content(iniPath()), QByteArray("Broken"));
-    QCOMPARE(content(inFolder("Broken.json")), QByteArray("{\"New\":"));
-}
-
-void TestLookup::cantLoadFromAnotherPath_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("cancelled") << "";
-    QTest::newRow("missing") << "Missing.json";
-    QTest::newRow("folder") << "Folder.json";
-    QTest::newRow("FIFO") << "Pipe.json";
-}
-
-void TestLookup::cantLoadFromAnotherPath()
-{
-    QFETCH(QString, name);
-    QVERIFY(QDir().mkpath(elsewhere->filePath("Folder.json")));
-    QCOMPARE(mkfifo(qPrintable(elsewhere->filePath("Pipe.json")), 0600), 0);
-    const QString path = name.isEmpty() ? QString() : elsewhere->filePath(name);
-    const auto *popup = dialog().members().languageMenuWidget;
-    dialog().loadLanguageAnotherPath(path);
-    QCOMPARE(messages::all(), QStringList{notLoaded + ' ' + quoted(path)});
-    QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(content(iniPath()), QByteArray("English"));
-    QCOMPARE(dialog().languageMap().size(), 236);
-    QCOMPARE(dialog().members().languageMenuWidget, popup);
-    QCOMPARE(QDir(folder()).entryList(QDir::Files), (QStringList{"English.json", "language.ini"}));
-}
-
-void TestLookup::loadedLanguageIsntRemembered()
-{
-    QVERIFY(QFile::remove(iniPath()));
-    QVERIFY(QDir().mkpath(iniPath()));
-    put(elsewhere->filePath("Other.json"), marked("+"));
-    dialog().loadLanguageAnotherPath(elsewhere->filePath("Other.json"));
-    QCOMPARE(messages::all(), QStringList{unwritable});
-    QCOMPARE(newText(), QString("New+"));
-    QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(content(inFolder("Other.json")), marked("+"));
-}
-
-void TestLookup::defaultLanguageLiesAtTheRoot()
-{
-    if (QFile::exists("/language/English.json")) {
-        QSKIP("This machine has a file there");
-    }
-    QSignalSpy told(&dialog(), &MainDialog::changeInstallationLanguage);
-    dialog().loadDefaultLanguageJsonFile();
-    QCOMPARE(messages::all(),
-             QStringList{"MainDialog::loadDefaultLanguageJsonFile failed to open file: "
-                         "\"/language/English.json\""});
-    QCOMPARE(dialog().languageMap().size(), 236);
-    QCOMPARE(told.size(), 0);
 }
 
 CALORA_TEST_MAIN(TestLookup)
