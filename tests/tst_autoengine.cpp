@@ -8,7 +8,7 @@
 using automode::join;
 using automode::limits;
 using automode::mainZone;
-using automode::seasonal;
+using automode::seasonalPlant;
 using automode::seasonalRoot;
 
 namespace {
@@ -291,7 +291,7 @@ void TestAutoEngine::ordersHold()
     const bool celsius = unit == "CENTIGRADE";
     const bool off = mainZoneUse == "CLR";
     QRandomGenerator random(seed);
-    section->load(seasonal(mainZoneUse), refrigerant);
+    section->load(seasonalPlant(mainZoneUse), refrigerant);
     const QJsonDocument start = section->window.dialog.document();
     for (int sequence = 0; sequence < 250; ++sequence) {
         load(start, unit);
@@ -370,7 +370,7 @@ void TestAutoEngine::outdoorChainBreaksOnlyWhereTwoDegreesShareOne()
         return dialog.celsiusToFahrenheit(celsius + 1) == fahrenheit;
     };
     QRandomGenerator random(200);
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const QJsonDocument start = section->window.dialog.document();
     int breaks = 0;
     for (int sequence = 0; sequence < 250; ++sequence) {
@@ -436,7 +436,7 @@ void TestAutoEngine::sharedFahrenheit()
         }
         return texts;
     };
-    section->load(join({seasonal("CLR"), values}), "R32", "FAHRENHEIT");
+    section->load(join({seasonalPlant("CLR"), values}), "R32", "FAHRENHEIT");
     if (number != 0) {
         Window::choose(box(number), item);
     }
@@ -467,7 +467,7 @@ void TestAutoEngine::mainZoneSwitchedOffAndOnMayCross()
     QFETCH(QString, written);
     QFETCH(int, blank);
     QFETCH(int, crossed);
-    section->load(seasonal("CLR"));
+    section->load(seasonalPlant("CLR"));
     const QVariantMap changes = section->window.changes([&] { Window::choose(box(number), item); });
     QVERIFY(changes.contains(seasonalRoot + written));
     const QJsonDocument document = documents::with(section->window.dialog.document(), mainZone("SET"));
@@ -485,7 +485,7 @@ void TestAutoEngine::mainZoneSwitchedOffAndOnMayCross()
 // A stored value below its list is shown as the last item, so that a lower end passes its upper one.
 void TestAutoEngine::storedBelowTheLimitsMayCross()
 {
-    section->load(join({seasonal("SET"), {{automode::root + "coolWaterControlBasis", "ENTRANCE"}}}));
+    section->load(join({seasonalPlant("SET"), {{automode::root + "coolWaterControlBasis", "ENTRANCE"}}}));
     QCOMPARE(box(CMax)->currentText(), QString("20°C"));
     QCOMPARE(box(CMin)->currentText(), QString());
     QCOMPARE(box(ZCMax)->currentText(), QString());

@@ -3,7 +3,7 @@
 using automode::join;
 using automode::limits;
 using automode::root;
-using automode::seasonal;
+using automode::seasonalPlant;
 using automode::seasonalRoot;
 using automode::sensing;
 
@@ -194,14 +194,14 @@ void TestAutoLists::limitsFollowTheFlags()
         QString texts = section->items(low).first() + ' ' + section->items(high).last();
         return texts.remove(unit == "FAHRENHEIT" ? "°F" : "°C");
     };
-    section->load(join({seasonal("CLR"), room, flags}), "R32", unit);
+    section->load(join({seasonalPlant("CLR"), room, flags}), "R32", unit);
     QCOMPARE(span("comboHeatingOutdoorMin", "comboCoolingOutdoorMax"), outdoor);
     QCOMPARE(span("comboHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
     QCOMPARE(span("comboCoolingWaterMin", "comboCoolingWaterMax"), coolingWater);
     QCOMPARE(span("comboCoolingIndoorMin", "comboCoolingIndoorMax"), coolingIndoor);
     QCOMPARE(span("comboHeatingIndoorMin", "comboHeatingIndoorMax"),
              unit == "FAHRENHEIT" ? QString("60 86") : QString("16 30"));
-    section->load(join({seasonal("SET"), room, flags}), "R32", unit);
+    section->load(join({seasonalPlant("SET"), room, flags}), "R32", unit);
     QCOMPARE(span("comboMainZoneHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
     QCOMPARE(span("comboCoolingWaterMin", "comboMainZoneWaterMax"), coolingWater);
     QCOMPARE(span("comboCoolingIndoorMin", "comboMainZoneIndoorMax"), coolingIndoor);
@@ -209,7 +209,7 @@ void TestAutoLists::limitsFollowTheFlags()
 
 void TestAutoLists::unknownRefrigerantLeavesOneOutdoorItem()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const QStringList water = section->items("comboCoolingWaterMax");
     messages::clear();
     section->window.use(documents::with(section->window.dialog.document(), {{"IduFuncList.isR32", "CLR"}}));
@@ -228,7 +228,7 @@ void TestAutoLists::unknownRefrigerantLeavesOneOutdoorItem()
 
 void TestAutoLists::outdoorChainNarrows()
 {
-    section->load(seasonal("CLR"));
+    section->load(seasonalPlant("CLR"));
     QCOMPARE(section->items("comboHeatingOutdoorMin"), range(-25, 15, "°C"));
     QCOMPARE(section->items("comboHeatingOutdoorMax"), range(-9, 25, "°C"));
     QCOMPARE(section->items("comboCoolingOutdoorMin"), range(21, 39, "°C"));
@@ -267,7 +267,7 @@ void TestAutoLists::mainZoneFollowsWhileOff()
 
 void TestAutoLists::mainZoneBoundsWhileInUse()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     for (const char *kind : {"Water", "Indoor"}) {
         const auto list = [this, kind](const char *pattern) {
             QString texts = section->ends(qPrintable(QString(pattern).arg(kind)));
@@ -292,7 +292,7 @@ void TestAutoLists::mainZoneBoundsWhileInUse()
 
 void TestAutoLists::valueChangedRefreshesOnlyWhenAsked()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const QStringList before = section->items("comboHeatingWaterMin");
     section->valueChanged(5, 42, false);
     QCOMPARE(section->shown("comboHeatingWaterMax"), QString("42°C"));
@@ -307,7 +307,7 @@ void TestAutoLists::valueChangedRefreshesOnlyWhenAsked()
 
 void TestAutoLists::unknownBoxesAndTypesChangeNothing()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->blockSignals(true);
     Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->setCurrentText("42°C");
     Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->blockSignals(false);
@@ -325,7 +325,7 @@ void TestAutoLists::unknownBoxesAndTypesChangeNothing()
 
 void TestAutoLists::blankBoxCountsAsZeroUntilTheRefresh()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const QJsonDocument before = section->window.dialog.document();
     section->valueChanged(2, 99, false);
     QCOMPARE(section->shown("comboHeatingOutdoorMax"), QString());
@@ -341,7 +341,7 @@ void TestAutoLists::blankBoxCountsAsZeroUntilTheRefresh()
 
 void TestAutoLists::tempValueNeedsTheExactText()
 {
-    section->load(seasonal("SET"), "R32", "FAHRENHEIT");
+    section->load(seasonalPlant("SET"), "R32", "FAHRENHEIT");
     auto *combo = Window::find<QComboBox>(section->page, "comboHeatingWaterMax");
     const auto set = [this, combo](int value) {
         QMetaObject::invokeMethod(section->page, "setTempValue", Q_ARG(QComboBox *, combo),

@@ -7,7 +7,7 @@
 using automode::join;
 using automode::mainZone;
 using automode::root;
-using automode::seasonal;
+using automode::seasonalPlant;
 using automode::seasonalRoot;
 using automode::sensing;
 
@@ -209,10 +209,10 @@ void TestInstallationaAuto::textsFollowTheLanguage()
     const auto caption = [this] {
         return Window::find(section->page, QTest::currentDataTag())->property("text").toString();
     };
-    section->load(seasonal("clr"));
+    section->load(seasonalPlant("clr"));
     section->window.speak();
     QCOMPARE(caption(), text);
-    section->load(seasonal("set"));
+    section->load(seasonalPlant("set"));
     const QJsonDocument before = section->window.dialog.document();
     const QStringList lists = section->allLists();
     section->window.speak("~");
@@ -227,9 +227,9 @@ void TestInstallationaAuto::circuitCaptionsKeepTheirFormUntilTheLanguageChanges(
     const auto caption = [this](const char *name) {
         return Window::find<QLabel>(section->page, name)->text();
     };
-    section->load(seasonal("CLR"));
+    section->load(seasonalPlant("CLR"));
     section->window.speak();
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     QCOMPARE(caption("labelSeasonalAir"), QString("Indoor air temp. curve"));
     QCOMPARE(caption("labelSeasonalWater"), QString("Water temp. curve"));
     section->window.speak();
@@ -276,7 +276,7 @@ void TestInstallationaAuto::boxesWrite_data()
                     written.insert(seasonalRoot + each.mainZonePath, value);
                 }
                 QTest::newRow(qPrintable(QString("%1, %2, %3").arg(each.box, use, fahrenheit ? "°F" : "°C")))
-                    << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonal(use))
+                    << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonalPlant(use))
                     << QByteArray(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE")
                     << (fahrenheit ? QString("%1°F").arg(each.fahrenheit) : QString("%1°C").arg(each.celsius))
                     << written;
@@ -302,7 +302,7 @@ void TestInstallationaAuto::boxesWrite()
 
 void TestInstallationaAuto::closedSectionWritesNothing()
 {
-    section->load(join({seasonal("CLR"), {{root + "autoOp_outtemp.max", 99}}}));
+    section->load(join({seasonalPlant("CLR"), {{root + "autoOp_outtemp.max", 99}}}));
     Window::expand(section->page, false);
     section->window.use(
         documents::with(section->window.dialog.document(), {{root + "autoOp_outtemp.max", 99}}));
@@ -344,7 +344,7 @@ void TestInstallationaAuto::modeIsWritten()
 {
     QFETCH(QString, word);
     const QString path = seasonalRoot + "seasonalAutoOpMode";
-    section->load(join({seasonal("SET"), {{path, "x"}}}));
+    section->load(join({seasonalPlant("SET"), {{path, "x"}}}));
     section->window.dialog.setAutoSectionValid(false);
     const QStringList lists = section->allLists();
     QCOMPARE(section->window.changes([this] { Window::click(section->page, QTest::currentDataTag()); }),
@@ -363,20 +363,21 @@ void TestInstallationaAuto::modeIsLoaded()
     const QList<QPair<QString, const char *>> words{
         {"heat_only", "radioHeatingOnly"}, {"Cool_Only", "radioCoolingOnly"}, {"HEAT_N_COOL", "radioBoth"}};
     for (const auto &[word, radio] : words) {
-        section->load(join({seasonal("SET"), {{path, word}}}));
+        section->load(join({seasonalPlant("SET"), {{path, word}}}));
         QVERIFY2(Window::checked(section->page, radio), radio);
-        QCOMPARE(section->window.dialog.document(),
-                 documents::with(
-                     documents::standard("R32"),
-                     join({seasonal("SET"), {{path, word}}, {{root + "autoOp_tempwater.low_limit", 20}}})));
+        QCOMPARE(
+            section->window.dialog.document(),
+            documents::with(
+                documents::standard("R32"),
+                join({seasonalPlant("SET"), {{path, word}}, {{root + "autoOp_tempwater.low_limit", 20}}})));
     }
-    section->load(join({seasonal("SET"), {{path, "NONE"}}}));
+    section->load(join({seasonalPlant("SET"), {{path, "NONE"}}}));
     QVERIFY(Window::checked(section->page, "radioBoth"));
 }
 
 void TestInstallationaAuto::storedValuesAreShown()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const QMap<QString, int> values{
         {"OutdoorOutdoorMax", 15},        {"OutdoorOutdoorMin", -10},       {"OutdoorIndoorMax", 21},
         {"OutdoorIndoorMin", 16},         {"OutdoorWaterMax", 65},          {"OutdoorWaterMin", 20},
@@ -454,7 +455,7 @@ void TestInstallationaAuto::rowsFollowTheFlags()
 
 void TestInstallationaAuto::unknownSensingChangesNoRow()
 {
-    section->load(join({seasonal("SET"), sensing("WATER", "CLR")}));
+    section->load(join({seasonalPlant("SET"), sensing("WATER", "CLR")}));
     section->window.use(documents::with(section->window.dialog.document(), sensing("x", "CLR")));
     section->page->refresh();
     QVERIFY(!Window::shownItself(section->page, "groupBoxMainZoneIndoor"));
@@ -467,7 +468,7 @@ void TestInstallationaAuto::unknownSensingChangesNoRow()
 
 void TestInstallationaAuto::viewOfAValue()
 {
-    section->load(seasonal("SET"));
+    section->load(seasonalPlant("SET"));
     const auto view = [this](const char *value) {
         QMetaObject::invokeMethod(section->page, "setVisibleIndoorWaterView", Q_ARG(QString, value));
         QString rows;
@@ -489,7 +490,7 @@ void TestInstallationaAuto::otherSectionsRefresh()
     for (QObject *sender : {static_cast<QObject *>(section->window.page<InstallationSystemSetting>()),
                             static_cast<QObject *>(section->window.page<InstallationCool>()),
                             static_cast<QObject *>(section->window.page<InstallationHeat>())}) {
-        section->load(seasonal("SET"));
+        section->load(seasonalPlant("SET"));
         section->window.use(
             documents::with(section->window.dialog.document(), {{seasonalRoot + "heatWaterTemp.max", 60}}));
         QVERIFY(Window::invoke(sender, "refreshInstallationPageSignal"));

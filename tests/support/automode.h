@@ -46,7 +46,7 @@ inline QVariantMap join(const std::vector<QVariantMap> &maps)
 }
 
 /// Seasonal mode with all rows on the page, and room between the values.
-inline QVariantMap seasonal(const QString &mainZoneUse)
+inline QVariantMap seasonalPlant(const QString &mainZoneUse)
 {
     return join({{{"IduFuncList.isSeasonalAuto", "SET"}},
                  sensing("AIR", "SET"),
