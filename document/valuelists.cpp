@@ -11,6 +11,9 @@
 
 namespace {
 
+// Far more than any list needs. Limits of a damaged document could ask for thousands of millions.
+constexpr int longestList = 1000;
+
 int numberBefore(const QString &text, int suffixLength)
 {
     return text.chopped(qMin(suffixLength, text.size())).toInt();
@@ -59,7 +62,7 @@ void MainDialog::setRangeValueInComboBox(QComboBox *comboBox, int lower, int upp
     }
     const QString suffix = unitSuffix(unit);
     QStringList items;
-    for (int value = lower; value <= upper; value += step) {
+    for (qint64 value = lower; value <= upper && items.size() < longestList; value += step) {
         items.append(QString::number(value) + suffix);
     }
     setComboItems(comboBox, items, -1);

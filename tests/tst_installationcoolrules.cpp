@@ -12,6 +12,7 @@ using water::joined;
 using water::mainZone;
 using water::root;
 using water::seasons;
+using water::sensed;
 
 namespace {
 
@@ -36,14 +37,17 @@ private slots:
     void defaultDocuments();
     void limitsAreBroughtIn_data();
     void limitsAreBroughtIn();
+    void absurdLimitsEndTheLists();
     void closedSectionWritesNothing();
     void basisBringsItsRangeAndDefaults();
     void fanCoilSlotsDiffer();
+    void controlTypeEnablesItsConstants();
     void twoCircuitsStayInLine();
     void loadInOpenSectionRunsSlots();
     void pumpColoursItsTimers();
     void operationsNothingCalls();
     void validationNeedsThreePairs();
+    void validationStopsAtTheFirstPair();
 
 private:
     std::unique_ptr<Driver<InstallationCool>> driver;
@@ -81,6 +85,9 @@ void TestInstallationCoolRules::limitsAreBroughtIn_data()
     QTest::newRow("missing") << QVariantMap{{lowLimit, QVariant()}, {highLimit, QVariant()}}
                              << QVariantMap{{lowLimit, 16}, {highLimit, 22}} << "16°C"
                              << "22°C";
+    QTest::newRow("no numbers") << QVariantMap{{lowLimit, "18"}, {highLimit, 24.5}}
+                                << QVariantMap{{lowLimit, 16}, {highLimit, 22}} << "16°C"
+                                << "22°C";
     QTest::newRow("no range") << QVariantMap{{flag("isR32"), "CLR"}} << QVariantMap{{lowLimit, -1}} << "-1°C"
                               << "24°C";
 }
@@ -92,6 +99,17 @@ void TestInstallationCoolRules::limitsAreBroughtIn()
     QTEST(driver->run("setCoolWaterTempRange"), "written");
     QTEST(driver->shown("comboTemperatureWaterMin"), "low");
     QTEST(driver->shown("comboTemperatureWaterMax"), "high");
+}
+
+// A closed section shows limits of a damaged document, and can't bring them in.
+void TestInstallationCoolRules::absurdLimitsEndTheLists()
+{
+    driver->load({{lowLimit, 0}, {highLimit, 2147483647}, {pump + "time", 2147483647}});
+    QCOMPARE(driver->items("comboControlWaterTemp"), range(0, 999, "°C"));
+    QCOMPARE(driver->items("comboControlMainZoneTemp"), range(0, 999, "°C"));
+    QCOMPARE(driver->items("comboTemperatureWaterMax"), range(22, 27, "°C"));
+    driver->load({{lowLimit, -2147483647}, {highLimit, 2147483647}}, QStringLiteral("FAHRENHEIT"));
+    QCOMPARE(driver->items("comboControlWaterTemp"), QStringList{"0°F"});
 }
 
 void TestInstallationCoolRules::closedSectionWritesNothing()
@@ -146,6 +164,17 @@ void TestInstallationCoolRules::fanCoilSlotsDiffer()
              joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}, {lowLimit, 16}}));
     QVERIFY(driver->enabled("comboForcerWater"));
     QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("16°C"));
+}
+
+void TestInstallationCoolRules::controlTypeEnablesItsConstants()
+{
+    driver->open({{mainZone, "SET"}});
+    for (const auto &[radio, enabled] :
+         {std::make_pair("radioControlTypeAuto", false), std::make_pair("radioControlTypeManual", true)}) {
+        Window::click(driver->page, radio);
+        QCOMPARE(driver->enabled("comboControlWaterTemp"), enabled);
+        QCOMPARE(driver->enabled("comboControlMainZoneTemp"), enabled);
+    }
 }
 
 void TestInstallationCoolRules::twoCircuitsStayInLine()
@@ -256,6 +285,29 @@ void TestInstallationCoolRules::validationNeedsThreePairs()
     QVERIFY(!valid());
     driver->open({{fanCoil, "x"}, {flag("is_cool"), "CLR"}});
     QVERIFY(valid());
+    driver->open({{sensed, "WATER"}});
+    driver->uncheck({"radioControlTypeAuto", "radioControlTypeManual"});
+    QVERIFY(valid());
+}
+
+void TestInstallationCoolRules::validationStopsAtTheFirstPair()
+{
+    driver->open();
+    driver->uncheck({"radioFanCoilNotuse", "radioFanCoilUse", "radioWaterPumpNotuse", "radioWaterPumpUse"});
+    const auto complaints = [this] {
+        messages::clear();
+        Window::invoke(driver->page, "validationCheck");
+        QStringList radios;
+        for (const char *radio : {"radioControlTypeAuto", "radioFanCoilNotuse", "radioWaterPumpNotuse"}) {
+            if (messages::contain(QLatin1String(radio))) {
+                radios.append(QLatin1String(radio));
+            }
+        }
+        return radios;
+    };
+    QCOMPARE(complaints(), QStringList{"radioFanCoilNotuse"});
+    driver->uncheck({"radioControlTypeAuto", "radioControlTypeManual"});
+    QCOMPARE(complaints(), QStringList{"radioControlTypeAuto"});
 }
 
 CALORA_TEST_MAIN(TestInstallationCoolRules)

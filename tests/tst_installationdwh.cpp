@@ -32,6 +32,7 @@ private slots:
     void checksStoredRadios();
     void listWritesItsValue_data();
     void listWritesItsValue();
+    void timerItemLosesTwoDigits();
     void translatedStepWritesItsKey();
     void radioWritesItsWord_data();
     void radioWritesItsWord();
@@ -314,6 +315,15 @@ void TestInstallationDwh::listWritesItsValue()
     QCOMPARE(written, (QVariantMap{{path, value}}));
     QVERIFY(messages::contain("InstallationDWH::SettingUser validation succeed!"));
     QCOMPARE(section->shown(name.constData()), item);
+}
+
+// The timer's list has no unit that the slot could take off.
+void TestInstallationDwh::timerItemLosesTwoDigits()
+{
+    section->load(everything + QVariantMap{{"IduFuncList.isHotwaterTimerExpand", "SET"}});
+    const QVariantMap written = section->window.changes(
+        [this] { Window::choose(section->page, "comboInletWaterMax", "1380"); });
+    QCOMPARE(written, (QVariantMap{{at("hotwater_logic.compMaxTemp"), 13}}));
 }
 
 void TestInstallationDwh::translatedStepWritesItsKey()

@@ -37,6 +37,7 @@ private slots:
     void limitsAreBroughtIn();
     void closedSectionWritesNothing();
     void basisBringsItsRangeAndDefaults();
+    void controlTypeEnablesItsConstants();
     void twoCircuitsStayInLine();
     void loadInOpenSectionRunsSlots();
     void pumpLeavesTheColours();
@@ -101,6 +102,17 @@ void TestInstallationHeatRules::basisBringsItsRangeAndDefaults()
                                   Q_ARG(QString, "x"));
     });
     QCOMPARE(changes, joined(seasons(16, 20, 28, 35), {{basis, ""}}));
+}
+
+void TestInstallationHeatRules::controlTypeEnablesItsConstants()
+{
+    driver->open({{mainZone, "SET"}});
+    for (const auto &[radio, enabled] :
+         {std::make_pair("radioControlTypeAuto", false), std::make_pair("radioControlTypeManual", true)}) {
+        Window::click(driver->page, radio);
+        QCOMPARE(driver->enabled("comboControlWaterTemp"), enabled);
+        QCOMPARE(driver->enabled("comboControlMainZoneTemp"), enabled);
+    }
 }
 
 // In heating the main zone stays at or below the other circuit.
@@ -184,6 +196,12 @@ void TestInstallationHeatRules::validationNeedsTwoPairs()
         QVERIFY2(valid(), first);
         Window::find<QRadioButton>(driver->page, second)->setChecked(true);
     }
+    // The second pair isn't tried once the first has failed.
+    driver->open();
+    driver->uncheck(
+        {"radioControlTypeAuto", "radioControlTypeManual", "radioWaterPumpNotuse", "radioWaterPumpUse"});
+    QVERIFY(!valid());
+    QVERIFY(messages::contain("radioControlTypeAuto") && !messages::contain("radioWaterPumpNotuse"));
 }
 
 CALORA_TEST_MAIN(TestInstallationHeatRules)
