@@ -70,11 +70,11 @@ void MainDialog::initUi()
     loadLanguageData(state.languageIniPath);
 }
 
-void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages)
+void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin)
 {
     auto *content = new QWidget(area);
     auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(margin, margin, margin, margin);
     for (QWidget *page : pages) {
         layout->addWidget(page);
     }
@@ -125,7 +125,7 @@ void MainDialog::initSettingInstallationUi()
     auto *automatic = new InstallationaAuto;
     auto *hotWater = new InstallationDWH;
     auto *system = new InstallationSystemSetting;
-    placeInScrollArea(ui->installationScrollArea, {system, cool, heat, automatic, hotWater});
+    placeInScrollArea(ui->installationScrollArea, {system, cool, heat, automatic, hotWater}, 16);
 
     connect(this, &MainDialog::changeInstallationLanguage, cool, &InstallationCool::changeLanguage);
     connect(this, &MainDialog::changeInstallationLanguage, heat, &InstallationHeat::changeLanguage);
