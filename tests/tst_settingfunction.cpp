@@ -5,16 +5,6 @@
 namespace {
 
 const QString func = QStringLiteral("SettingInfo.func.");
-const QString enabledLabel = QStringLiteral("color : #555555;");
-const QString dimmedLabel = QStringLiteral("color : rgba(55,55,55,30%)");
-
-QString radioStyle(const QString &colour)
-{
-    return "QRadioButton{color : " + colour
-        + "} QRadioButton::indicator { width: 18px; height: 18px; margin-right:8px;}"
-          "QRadioButton::indicator::unchecked {image: url(:/images/btn_radiobtn_off.png);}"
-          "QRadioButton::indicator::checked {image: url(:/images/btn_radiobtn_on.png);}";
-}
 
 // What opens the ODU function group.
 const QVariantMap withDefrostMode{{"IduFuncList.isDefrostMode", "SET"},
@@ -44,19 +34,14 @@ private slots:
     void listsHoldFixedItems_data();
     void listsHoldFixedItems();
     void languageChangeKeepsTheSelection();
+    void otherLanguageShowsTheDefrostMode();
+    void groupsHoldTheirControls_data();
+    void groupsHoldTheirControls();
     void defaultsShowAndStay_data();
     void defaultsShowAndStay();
     void showingMarksTheStep();
     void radiosWrite_data();
     void radiosWrite();
-    void onOffLockAloneIsLogged();
-    void allLockOverridesOnTheScreenOnly();
-    void unknownAllLockCountsAsLocked_data();
-    void unknownAllLockCountsAsLocked();
-    void lockedLoadLeavesTheOtherRadios();
-    void locksShow_data();
-    void locksShow();
-    void hotWaterLockNeedsTheTank();
     void defrostModeNeedsFlagAndMaster_data();
     void defrostModeNeedsFlagAndMaster();
     void defrostModeSavesItsKey();
@@ -64,9 +49,6 @@ private slots:
     void chainFailsWhereNothingIsChosen_data();
     void chainFailsWhereNothingIsChosen();
     void everyChangeIsChecked();
-    void unusedLockSlotsWork_data();
-    void unusedLockSlotsWork();
-    void stylesOfEnabledAndDimmed();
     void writesNothingWithoutDocument();
 
 private:
@@ -75,7 +57,6 @@ private:
     {
         return window->changes([&] { Window::choose(page, combo, item); });
     }
-    QString style(const char *name) const { return Window::find(page, name)->styleSheet(); }
     bool valid() const { return window->dialog.members().functionValid; }
 
     std::unique_ptr<Window> window;
@@ -237,6 +218,43 @@ void TestSettingFunction::languageChangeKeepsTheSelection()
              (QVariantMap{{"SettingInfo.func.installDefrostMode", "STEP3"}}));
 }
 
+void TestSettingFunction::otherLanguageShowsTheDefrostMode()
+{
+    window->speak("~");
+    QVariantMap values = withDefrostMode;
+    values.insert(func + "installDefrostMode", "STEP1");
+    show(values);
+    QCOMPARE(Window::shown(page, "comboDefrostMode"), QStringLiteral("STEP1~"));
+    QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), values));
+}
+
+void TestSettingFunction::groupsHoldTheirControls_data()
+{
+    QTest::addColumn<QList<QByteArray>>("controls");
+    QTest::newRow("groupBoxSilentMode") << QList<QByteArray>{"labelSilentMode", "radioSlientModeNotuse",
+                                                             "radioSlientModeUse", "groupBoxSilentModeSub"};
+    QTest::newRow("groupBoxSilentModeSub")
+        << QList<QByteArray>{"labelStratTime", "comboSilentStartHour", "comboSilentStartMin",
+                             "labelEndTime",   "comboSilentEndHour",   "comboSilentEndMin"};
+    QTest::newRow("groupBoxOnOffLock")
+        << QList<QByteArray>{"labelOnOff", "radioOnOffButtonNone", "radioOnOffButtonUse"};
+    QTest::newRow("groupBoxModeLock") << QList<QByteArray>{
+        "labelOperationMode", "radioOperationModeButtonNone", "radioOperationModeButtonUse"};
+    QTest::newRow("groupBoxDHWOnOff")
+        << QList<QByteArray>{"labelDHW", "radioDhwOnOffNone", "radioDhwOnOffUse"};
+    QTest::newRow("groupBoxOdeFunction")
+        << QList<QByteArray>{"labelODEFunction", "labelDSR", "comboDefrostMode"};
+}
+
+void TestSettingFunction::groupsHoldTheirControls()
+{
+    QFETCH(QList<QByteArray>, controls);
+    const QWidget *group = Window::find(page, QTest::currentDataTag());
+    for (const QByteArray &name : controls) {
+        QVERIFY2(group->isAncestorOf(Window::find(page, name)), name);
+    }
+}
+
 void TestSettingFunction::defaultsShowAndStay_data()
 {
     QTest::addColumn<QString>("refrigerant");
@@ -267,13 +285,19 @@ void TestSettingFunction::defaultsShowAndStay()
 
 void TestSettingFunction::showingMarksTheStep()
 {
-    auto *button = Window::find<QPushButton>(&window->dialog, "settingButton");
+    const auto focused = [this](int step, const char *button) {
+        return Window::find(&window->dialog, button)
+            ->styleSheet()
+            .startsWith(QStringLiteral("QPushButton {border : none;outline : none;background-image: "
+                                       "url(:/images/btn_step_%1_focus.png);}")
+                            .arg(step));
+    };
     window->dialog.setCurrentStep(1);
-    QVERIFY(!button->styleSheet().startsWith("QPushButton {border : none;outline : none;background-image: "
-                                             "url(:/images/btn_step_3_focus.png);}"));
+    QVERIFY(focused(1, "productSelectionButton"));
+    QVERIFY(!focused(3, "settingButton"));
     show();
-    QVERIFY(button->styleSheet().startsWith("QPushButton {border : none;outline : none;background-image: "
-                                            "url(:/images/btn_step_3_focus.png);}"));
+    QVERIFY(!focused(1, "productSelectionButton"));
+    QVERIFY(focused(3, "settingButton"));
 }
 
 void TestSettingFunction::radiosWrite_data()
@@ -281,36 +305,18 @@ void TestSettingFunction::radiosWrite_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("word");
-    QTest::newRow("radioSlientModeNotuse") << func + "silentTimer.set"
-                                           << "SET"
-                                           << "CLR";
-    QTest::newRow("radioSlientModeUse") << func + "silentTimer.set"
-                                        << "CLR"
-                                        << "SET";
-    QTest::newRow("radioAllButtonNone") << func + "lock.buttonLock"
-                                        << "SET"
-                                        << "CLR";
-    QTest::newRow("radioAllButtonUse") << func + "lock.buttonLock"
-                                       << "CLR"
-                                       << "SET";
-    QTest::newRow("radioOnOffButtonNone") << func + "lock.onoffLock"
-                                          << "SET"
-                                          << "CLR";
-    QTest::newRow("radioOnOffButtonUse") << func + "lock.onoffLock"
-                                         << "CLR"
-                                         << "SET";
-    QTest::newRow("radioOperationModeButtonNone") << func + "lock.modelock"
-                                                  << "SET"
-                                                  << "CLR";
-    QTest::newRow("radioOperationModeButtonUse") << func + "lock.modelock"
-                                                 << "CLR"
-                                                 << "SET";
-    QTest::newRow("radioDhwOnOffNone") << func + "lock.hotwaterOnOfflock"
-                                       << "SET"
-                                       << "CLR";
-    QTest::newRow("radioDhwOnOffUse") << func + "lock.hotwaterOnOfflock"
-                                      << "CLR"
-                                      << "SET";
+    const std::vector<std::pair<QByteArray, QString>> releases{
+        {"radioSlientModeNotuse", "silentTimer.set"},
+        {"radioAllButtonNone", "lock.buttonLock"},
+        {"radioOnOffButtonNone", "lock.onoffLock"},
+        {"radioOperationModeButtonNone", "lock.modelock"},
+        {"radioDhwOnOffNone", "lock.hotwaterOnOfflock"}};
+    for (const auto &[radio, key] : releases) {
+        const QString path = func + key;
+        QTest::newRow(radio) << path << QStringLiteral("SET") << QStringLiteral("CLR");
+        const QByteArray other = QByteArray(radio).replace("Notuse", "Use").replace("None", "Use");
+        QTest::newRow(other) << path << QStringLiteral("CLR") << QStringLiteral("SET");
+    }
 }
 
 void TestSettingFunction::radiosWrite()
@@ -323,116 +329,6 @@ void TestSettingFunction::radiosWrite()
     const QVariantMap changes = window->changes([this] { Window::click(page, QTest::currentDataTag()); });
     QCOMPARE(changes, (QVariantMap{{path, word}}));
     QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
-}
-
-void TestSettingFunction::onOffLockAloneIsLogged()
-{
-    show(withHotWater);
-    for (const char *radio :
-         {"radioOnOffButtonUse", "radioOnOffButtonNone", "radioOperationModeButtonUse", "radioDhwOnOffUse"}) {
-        messages::clear();
-        Window::click(page, radio);
-        QCOMPARE(messages::contain("SettingFunction::on_radioOnOffButtonUse_clicked"),
-                 qstrcmp(radio, "radioOnOffButtonUse") == 0);
-    }
-}
-
-void TestSettingFunction::allLockOverridesOnTheScreenOnly()
-{
-    show({{"IduFuncList.is_hotwater", "SET"}, {func + "lock.modelock", "SET"}});
-    const auto verify = [this](bool released) {
-        for (const char *group : {"groupBoxOnOffLock", "groupBoxModeLock", "groupBoxDHWOnOff"}) {
-            QVERIFY2(Window::enabled(page, group) == released, group);
-        }
-        for (const char *radio :
-             {"radioOnOffButtonNone", "radioOnOffButtonUse", "radioOperationModeButtonNone",
-              "radioOperationModeButtonUse", "radioDhwOnOffNone", "radioDhwOnOffUse"}) {
-            QCOMPARE(style(radio), radioStyle(released ? "rgba(33,33,33)" : "rgba(33,33,33,30%)"));
-        }
-        for (const char *label : {"labelOnOff", "labelOperationMode", "labelDHW"}) {
-            QCOMPARE(style(label), released ? enabledLabel : dimmedLabel);
-        }
-        QVERIFY(Window::checked(page, "radioOnOffButtonNone"));
-        QVERIFY(Window::checked(page, "radioOperationModeButtonUse"));
-        QVERIFY(Window::checked(page, "radioDhwOnOffNone"));
-    };
-    verify(true);
-    QCOMPARE(window->changes([this] { Window::click(page, "radioAllButtonUse"); }),
-             (QVariantMap{{func + "lock.buttonLock", "SET"}}));
-    verify(false);
-    QVERIFY(valid());
-    QCOMPARE(window->changes([this] { Window::click(page, "radioAllButtonNone"); }),
-             (QVariantMap{{func + "lock.buttonLock", "CLR"}}));
-    verify(true);
-}
-
-void TestSettingFunction::unknownAllLockCountsAsLocked_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("locked");
-    QTest::newRow("SET") << QVariant("SET") << true;
-    QTest::newRow("clr") << QVariant("clr") << false;
-    QTest::newRow("unknown") << QVariant("x") << true;
-    QTest::newRow("missing") << QVariant() << true;
-}
-
-void TestSettingFunction::unknownAllLockCountsAsLocked()
-{
-    QFETCH(QVariant, value);
-    QFETCH(bool, locked);
-    show({{func + "lock.buttonLock", value}});
-    QCOMPARE(Window::checked(page, "radioAllButtonUse"), locked);
-    QCOMPARE(Window::checked(page, "radioAllButtonNone"), !locked);
-    QCOMPARE(Window::enabled(page, "groupBoxOnOffLock"), !locked);
-}
-
-void TestSettingFunction::lockedLoadLeavesTheOtherRadios()
-{
-    show();
-    show({{func + "lock.buttonLock", "SET"},
-          {func + "lock.onoffLock", "SET"},
-          {func + "lock.modelock", "SET"},
-          {func + "lock.hotwaterOnOfflock", "SET"}});
-    for (const char *radio : {"radioOnOffButtonNone", "radioOperationModeButtonNone", "radioDhwOnOffNone"}) {
-        QVERIFY2(Window::checked(page, radio), radio);
-    }
-}
-
-void TestSettingFunction::locksShow_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("checked");
-    const std::vector<std::tuple<const char *, QByteArray>> locks{{"onoffLock", "radioOnOffButton"},
-                                                                  {"modelock", "radioOperationModeButton"},
-                                                                  {"hotwaterOnOfflock", "radioDhwOnOff"}};
-    for (const auto &[key, radio] : locks) {
-        const QString path = func + "lock." + key;
-        QTest::addRow("%s SET", key) << path << QVariant("SET") << radio + "Use";
-        QTest::addRow("%s clr", key) << path << QVariant("clr") << radio + "None";
-        QTest::addRow("%s unknown", key) << path << QVariant("x") << radio + "Use";
-        QTest::addRow("%s missing", key) << path << QVariant() << radio + "Use";
-    }
-}
-
-void TestSettingFunction::locksShow()
-{
-    QFETCH(QString, path);
-    QFETCH(QVariant, value);
-    QFETCH(QByteArray, checked);
-    show({{path, value.toString() == "clr" ? "SET" : "CLR"}});
-    QVERIFY(!Window::checked(page, checked.constData()));
-    show({{path, value}});
-    QVERIFY(Window::checked(page, checked.constData()));
-}
-
-void TestSettingFunction::hotWaterLockNeedsTheTank()
-{
-    show(withHotWater);
-    QVERIFY(Window::visible(page, "groupBoxDHWOnOff"));
-    show();
-    QVERIFY(!Window::shownItself(page, "groupBoxDHWOnOff"));
-    QVERIFY(valid());
 }
 
 void TestSettingFunction::defrostModeNeedsFlagAndMaster_data()
@@ -480,6 +376,11 @@ void TestSettingFunction::defrostModeShowsAndFallsBack()
     // A group that stays hidden keeps its list as it is.
     show();
     QCOMPARE(Window::shown(page, "comboDefrostMode"), QStringLiteral("STEP3"));
+    values.insert("SettingInfo.installation.OduFunctionMS", "SLAVE");
+    values.insert(func + "installDefrostMode", "STEP2");
+    show(values);
+    QCOMPARE(Window::shown(page, "comboDefrostMode"), QStringLiteral("STEP3"));
+    values.insert("SettingInfo.installation.OduFunctionMS", "MASTER");
     values.insert(func + "installDefrostMode", "STEP9");
     show(values);
     QCOMPARE(Window::shown(page, "comboDefrostMode"), QStringLiteral("STEP0"));
@@ -529,41 +430,6 @@ void TestSettingFunction::everyChangeIsChecked()
         Window::choose(Window::find<QComboBox>(page, combo), 3);
         QVERIFY2(messages::contain("SettingFunction::validationCheck succeed!"), combo);
     }
-}
-
-void TestSettingFunction::unusedLockSlotsWork_data()
-{
-    QTest::addColumn<QByteArray>("radio");
-    QTest::newRow("onoffButtonLock") << QByteArray("radioOnOffButton");
-    QTest::newRow("modeButtonLock") << QByteArray("radioOperationModeButton");
-    QTest::newRow("hotWaterButtonLock") << QByteArray("radioDhwOnOff");
-}
-
-void TestSettingFunction::unusedLockSlotsWork()
-{
-    QFETCH(QByteArray, radio);
-    show();
-    for (const bool lock : {true, false}) {
-        const QVariantMap changes = window->changes([this, lock] {
-            QVERIFY(QMetaObject::invokeMethod(page, QTest::currentDataTag(), Q_ARG(bool, lock)));
-        });
-        QCOMPARE(changes, QVariantMap());
-        QCOMPARE(Window::checked(page, radio + "Use"), lock);
-        QCOMPARE(Window::checked(page, radio + "None"), !lock);
-    }
-}
-
-void TestSettingFunction::stylesOfEnabledAndDimmed()
-{
-    const auto call = [this](const char *slot, bool enabled) {
-        QString result;
-        QMetaObject::invokeMethod(page, slot, Q_RETURN_ARG(QString, result), Q_ARG(bool, enabled));
-        return result;
-    };
-    QCOMPARE(call("setOpacity", true), enabledLabel);
-    QCOMPARE(call("setOpacity", false), dimmedLabel);
-    QCOMPARE(call("setRadioTextOpacity", true), radioStyle("rgba(33,33,33)"));
-    QCOMPARE(call("setRadioTextOpacity", false), radioStyle("rgba(33,33,33,30%)"));
 }
 
 void TestSettingFunction::writesNothingWithoutDocument()

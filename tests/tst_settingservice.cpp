@@ -17,6 +17,7 @@ private slots:
     void slotsAreDeclaredInOrder();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
+    void takesNoPartInTheLanguageSignal();
     void startsWithTheTextsOfTheForm();
     void newDocumentShowsDashes();
     void showsTheValuesOfTheDocument();
@@ -85,6 +86,16 @@ void TestSettingService::textsFollowTheLanguage()
     show({});
     QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
     QCOMPARE(label->text(), text + "~");
+}
+
+// The dialog calls the page along with its own texts instead.
+void TestSettingService::takesNoPartInTheLanguageSignal()
+{
+    window->dialog.setLanguageDocument(QJsonDocument(QJsonObject{{"Telephone", "~"}}));
+    emit window->dialog.changeInstallationLanguage();
+    QCOMPARE(Window::find<QLabel>(page, "labelTel")->text(), QStringLiteral("Telephone number"));
+    window->dialog.changeLanguage();
+    QCOMPARE(Window::find<QLabel>(page, "labelTel")->text(), QStringLiteral("~"));
 }
 
 void TestSettingService::startsWithTheTextsOfTheForm()
@@ -164,6 +175,10 @@ void TestSettingService::typingWritesAtOnce()
     QLineEdit *field = edit(QTest::currentDataTag());
     QCOMPARE(window->changes([field] { Window::type(field, "12"); }), (QVariantMap{{path, "12"}}));
     QCOMPARE(window->changes([field] { QTest::keyClick(field, Qt::Key_3); }), (QVariantMap{{path, "123"}}));
+    // Writing checks nothing.
+    window->dialog.setSettingTabValid(false, MainDialog::ServiceTab);
+    Window::type(field, "4");
+    QVERIFY(!window->dialog.members().serviceValid);
 }
 
 void TestSettingService::emptyingDiffers_data()

@@ -34,6 +34,7 @@ private slots:
     void minutesAreSaved();
     void timesShow_data();
     void timesShow();
+    void timesAreSelectedInOrder();
     void timesThatAreNotListedAreReplaced_data();
     void timesThatAreNotListedAreReplaced();
     void timesBecomeText_data();
@@ -168,6 +169,12 @@ void TestSettingSilentTimes::silentModeEnablesItsTimes()
     Window::click(page, "radioSlientModeNotuse");
     verify(false);
     QCOMPARE(window->dialog.document(), documents::standard("R410"));
+    // Each list is disabled by itself as well.
+    Window::find(page, "groupBoxSilentModeSub")->setEnabled(true);
+    for (const char *name :
+         {"comboSilentStartHour", "comboSilentStartMin", "comboSilentEndHour", "comboSilentEndMin"}) {
+        QVERIFY2(!Window::enabled(page, name), name);
+    }
 }
 
 void TestSettingSilentTimes::hoursAreSavedByHalfDays_data()
@@ -228,6 +235,12 @@ void TestSettingSilentTimes::timesShow_data()
                              << "59";
     QTest::newRow("PM 11:30") << "PM" << 11 << 30 << "23"
                               << "30";
+    QTest::newRow("PM 0:00") << "PM" << 0 << 0 << "12"
+                             << "00";
+    QTest::newRow("PM -1:01") << "PM" << -1 << 1 << "11"
+                              << "01";
+    QTest::newRow("unknown half") << "x" << 4 << 5 << "04"
+                                  << "05";
 }
 
 void TestSettingSilentTimes::timesShow()
@@ -241,6 +254,25 @@ void TestSettingSilentTimes::timesShow()
         QTEST(Window::shown(page, start ? "comboSilentStartHour" : "comboSilentEndHour"), "shownHour");
         QTEST(Window::shown(page, start ? "comboSilentStartMin" : "comboSilentEndMin"), "shownMinute");
     }
+}
+
+void TestSettingSilentTimes::timesAreSelectedInOrder()
+{
+    show();
+    const QObject scope;
+    QStringList selected;
+    for (const char *name :
+         {"comboSilentEndHour", "comboSilentEndMin", "comboSilentStartHour", "comboSilentStartMin"}) {
+        QObject::connect(Window::find<QComboBox>(page, name), &QComboBox::currentTextChanged, &scope,
+                         [&selected, name] { selected.append(name); });
+    }
+    show({{startClock + ".hour", 1},
+          {startClock + ".min", 2},
+          {endClock + ".hour", 3},
+          {endClock + ".min", 4}});
+    QCOMPARE(selected,
+             (QStringList{"comboSilentStartHour", "comboSilentStartMin", "comboSilentEndMin",
+                          "comboSilentEndHour"}));
 }
 
 // The lists stand on other items before; the slots write what is shown instead.

@@ -50,6 +50,7 @@ private slots:
     void cleanupTestCase() { window.reset(); }
 
     void writesNothingBeforeItIsShown();
+    void firstShowingLoads();
     void startsWithTheTextsOfTheForm_data();
     void startsWithTheTextsOfTheForm();
     void slotsAreDeclaredInOrder();
@@ -120,6 +121,15 @@ void TestSettingUser::writesNothingBeforeItIsShown()
     combo("comboDateYear")->setCurrentIndex(2);
     Window::invoke(page, "on_radioBlack_clicked");
     QCOMPARE(window->dialog.document(), documents::standard("R410"));
+}
+
+// The second test: the load itself writes already, and the day is disabled though the month hasn't changed.
+void TestSettingUser::firstShowingLoads()
+{
+    show({{brightness, "brightness30"}});
+    QCOMPARE(stored(brightness).toString(), QStringLiteral("BRIGHTNESS30"));
+    QCOMPARE(combo("comboDateMonth")->currentIndex(), 0);
+    QVERIFY(!Window::enabled(page, "comboDateDay"));
 }
 
 void TestSettingUser::startsWithTheTextsOfTheForm_data()
@@ -232,6 +242,7 @@ void TestSettingUser::listsAtConstruction()
     QFETCH(QStringList, items);
     window->speak("~");
     const SettingUser fresh;
+    QCOMPARE(messages::all(), QStringList());
     QCOMPARE(Window::items(&fresh, QTest::currentDataTag()), items);
     QCOMPARE(Window::find<QComboBox>(&fresh, QTest::currentDataTag())->currentIndex(), 0);
 }
@@ -253,7 +264,9 @@ void TestSettingUser::languageChangeKeepsPositions()
                                       {"comboStartDay", headed("Day~", 1, 31), 25},
                                       {"comboEndMonth", headed("Month~", 1, 12), 10},
                                       {"comboEndDay", headed("Day~", 1, 31), 28}};
+    messages::clear();
     QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
+    QVERIFY(!messages::contain("SettingUser::"));
     for (const Expected &list : lists) {
         QCOMPARE(Window::items(page, list.name), list.items);
         QCOMPARE(combo(list.name)->currentIndex(), list.index);
@@ -271,13 +284,17 @@ void TestSettingUser::languageChangeSelectsWhereNothingWas()
 void TestSettingUser::otherLanguageLoadsAndSaves()
 {
     window->speak("~");
-    show(merged(dated, {{timer, "BACKLIGHT15S"}}));
+    show(merged(dated, {{summerTime, "SET"}, {timer, "BACKLIGHT15S"}}));
     QCOMPARE(Window::shown(page, "comboScreenSaverTimer"), QStringLiteral("15s~"));
     QCOMPARE(changesOf("comboScreenSaverTimer", "60s~"), (QVariantMap{{timer, "BACKLIGHT60S"}}));
     QCOMPARE(changesOf("comboDateDay", "Day~"), (QVariantMap{{mday, unset}}));
     QCOMPARE(changesOf("comboDateYear", "Year~"), (QVariantMap{{year, unset}}));
     QCOMPARE(changesOf("comboDateMonth", "7"), (QVariantMap{{month, 7}}));
     QCOMPARE(Window::items(page, "comboDateDay"), headed("Day~", 1, 31));
+    QCOMPARE(changesOf("comboStartDay", "Day~"), (QVariantMap{{startDay, unset}}));
+    QCOMPARE(changesOf("comboEndMonth", "Month~"), (QVariantMap{{endMonth, unset}, {endDay, unset}}));
+    Window::choose(page, "comboDateDay", "8");
+    QCOMPARE(changesOf("comboDateMonth", "Month~"), (QVariantMap{{mday, unset}}));
 }
 
 void TestSettingUser::defaultsShowAndStay_data()
@@ -371,18 +388,14 @@ void TestSettingUser::radiosWrite_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("word");
     QTest::addColumn<bool>("checks");
-    QTest::newRow("radioCelicious") << tempConversion << "FAHRENHEIT"
-                                    << "CENTIGRADE" << true;
-    QTest::newRow("radioFahreheit") << tempConversion << "CENTIGRADE"
-                                    << "FAHRENHEIT" << true;
-    QTest::newRow("radioSummerTimeNotuse") << summerTime << "SET"
-                                           << "CLR" << true;
-    QTest::newRow("radioSummerTimeUse") << summerTime << "CLR"
-                                        << "SET" << false;
-    QTest::newRow("radioWhite") << theme << "black"
-                                << "white" << true;
-    QTest::newRow("radioBlack") << theme << "white"
-                                << "black" << true;
+    const auto row = [](const char *radio, const QString &path, const QString &before, const QString &word,
+                        bool checks = true) { QTest::newRow(radio) << path << before << word << checks; };
+    row("radioCelicious", tempConversion, "FAHRENHEIT", "CENTIGRADE");
+    row("radioFahreheit", tempConversion, "CENTIGRADE", "FAHRENHEIT");
+    row("radioSummerTimeNotuse", summerTime, "SET", "CLR");
+    row("radioSummerTimeUse", summerTime, "CLR", "SET", false);
+    row("radioWhite", theme, "black", "white");
+    row("radioBlack", theme, "white", "black");
 }
 
 void TestSettingUser::radiosWrite()

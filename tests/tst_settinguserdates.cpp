@@ -58,6 +58,7 @@ private slots:
     void dateShows();
     void summerDatesShow_data();
     void summerDatesShow();
+    void datesAreSelectedInOrder();
     void daysInLanguageKeepTheIndex();
 
 private:
@@ -251,6 +252,10 @@ void TestSettingUserDates::dateShows_data()
         << values(2020, unset, 30) << QStringList{"2020", "Month", "30"} << false << QVariantMap();
     QTest::newRow("missing") << values(QVariant(), QVariant(), QVariant()) << QStringList{"", "", ""} << true
                              << QVariantMap{{year, 0}, {month, 0}, {mday, 0}};
+    QTest::newRow("listed again") << values(2020, 5, 6) << QStringList{"2020", "5", "6"} << true
+                                  << QVariantMap();
+    QTest::newRow("as texts") << values("2020", "5", "6") << QStringList{"", "", ""} << true
+                              << QVariantMap{{year, 0}, {month, 0}, {mday, 0}};
 }
 
 // Each row stands on the lists that the row before has left.
@@ -308,6 +313,28 @@ void TestSettingUserDates::summerDatesShow()
              shown);
     QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), merged(set, rewritten)));
     QCOMPARE(valid(), !shown.contains("Month") && !shown.contains("Day"));
+}
+
+void TestSettingUserDates::datesAreSelectedInOrder()
+{
+    show();
+    const QObject scope;
+    const QStringList order{"comboBrightness", "comboScreenSaverTimer", "comboDateYear",
+                            "comboDateMonth",  "comboDateDay",          "comboStartMonth",
+                            "comboStartDay",   "comboEndMonth",         "comboEndDay"};
+    QStringList selected;
+    for (const QString &name : order) {
+        QObject::connect(combo(qPrintable(name)), &QComboBox::currentTextChanged, &scope,
+                         [&selected, name] { selected.append(name); });
+    }
+    show(merged(dated,
+                {{user + "backlightControl.brightness", "BRIGHTNESS30"},
+                 {user + "backlightControl.dimmTimeSet", "BACKLIGHT60S"},
+                 {startMonth, 1},
+                 {startDay, 2},
+                 {endMonth, 3},
+                 {endDay, 4}}));
+    QCOMPARE(selected, order);
 }
 
 void TestSettingUserDates::daysInLanguageKeepTheIndex()
