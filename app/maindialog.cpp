@@ -1,5 +1,6 @@
 #include "app/maindialog.h"
 
+#include "app/windowshadow.h"
 #include "languages/languagemenu.h"
 #include "pages/installation/installationaauto.h"
 #include "pages/installation/installationcool.h"
@@ -15,7 +16,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QGraphicsDropShadowEffect>
 #include <QKeyEvent>
 
 MainDialog *mainDialog = nullptr;
@@ -34,7 +34,7 @@ MainDialog::MainDialog(QWidget *parent)
         ui->windowFrame->setStyleSheet(QString::fromUtf8(look.readAll()));
     }
 
-    auto *shadow = new QGraphicsDropShadowEffect(this);
+    auto *shadow = new WindowShadow(this);
     shadow->setBlurRadius(2);
     shadow->setColor(QColor(0, 0, 0, 30));
     shadow->setOffset(2, 2);

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace {
 
 // Far more than any list needs. Limits of a damaged document could ask for thousands of millions.
@@ -17,6 +19,17 @@ constexpr int longestList = 1000;
 int numberBefore(const QString &text, int suffixLength)
 {
     return text.chopped(qMin(suffixLength, text.size())).toInt();
+}
+
+/// Whether the list holds these items already: then it needn't be filled again, which is what takes the time.
+bool holds(const QComboBox &comboBox, const QStringList &items)
+{
+    if (comboBox.count() != items.size()) {
+        return false;
+    }
+    int index = 0;
+    return std::all_of(items.begin(), items.end(),
+                       [&](const QString &item) { return comboBox.itemText(index++) == item; });
 }
 
 } // namespace
@@ -97,8 +110,12 @@ void MainDialog::setComboByKey(QComboBox *comboBox, const QString &key)
 void MainDialog::setComboItems(QComboBox *comboBox, const QStringList &items, int index)
 {
     comboBox->blockSignals(true);
-    comboBox->clear();
-    comboBox->addItems(items);
+    if (holds(*comboBox, items)) {
+        comboBox->setCurrentIndex(items.isEmpty() ? -1 : 0);
+    } else {
+        comboBox->clear();
+        comboBox->addItems(items);
+    }
     if (index != -1) {
         comboBox->setCurrentIndex(index);
     }
