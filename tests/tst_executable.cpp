@@ -255,6 +255,8 @@ void TestExecutable::isNotScaled()
     QVERIFY(run.isShown());
     QCOMPARE(run.size(), QSize(1440, 800));
     QCOMPARE(run.picture(), plain);
+    const QByteArray told = run.standardError();
+    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
 }
 
 void TestExecutable::isNotScaledByTheDesktop()
