@@ -25,14 +25,15 @@ class TestLookup : public QObject
 private slots:
     void init()
     {
-        restart();
+        // The rows of a function share a window.
+        if (function != QTest::currentTestFunction()) {
+            function = QTest::currentTestFunction();
+            restart();
+        }
         messages::clear();
     }
-    void cleanup()
-    {
-        window.reset();
-        languagefolder::restore();
-    }
+    void cleanup() { languagefolder::restore(); }
+    void cleanupTestCase() { window.reset(); }
 
     void startsWithTheDeliveredLanguage();
     void startsWithTheRememberedLanguage();
@@ -70,6 +71,7 @@ private:
         window = std::make_unique<Window>();
     }
 
+    QByteArray function;
     std::unique_ptr<Window> window;
 };
 
@@ -114,15 +116,16 @@ void TestLookup::startsWithoutALanguage()
     }
     messages::clear();
     restart();
-    // The forms keep their own texts, and nothing was asked for.
+    // The forms keep their own texts: no language change ran, in which the first page asks for this key.
     QCOMPARE(currentLanguage(), shown);
     QCOMPARE(newText(), QString("New"));
     QVERIFY(dialog().languageMap().isEmpty());
-    QVERIFY(!messages::contain(emptyText));
+    QVERIFY(!messages::all().contains(quoted("SubText")));
     QCOMPARE(messages::all().contains(unreadable), name.isNull());
     QCOMPARE(messages::contain(unreadable + ' '), !name.isNull());
+    messages::clear();
     QCOMPARE(dialog().languageValue("New"), QString());
-    QVERIFY(messages::contain(emptyText));
+    QCOMPARE(messages::all(), (QStringList{quoted("New"), emptyText}));
 }
 
 void TestLookup::setsTheTextsOfTheWindow_data()
@@ -142,6 +145,7 @@ void TestLookup::setsTheTextsOfTheWindow()
 {
     QFETCH(QString, text);
     const auto *widget = Window::find(&dialog(), QTest::currentDataTag());
+    window->speak();
     QCOMPARE(widget->property("text").toString(), text);
     window->speak("~");
     QCOMPARE(widget->property("text").toString(), text + '~');

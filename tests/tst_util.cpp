@@ -134,11 +134,15 @@ private slots:
 
     void reads_data();
     void reads();
+    void readsBehindBrackets_data();
+    void readsBehindBrackets();
     void readsTheDefaultDocument();
     void readsNothingFromNoDocument();
     void aMissingValueHasNoTextAndNoNumber();
     void writes_data();
     void writes();
+    void writesBehindBrackets_data();
+    void writesBehindBrackets();
     void writesIntoAnArray_data();
     void writesIntoAnArray();
     void logsAWriteIntoAPlainValue();
@@ -146,69 +150,93 @@ private slots:
     void writesTheRecursiveForm();
     void undefinedIsLeftToTheObject();
     void agreesWithTheSlowRules();
+
+private:
+    static void readColumns()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QByteArray>("expected");
+    }
+    static void readRow(const char *path, const char *expected)
+    {
+        QTest::newRow(*path == '\0' ? "(empty)" : path) << QByteArray(path) << QByteArray(expected);
+    }
+    static void writeColumns()
+    {
+        for (const char *name : {"before", "path", "written", "after"}) {
+            QTest::addColumn<QByteArray>(name);
+        }
+    }
+    static void writeRow(const char *name, const char *before, const char *path, const char *written,
+                         const char *after)
+    {
+        QTest::newRow(name) << QByteArray(before) << QByteArray(path) << QByteArray(written)
+                            << QByteArray(after);
+    }
 };
 
 void TestUtil::reads_data()
 {
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QByteArray>("expected");
-    const auto row = [](const char *path, const char *expected) {
-        QTest::newRow(*path == '\0' ? "(empty)" : path) << QByteArray(path) << QByteArray(expected);
-    };
-    row("text", "'z'");
-    row("a.b.c", "'x'");
-    row("a.b", "{'c':'x','d':7}");
-    row("list", "[10,{'n':{'m':1}},[3,4]]");
+    readColumns();
+    readRow("text", "'z'");
+    readRow("a.b.c", "'x'");
+    readRow("a.b", "{'c':'x','d':7}");
+    readRow("list", "[10,{'n':{'m':1}},[3,4]]");
     // The empty name is a name as any other.
-    row("", "{'':'empty'}");
-    row("a.", "{'b':{'c':'x','d':7},'e':'y'}");
-    row("a..b", "null");
+    readRow("", "{'':'empty'}");
+    readRow("a.", "{'b':{'c':'x','d':7},'e':'y'}");
+    readRow("a..b", "null");
     // A leading dot is an empty name with nothing behind it.
-    row(".a", "{'':'empty'}");
-    row(".", "{'':'empty'}");
-    row("a.b.", "{'c':'x','d':7}");
-    row("a..", "null");
+    readRow(".a", "{'':'empty'}");
+    readRow(".", "{'':'empty'}");
+    readRow("a.b.", "{'c':'x','d':7}");
+    readRow("a..", "null");
     // Missing at any depth, through a value that is no object, and with case.
-    row("b", "null");
-    row("a.x", "null");
-    row("a.x.y.z", "null");
-    row("text.length", "null");
-    row("nothing", "null");
-    row("nothing.at.all", "null");
-    row("A.b.c", "null");
-    row("a.b.d.e", "null");
+    readRow("b", "null");
+    readRow("a.x", "null");
+    readRow("a.x.y.z", "null");
+    readRow("text.length", "null");
+    readRow("nothing", "null");
+    readRow("nothing.at.all", "null");
+    readRow("A.b.c", "null");
+    readRow("a.b.d.e", "null");
+}
+
+void TestUtil::readsBehindBrackets_data()
+{
+    readColumns();
     // Arrays aren't entered.
-    row("list[0]", "null");
-    row("list[1].n", "null");
-    row("list[1]n", "null");
-    row("list.1", "null");
-    row("list.n", "null");
-    row("list[]", "null");
-    row("list[9]", "null");
-    row("list[", "null");
+    readRow("list[0]", "null");
+    readRow("list[1].n", "null");
+    readRow("list[1]n", "null");
+    readRow("list.1", "null");
+    readRow("list.n", "null");
+    readRow("list[]", "null");
+    readRow("list[9]", "null");
+    readRow("list[", "null");
     // Behind any other name the index is skipped.
-    row("text[3]", "'z'");
-    row("text[", "'z'");
-    row("a[0].b.c", "'x'");
-    row("a[0]b.c", "'x'");
-    row("a[2]", "{'b':{'c':'x','d':7},'e':'y'}");
-    row("a.b[1].c", "'x'");
-    row("a.b[1]c", "'x'");
-    row("a.b[1].x", "null");
-    row("b[0].c", "null");
+    readRow("text[3]", "'z'");
+    readRow("text[", "'z'");
+    readRow("a[0].b.c", "'x'");
+    readRow("a[0]b.c", "'x'");
+    readRow("a[2]", "{'b':{'c':'x','d':7},'e':'y'}");
+    readRow("a.b[1].c", "'x'");
+    readRow("a.b[1]c", "'x'");
+    readRow("a.b[1].x", "null");
+    readRow("b[0].c", "null");
     // Brackets that aren't a pair.
-    row("text]", "null");
-    row("]", "null");
-    row("[", "{'':'empty'}");
-    row("[]", "{'':'empty'}");
-    row("[].", "{'':'empty'}");
-    row("[]..", "'empty'");
-    row("[].a", "null");
-    row("]text[", "null");
-    row("a[0", "{'b':{'c':'x','d':7},'e':'y'}");
-    row("a[0.b", "{'b':{'c':'x','d':7},'e':'y'}");
+    readRow("text]", "null");
+    readRow("]", "null");
+    readRow("[", "{'':'empty'}");
+    readRow("[]", "{'':'empty'}");
+    readRow("[].", "{'':'empty'}");
+    readRow("[]..", "'empty'");
+    readRow("[].a", "null");
+    readRow("]text[", "null");
+    readRow("a[0", "{'b':{'c':'x','d':7},'e':'y'}");
+    readRow("a[0.b", "{'b':{'c':'x','d':7},'e':'y'}");
     // The closing bracket is the first of the whole path, which here stands before the opening one.
-    row("a.]b", "null");
+    readRow("a.]b", "null");
 }
 
 void TestUtil::reads()
@@ -220,6 +248,8 @@ void TestUtil::reads()
     QVERIFY(!found.isUndefined());
     QVERIFY(messages::all().isEmpty());
 }
+
+void TestUtil::readsBehindBrackets() { reads(); }
 
 void TestUtil::readsTheDefaultDocument()
 {
@@ -253,70 +283,68 @@ void TestUtil::aMissingValueHasNoTextAndNoNumber()
 
 void TestUtil::writes_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QByteArray>("written");
-    QTest::addColumn<QByteArray>("after");
-    const auto row = [](const char *name, const char *before, const char *path, const char *written,
-                        const char *after) {
-        QTest::newRow(name) << QByteArray(before) << QByteArray(path) << QByteArray(written)
-                            << QByteArray(after);
-    };
-    row("replace", "{'a':1,'b':2}", "a", "'n'", "{'a':'n','b':2}");
-    row("replace deep", "{'a':{'b':{'c':1,'d':2}},'e':3}", "a.b.c", "'n'",
-        "{'a':{'b':{'c':'n','d':2}},'e':3}");
-    row("replace an object", "{'a':{'b':1}}", "a", "5", "{'a':5}");
-    row("add", "{'a':1}", "b", "{'c':[]}", "{'a':1,'b':{'c':[]}}");
-    row("add in an object", "{'a':{'b':1}}", "a.c", "true", "{'a':{'b':1,'c':true}}");
-    row("add to nothing", "{}", "a", "1", "{'a':1}");
-    row("below a missing name", "{'a':{}}", "a.missing.b", "'n'", "{'a':{'missing':'n'}}");
-    row("below a missing first name", "{}", "a.b.c", "'n'", "{'a':'n'}");
-    row("below a plain value", "{'a':{'b':1}}", "a.b.c.d", "'n'", "{'a':{'b':'n'}}");
-    row("below null", "{'a':null}", "a.b", "'n'", "{'a':'n'}");
-    row("remove", "{'a':{'b':1,'c':2}}", "a.b", "null", "{'a':{'c':2}}");
-    row("remove an object", "{'a':{'b':1},'c':2}", "a", "null", "{'c':2}");
-    row("remove what is missing", "{'a':{'b':1}}", "a.x", "null", "{'a':{'b':1}}");
-    row("remove below a plain value", "{'a':{'b':1}}", "a.b.c", "null", "{'a':{}}");
-    row("remove below a missing name", "{'a':{'b':1}}", "a.x.y", "null", "{'a':{'b':1}}");
-    row("empty path", "{'a':1}", "", "2", "{'':2,'a':1}");
-    row("leading dot", "{'a':1}", ".a", "2", "{'':2,'a':1}");
-    row("trailing dot", "{'a':{'b':1}}", "a.b.", "2", "{'a':{'b':2}}");
-    row("empty name below", "{'a':{'b':1}}", "a..b", "2", "{'a':{'':2,'b':1}}");
-    row("with case", "{'a':1}", "A", "2", "{'A':2,'a':1}");
-    // Brackets behind objects and plain values.
-    row("index behind an object", "{'a':{'b':1}}", "a[3].b", "2", "{'a':{'b':2}}");
-    row("index behind an object, without a dot", "{'a':{'b':1}}", "a[3]b", "2", "{'a':{'b':2}}");
-    row("index behind a plain value", "{'a':1}", "a[3].b", "2", "{'a':2}");
-    row("index behind a missing name", "{}", "a[3].b", "2", "{'a':2}");
-    row("index at the end", "{'a':{'b':1}}", "a[0]", "2", "{'a':2}");
+    writeColumns();
+    writeRow("replace", "{'a':1,'b':2}", "a", "'n'", "{'a':'n','b':2}");
+    writeRow("replace deep", "{'a':{'b':{'c':1,'d':2}},'e':3}", "a.b.c", "'n'",
+             "{'a':{'b':{'c':'n','d':2}},'e':3}");
+    writeRow("replace an object", "{'a':{'b':1}}", "a", "5", "{'a':5}");
+    writeRow("add", "{'a':1}", "b", "{'c':[]}", "{'a':1,'b':{'c':[]}}");
+    writeRow("add in an object", "{'a':{'b':1}}", "a.c", "true", "{'a':{'b':1,'c':true}}");
+    writeRow("add to nothing", "{}", "a", "1", "{'a':1}");
+    writeRow("below a missing name", "{'a':{}}", "a.missing.b", "'n'", "{'a':{'missing':'n'}}");
+    writeRow("below a missing first name", "{}", "a.b.c", "'n'", "{'a':'n'}");
+    writeRow("below a plain value", "{'a':{'b':1}}", "a.b.c.d", "'n'", "{'a':{'b':'n'}}");
+    writeRow("below null", "{'a':null}", "a.b", "'n'", "{'a':'n'}");
+    writeRow("remove", "{'a':{'b':1,'c':2}}", "a.b", "null", "{'a':{'c':2}}");
+    writeRow("remove an object", "{'a':{'b':1},'c':2}", "a", "null", "{'c':2}");
+    writeRow("remove what is missing", "{'a':{'b':1}}", "a.x", "null", "{'a':{'b':1}}");
+    writeRow("remove below a plain value", "{'a':{'b':1}}", "a.b.c", "null", "{'a':{}}");
+    writeRow("remove below a missing name", "{'a':{'b':1}}", "a.x.y", "null", "{'a':{'b':1}}");
+    writeRow("empty path", "{'a':1}", "", "2", "{'':2,'a':1}");
+    writeRow("leading dot", "{'a':1}", ".a", "2", "{'':2,'a':1}");
+    writeRow("trailing dot", "{'a':{'b':1}}", "a.b.", "2", "{'a':{'b':2}}");
+    writeRow("empty name below", "{'a':{'b':1}}", "a..b", "2", "{'a':{'':2,'b':1}}");
+    writeRow("with case", "{'a':1}", "A", "2", "{'A':2,'a':1}");
+}
+
+void TestUtil::writesBehindBrackets_data()
+{
+    writeColumns();
+    // Behind objects and plain values.
+    writeRow("index behind an object", "{'a':{'b':1}}", "a[3].b", "2", "{'a':{'b':2}}");
+    writeRow("index behind an object, without a dot", "{'a':{'b':1}}", "a[3]b", "2", "{'a':{'b':2}}");
+    writeRow("index behind a plain value", "{'a':1}", "a[3].b", "2", "{'a':2}");
+    writeRow("index behind a missing name", "{}", "a[3].b", "2", "{'a':2}");
+    writeRow("index at the end", "{'a':{'b':1}}", "a[0]", "2", "{'a':2}");
     // Arrays: an index in the middle enters the element, one at the end doesn't count.
-    row("array element at the end", "{'a':[1,2,3]}", "a[2]", "'n'", "{'a':'n'}");
-    row("array element's member", "{'a':[1,{'b':1,'c':2}]}", "a[1].b", "'n'", "{'a':[1,{'b':'n','c':2}]}");
-    row("array element's member, without a dot", "{'a':[{'b':1}]}", "a[0]b", "'n'", "{'a':[{'b':'n'}]}");
-    row("array element that is a number", "{'a':[1,2,3]}", "a[1].b", "'n'", "{'a':[1,'n',3]}");
-    row("array element's missing member", "{'a':[{}]}", "a[0].b.c", "'n'", "{'a':[{'b':'n'}]}");
-    row("array element's member removed", "{'a':[{'b':1,'c':2}]}", "a[0].b", "null", "{'a':[{'c':2}]}");
-    row("array element set to null", "{'a':[1,2,3]}", "a[1].b", "null", "{'a':[1,null,3]}");
-    row("array entered without an index", "{'a':[{'b':1},{'b':2}]}", "a.b", "'n'",
-        "{'a':[{'b':'n'},{'b':2}]}");
-    row("array entered by a later index", "{'a':[{'b':1},{'b':2}]}", "a.b[1]", "'n'",
-        "{'a':[{'b':1},{'b':'n'}]}");
-    row("array removed", "{'a':[1,2,3]}", "a[2]", "null", "{}");
-    row("element that isn't there", "{'a':[1,2]}", "a[2].b", "'n'", "{'a':[1,2]}");
-    row("element before the first", "{'a':[1,2]}", "a[-1].b", "'n'", "{'a':[1,2]}");
-    row("element of an empty array", "{'a':[]}", "a[0].b", "'n'", "{'a':[]}");
-    row("element that isn't there removed", "{'a':[1,2]}", "a[2].b", "null", "{'a':[1,2]}");
-    row("no number in brackets", "{'a':[1,2]}", "a[x].b", "'n'", "{'a':['n',2]}");
-    row("nothing in brackets", "{'a':[1,2]}", "a[].b", "'n'", "{'a':['n',2]}");
-    row("array in an array", "{'a':[1,[2,3]]}", "a[1].1", "'n'", "{'a':[1,['n',3]]}");
-    row("array in an array by index", "{'a':[1,[2,3]]}", "a[1].[1]", "'n'", "{'a':[1,[2,'n']]}");
-    row("array in an array, brackets alone", "{'a':[1,[2,3]]}", "a[1][1]", "'n'", "{'a':[1,[2,'n']]}");
+    writeRow("array element at the end", "{'a':[1,2,3]}", "a[2]", "'n'", "{'a':'n'}");
+    writeRow("array element's member", "{'a':[1,{'b':1,'c':2}]}", "a[1].b", "'n'",
+             "{'a':[1,{'b':'n','c':2}]}");
+    writeRow("array element's member, without a dot", "{'a':[{'b':1}]}", "a[0]b", "'n'", "{'a':[{'b':'n'}]}");
+    writeRow("array element that is a number", "{'a':[1,2,3]}", "a[1].b", "'n'", "{'a':[1,'n',3]}");
+    writeRow("array element's missing member", "{'a':[{}]}", "a[0].b.c", "'n'", "{'a':[{'b':'n'}]}");
+    writeRow("array element's member removed", "{'a':[{'b':1,'c':2}]}", "a[0].b", "null", "{'a':[{'c':2}]}");
+    writeRow("array element set to null", "{'a':[1,2,3]}", "a[1].b", "null", "{'a':[1,null,3]}");
+    writeRow("array entered without an index", "{'a':[{'b':1},{'b':2}]}", "a.b", "'n'",
+             "{'a':[{'b':'n'},{'b':2}]}");
+    writeRow("array entered by a later index", "{'a':[{'b':1},{'b':2}]}", "a.b[1]", "'n'",
+             "{'a':[{'b':1},{'b':'n'}]}");
+    writeRow("array removed", "{'a':[1,2,3]}", "a[2]", "null", "{}");
+    writeRow("element that isn't there", "{'a':[1,2]}", "a[2].b", "'n'", "{'a':[1,2]}");
+    writeRow("element before the first", "{'a':[1,2]}", "a[-1].b", "'n'", "{'a':[1,2]}");
+    writeRow("element of an empty array", "{'a':[]}", "a[0].b", "'n'", "{'a':[]}");
+    writeRow("element that isn't there removed", "{'a':[1,2]}", "a[2].b", "null", "{'a':[1,2]}");
+    writeRow("no number in brackets", "{'a':[1,2]}", "a[x].b", "'n'", "{'a':['n',2]}");
+    writeRow("nothing in brackets", "{'a':[1,2]}", "a[].b", "'n'", "{'a':['n',2]}");
+    writeRow("array in an array", "{'a':[1,[2,3]]}", "a[1].1", "'n'", "{'a':[1,['n',3]]}");
+    writeRow("array in an array by index", "{'a':[1,[2,3]]}", "a[1].[1]", "'n'", "{'a':[1,[2,'n']]}");
+    writeRow("array in an array, brackets alone", "{'a':[1,[2,3]]}", "a[1][1]", "'n'", "{'a':[1,[2,'n']]}");
     // Brackets that aren't a pair.
-    row("closing bracket", "{'a':1}", "a]", "2", "{'a':1,'a]':2}");
-    row("opening bracket", "{'a':{'b':1}}", "a[.b", "2", "{'a':2}");
-    row("brackets alone", "{'a':1}", "[]", "2", "{'':2,'a':1}");
-    row("brackets and a name", "{'':{'b':1}}", "[].b", "2", "{'':{'b':2}}");
-    row("brackets the wrong way round", "{'a':1}", "]b[", "2", "{']b':2,'a':1}");
+    writeRow("closing bracket", "{'a':1}", "a]", "2", "{'a':1,'a]':2}");
+    writeRow("opening bracket", "{'a':{'b':1}}", "a[.b", "2", "{'a':2}");
+    writeRow("brackets alone", "{'a':1}", "[]", "2", "{'':2,'a':1}");
+    writeRow("brackets and a name", "{'':{'b':1}}", "[].b", "2", "{'':{'b':2}}");
+    writeRow("brackets the wrong way round", "{'a':1}", "]b[", "2", "{']b':2,'a':1}");
 }
 
 void TestUtil::writes()
@@ -332,35 +360,29 @@ void TestUtil::writes()
     QCOMPARE(compact(copy), compact(json(before.constData())));
 }
 
+void TestUtil::writesBehindBrackets() { writes(); }
+
 void TestUtil::writesIntoAnArray_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QByteArray>("written");
-    QTest::addColumn<QByteArray>("after");
-    const auto row = [](const char *name, const char *before, const char *path, const char *written,
-                        const char *after) {
-        QTest::newRow(name) << QByteArray(before) << QByteArray(path) << QByteArray(written)
-                            << QByteArray(after);
-    };
+    writeColumns();
     // Fetched by the name, stored by the index.
-    row("by index", "[1,2,3]", "[1]", "'n'", "[1,'n',3]");
-    row("by name", "[1,2,3]", "1", "'n'", "['n',2,3]");
-    row("by name and index", "[1,2,3]", "1[2]", "'n'", "[1,2,'n']");
-    row("the object by name stored by index", "[{'a':1},{'a':2}]", "1.a", "'n'", "[{'a':'n'},{'a':2}]");
-    row("the first object stored by index", "[{'a':1},{'a':2}]", "[1].a", "'n'", "[{'a':1},{'a':'n'}]");
-    row("removed by index", "[1,2,3]", "[1]", "null", "[1,3]");
-    row("removed by name", "[1,2,3]", "1", "null", "[2,3]");
-    row("not there", "[1,2]", "[2]", "'n'", "[1,2]");
-    row("removed though not there", "[1,2]", "[2]", "null", "[1,2]");
-    row("before the first", "[1,2]", "[-1]", "'n'", "[1,2]");
-    row("below what isn't there", "[1,2]", "[2].a", "'n'", "[1,2]");
-    row("name not there", "[1,2]", "7.a", "'n'", "['n',2]");
-    row("empty array", "[]", "[0]", "'n'", "[]");
-    row("empty array, brackets alone", "[]", "[]", "'n'", "[]");
-    row("empty array, empty path", "[]", "", "'n'", "[]");
-    row("empty array removed", "[]", "a", "null", "[]");
-    row("empty array, below", "[]", "a.b.c", "'n'", "[]");
+    writeRow("by index", "[1,2,3]", "[1]", "'n'", "[1,'n',3]");
+    writeRow("by name", "[1,2,3]", "1", "'n'", "['n',2,3]");
+    writeRow("by name and index", "[1,2,3]", "1[2]", "'n'", "[1,2,'n']");
+    writeRow("the object by name stored by index", "[{'a':1},{'a':2}]", "1.a", "'n'", "[{'a':'n'},{'a':2}]");
+    writeRow("the first object stored by index", "[{'a':1},{'a':2}]", "[1].a", "'n'", "[{'a':1},{'a':'n'}]");
+    writeRow("removed by index", "[1,2,3]", "[1]", "null", "[1,3]");
+    writeRow("removed by name", "[1,2,3]", "1", "null", "[2,3]");
+    writeRow("not there", "[1,2]", "[2]", "'n'", "[1,2]");
+    writeRow("removed though not there", "[1,2]", "[2]", "null", "[1,2]");
+    writeRow("before the first", "[1,2]", "[-1]", "'n'", "[1,2]");
+    writeRow("below what isn't there", "[1,2]", "[2].a", "'n'", "[1,2]");
+    writeRow("name not there", "[1,2]", "7.a", "'n'", "['n',2]");
+    writeRow("empty array", "[]", "[0]", "'n'", "[]");
+    writeRow("empty array, brackets alone", "[]", "[]", "'n'", "[]");
+    writeRow("empty array, empty path", "[]", "", "'n'", "[]");
+    writeRow("empty array removed", "[]", "a", "null", "[]");
+    writeRow("empty array, below", "[]", "a.b.c", "'n'", "[]");
 }
 
 void TestUtil::writesIntoAnArray() { writes(); }
