@@ -16,6 +16,7 @@ private slots:
     void pulsesAreTyped_data();
     void pulsesAreTyped();
     void noTankGreysSolarKit();
+    void tankBringsSolarKitBack();
     void solarKitLeavesPowerFlag();
     void noMeterClearsTheAddress();
     void masterOffersSilentMode();
@@ -176,6 +177,18 @@ void TestDipSwitchChoices::noTankGreysSolarKit()
              QStringLiteral("radioSolarThermalKitNotuse"));
     QCOMPARE(style("labelSolar"), labelEnabled);
     QCOMPARE(bank(2), QStringLiteral("00100000"));
+}
+
+// "Use" leaves is_sun alone: a kit that the document has all the while is shown at once.
+void TestDipSwitchChoices::tankBringsSolarKitBack()
+{
+    load(flags("is_hotwater CLR is_sun set"));
+    QCOMPARE(bank(2), QStringLiteral("00000000"));
+    Window::click(page, "radioDhwUse");
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"),
+             QStringLiteral("radioSolarThermalKitUse"));
+    QCOMPARE(style("radioSolarThermalKitUse"), radioEnabled);
+    QCOMPARE(bank(2), QStringLiteral("01000000"));
 }
 
 void TestDipSwitchChoices::solarKitLeavesPowerFlag()
