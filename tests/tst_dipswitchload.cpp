@@ -301,6 +301,11 @@ void TestDipSwitchLoad::unknownAddressLeavesTheAddressRadios()
     load({{meter + "interfaceAdd", 5}});
     QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"),
              QStringLiteral("radioOrvoAddressB1"));
+    // Unless the meter was not used before: then the load clears them first.
+    load({{meter + "interfaceAdd", 0}});
+    Window::find<QRadioButton>(page, "radioOrvoAddressB0")->setChecked(true);
+    load({{meter + "interfaceAdd", 5}});
+    QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"), QString());
 }
 
 void TestDipSwitchLoad::productDecidesWhatIsShown()

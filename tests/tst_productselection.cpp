@@ -36,6 +36,7 @@ private slots:
     void sameRefrigerantTwiceStartsOver();
     void showingAgainChangesNothing();
     void showingMarksTheStep();
+    void showingAnAquaboxStartsR410();
     void newClearsAllRadios();
     void highTemperatureWritesItsFlags();
     void aquaboxWritesAndThenLoadsR410();
@@ -274,11 +275,16 @@ void TestProductSelection::showingMarksTheStep()
     window->showPage(MainDialog::ProductPage);
     QVERIFY(button->styleSheet().startsWith("QPushButton {border : none;outline : none;"
                                             "background-image: url(:/images/btn_step_1_focus.png);}"));
-    // AWHP is clicked each time, and the check runs once more behind it.
-    messages::clear();
-    Window::find<QRadioButton>(page, "radioButtonHighTemp")->setEnabled(true);
+}
+
+// The load goes by the radio that was checked before it clicks AWHP.
+void TestProductSelection::showingAnAquaboxStartsR410()
+{
+    Window::find(page, "radioButtonHighTemp")->setEnabled(true);
+    window->use(documents::standard("R32"));
     makeAquabox();
     window->showPage(MainDialog::ProductPage);
+    QCOMPARE(window->dialog.document(), documents::standard("R410"));
     QVERIFY(checked("radioButtonAwhp"));
     QVERIFY(!Window::enabled(page, "radioButtonHighTemp"));
     QVERIFY(Window::enabled(page, "radioButtonR32"));
