@@ -304,6 +304,11 @@ void TestProductSelection::newClearsAllRadios()
     for (const QRadioButton *radio : page->findChildren<QRadioButton *>()) {
         QVERIFY(radio->autoExclusive());
     }
+    Window::click(page, "radioButtonR410");
+    Window::find<QRadioButton>(page, "radioButtonHighTemp")->setChecked(true);
+    makeAquabox();
+    Window::click(&window->dialog, "newButton");
+    showsAwhpAloneOnNew();
 }
 
 void TestProductSelection::highTemperatureWritesItsFlags()
