@@ -40,8 +40,10 @@ void loadFonts()
             qWarning("Failed to load %s", file);
         }
     }
-    // The medium face registers under a longer name than the one that is asked for.
+    // The medium face registers under a longer name than the one that is asked for; the face of the product
+    // page's headings is used where it is installed.
     QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
+    QFont::insertSubstitution(QStringLiteral("Noto Sans CJK KR Bold"), QStringLiteral("Noto Sans"));
     // Each call replaces the one before; pages and style sheets ask for the other families by name.
     for (const char *family : {"Noto Sans", "Noto Sans Light", "Noto Sans Med"}) {
         QApplication::setFont(QFont(QLatin1String(family)));

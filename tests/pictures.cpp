@@ -93,7 +93,10 @@ private:
     /// The window, and the whole of a page that is higher than its place in the window.
     void take(const char *name)
     {
-        QCoreApplication::processEvents();
+        // Parts that a page hides while it is shown leave their places layout by layout.
+        for (int round = 0; round < 5; ++round) {
+            QCoreApplication::processEvents();
+        }
         save(window.dialog.grab(), QLatin1String(name));
         const auto areas = window.dialog.findChildren<QScrollArea *>();
         for (const QScrollArea *area : areas) {

@@ -16,8 +16,12 @@ private slots:
     void pulsesAreTyped_data();
     void pulsesAreTyped();
     void noTankGreysSolarKit();
+    void tankBringsSolarKitBack();
     void solarKitLeavesPowerFlag();
     void noMeterClearsTheAddress();
+    void noMeterEnablesTheAddressRadios();
+    void solarKitIsOfferedWithoutTankChoice();
+    void pulsesAreCutToTenths();
     void masterOffersSilentMode();
     void slaveIsForgotten();
     void silentSubCategoryFollowsMaster();
@@ -178,6 +182,18 @@ void TestDipSwitchChoices::noTankGreysSolarKit()
     QCOMPARE(bank(2), QStringLiteral("00100000"));
 }
 
+// "Use" leaves is_sun alone: a kit that the document has all the while is shown at once.
+void TestDipSwitchChoices::tankBringsSolarKitBack()
+{
+    load(flags("is_hotwater CLR is_sun set"));
+    QCOMPARE(bank(2), QStringLiteral("00000000"));
+    Window::click(page, "radioDhwUse");
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"),
+             QStringLiteral("radioSolarThermalKitUse"));
+    QCOMPARE(style("radioSolarThermalKitUse"), radioEnabled);
+    QCOMPARE(bank(2), QStringLiteral("01000000"));
+}
+
 void TestDipSwitchChoices::solarKitLeavesPowerFlag()
 {
     load(flags("is_hotwater SET is_power_hotwater SET"));
@@ -200,6 +216,54 @@ void TestDipSwitchChoices::noMeterClearsTheAddress()
     QVERIFY(!Window::enabled(page, "groupBoxMeterInterface"));
     QCOMPARE(Window::find<QLineEdit>(page, "lineEditWHM1")->text(), QStringLiteral("0"));
     QVERIFY(done());
+}
+
+void TestDipSwitchChoices::noMeterEnablesTheAddressRadios()
+{
+    const auto disable = [this] {
+        for (const char *name : {"radioOrvoAddressB0", "radioOrvoAddressB1"}) {
+            Window::find(page, name)->setEnabled(false);
+        }
+    };
+    const auto bothEnabled = [this] {
+        return Window::enabled(page, "radioOrvoAddressB0") && Window::enabled(page, "radioOrvoAddressB1");
+    };
+    load({{meter + "interfaceAdd", 176}});
+    disable();
+    Window::invoke(page, "enableOrvoMeterSubCategory");
+    QVERIFY(!Window::enabled(page, "radioOrvoAddressB0") && !Window::enabled(page, "radioOrvoAddressB1"));
+    QVERIFY(checked("radioOrvoAddressB0"));
+    load({{meter + "interfaceAdd", 0}});
+    disable();
+    Window::click(page, "radioOrvometerInterfaceNotuse");
+    QVERIFY(bothEnabled());
+    Window::find<QRadioButton>(page, "radioOrvoAddressB1")->setChecked(true);
+    disable();
+    Window::invoke(page, "enableOrvoMeterSubCategory");
+    QVERIFY(bothEnabled());
+    QVERIFY(!checked("radioOrvoAddressB1"));
+}
+
+void TestDipSwitchChoices::solarKitIsOfferedWithoutTankChoice()
+{
+    load(flags("is_hotwater CLR is_sun SET"));
+    uncheck("radioDhwNotUse radioDhwUse radioDhwOnly");
+    bool offered = false;
+    QMetaObject::invokeMethod(page, "enableSolarThermalKit", Q_RETURN_ARG(bool, offered));
+    QVERIFY(offered);
+    QVERIFY(checked("radioSolarThermalKitUse"));
+    QCOMPARE(bank(2), QStringLiteral("01000000"));
+}
+
+// The field lets no such text through.
+void TestDipSwitchChoices::pulsesAreCutToTenths()
+{
+    load({});
+    const QVariantMap expected{{meter + "interface2", 125}};
+    QCOMPARE(window->changes([this] {
+        QMetaObject::invokeMethod(page, "on_lineEditWHM2_textEdited", Q_ARG(QString, "12.59"));
+    }),
+             expected);
 }
 
 void TestDipSwitchChoices::masterOffersSilentMode()

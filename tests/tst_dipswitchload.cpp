@@ -32,6 +32,9 @@ private slots:
     void showsOduFunction_data();
     void showsOduFunction();
     void showingDefaultDocuments();
+    void firstShowWritesAndMarksTheStep();
+    void absurdDocumentsAreShown_data();
+    void absurdDocumentsAreShown();
     void showingAgainFollowsTheDocument();
 };
 
@@ -46,6 +49,9 @@ void TestDipSwitchLoad::pulsesAreShown_data()
     QTest::newRow("long") << QVariant(12345678) << "1.23457e+06";
     QTest::newRow("fraction") << QVariant(12.5) << "1.25";
     QTest::newRow("missing") << QVariant() << "0";
+    QTest::newRow("text") << QVariant("125") << "0";
+    QTest::newRow("negative") << QVariant(-5) << "-0.5";
+    QTest::newRow("huge") << QVariant(1e300) << "1e+299";
 }
 
 void TestDipSwitchLoad::pulsesAreShown()
@@ -265,6 +271,8 @@ void TestDipSwitchLoad::showsMeterAddress_data()
     QTest::newRow("B1") << QVariant(177) << "radioOrvoAddressB1" << true;
     QTest::newRow("other") << QVariant(5) << "" << true;
     QTest::newRow("missing") << QVariant() << "radioOrvometerInterfaceNotuse" << false;
+    QTest::newRow("text") << QVariant("176") << "radioOrvometerInterfaceNotuse" << false;
+    QTest::newRow("huge") << QVariant(1e300) << "radioOrvometerInterfaceNotuse" << false;
 }
 
 void TestDipSwitchLoad::showsMeterAddress()
@@ -293,6 +301,11 @@ void TestDipSwitchLoad::unknownAddressLeavesTheAddressRadios()
     load({{meter + "interfaceAdd", 5}});
     QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"),
              QStringLiteral("radioOrvoAddressB1"));
+    // Unless the meter was not used before: then the load clears them first.
+    load({{meter + "interfaceAdd", 0}});
+    Window::find<QRadioButton>(page, "radioOrvoAddressB0")->setChecked(true);
+    load({{meter + "interfaceAdd", 5}});
+    QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"), QString());
 }
 
 void TestDipSwitchLoad::productDecidesWhatIsShown()
@@ -311,6 +324,8 @@ void TestDipSwitchLoad::productDecidesWhatIsShown()
     load(joined(odu, {{"product", "Awhp"}}));
     QVERIFY(!Window::shownItself(page, "radioDhwOnly"));
     QVERIFY(Window::shownItself(page, "labelDhwSpacing"));
+    // Two radios take the room of two radios.
+    QTRY_COMPARE(Window::find(page, "groupBoxDhw")->height(), Window::find(page, "groupBoxSolar")->height());
     QVERIFY(!Window::shownItself(page, "groupBoxOduFunctionMaster"));
     QVERIFY(!Window::enabled(page, "groupBoxOduFunctionMaster"));
     QCOMPARE(style("labelODUFunctionMaster"), labelDimmed);
@@ -405,6 +420,53 @@ void TestDipSwitchLoad::showingDefaultDocuments()
                    "is_hotwater_by_disinfection SET"));
     QCOMPARE(bank(2), QStringLiteral("00000110"));
     QVERIFY(!Window::visible(page, "frameSw3"));
+    QVERIFY(done());
+}
+
+// The guard falls before the first load, and steps that aren't done lose the focus look.
+void TestDipSwitchLoad::firstShowWritesAndMarksTheStep()
+{
+    close();
+    open();
+    window->dialog.setCurrentStep(3);
+    load(flags("is_flow_switch SET"), "R410");
+    QCOMPARE(documents::changes(documents::with(documents::standard("R410"), flags("is_flow_switch SET")),
+                                window->dialog.document()),
+             flags("is_installed_heater SET is_comm_disinfection SET isIndoorHotWaterKey SET "
+                   "is_hotwater_by_disinfection SET"));
+    QVERIFY(checked("radioFlowOnlyPump"));
+    QCOMPARE(bank(2), QStringLiteral("00000110"));
+    QVERIFY(style("labelPCB").isEmpty());
+    QVERIFY(Window::find(&window->dialog, "settingButton")
+                ->styleSheet()
+                .startsWith("QPushButton {border : none;outline : none;"
+                            "background-image: url(:/images/btn_step_3_normal.png);}"));
+}
+
+void TestDipSwitchLoad::absurdDocumentsAreShown_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("flags are a text") << QByteArray(R"({"product": "awhp", "IduFuncList": "SET"})");
+    QTest::newRow("flags are numbers")
+        << QByteArray(R"({"IduFuncList": {"is_hotwater": 1, "is_sun": true}})");
+    QTest::newRow("product is a list") << QByteArray(R"({"product": ["aquabox"]})");
+    QTest::newRow("list") << QByteArray(R"([1, 2])");
+}
+
+// What isn't "SET" counts as not set.
+void TestDipSwitchLoad::absurdDocumentsAreShown()
+{
+    QFETCH(QByteArray, json);
+    load({});
+    window->use(QJsonDocument::fromJson(json));
+    window->showPage(MainDialog::DipSwitchPage);
+    QCOMPARE(checkedOf("radioDhwNotUse radioOperationBoth radioAdditionalAirNotUse radioFlowAlways "
+                       "radioElectricHeaterNotuse radioAntifreezeNotuse radioThermostatNone "
+                       "radioOrvometerInterfaceNotuse"),
+             QStringLiteral("radioDhwNotUse radioOperationBoth radioAdditionalAirNotUse radioFlowAlways "
+                            "radioElectricHeaterNotuse radioAntifreezeNotuse radioThermostatNone "
+                            "radioOrvometerInterfaceNotuse"));
+    QCOMPARE(bank(2), QStringLiteral("00010000"));
     QVERIFY(done());
 }
 

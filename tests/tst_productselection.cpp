@@ -21,21 +21,33 @@ private slots:
 
     void showsAwhpAloneOnNew();
     void slotsAreDeclaredInOrder();
+    void startsWithFormTexts();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
+    void languageKeepsChoicesAndDocument();
+    void fontsAreThoseOfThePage();
     void mediumTemperatureAloneLeavesTheStepOpen();
+    void checkStopsAtTheFirstMissingChoice();
+    void checkNeverTakesTheMarkAway();
     void completesInAnyOrder_data();
     void completesInAnyOrder();
     void refrigerantStartsTheDocumentOver();
+    void refrigerantIsToldLast();
     void sameRefrigerantTwiceStartsOver();
     void showingAgainChangesNothing();
+    void showingMarksTheStep();
+    void showingAnAquaboxStartsR410();
     void newClearsAllRadios();
     void highTemperatureWritesItsFlags();
     void aquaboxWritesAndThenLoadsR410();
+    void aquaboxTakesR410WithEachSpec();
+    void writesBeforeItIsShown();
     void unknownRefrigerantIsRefused();
     void writesNothingWithoutDocument();
 
 private:
+    /// Checks the radio that the page withdraws, without a click.
+    void makeAquabox() const { Window::find<QRadioButton>(page, "radioButtonAquabox")->setChecked(true); }
     bool checked(const char *name) const { return Window::checked(page, name); }
     bool productDone() const { return window->dialog.members().productDone; }
 
@@ -74,6 +86,28 @@ void TestProductSelection::slotsAreDeclaredInOrder()
                           "on_radioButtonR32_clicked()"}));
 }
 
+void TestProductSelection::startsWithFormTexts()
+{
+    const ProductSelection fresh;
+    const std::pair<const char *, const char *> texts[] = {{"labelProductType", "Product Type"},
+                                                           {"radioButtonAwhp", "AWHP"},
+                                                           {"radioButtonAquabox", "Aquabox"},
+                                                           {"labelProductSpec", "Product Spec"},
+                                                           {"radioButtonMiddleTemp", "Medium Temperature"},
+                                                           {"radioButtonHighTemp", "High Temperature"},
+                                                           {"labelRefregerantType", "Refrigerant Type"},
+                                                           {"radioButtonR410", "R410A"},
+                                                           {"radioButtonR32", "R32"}};
+    for (const auto &[name, text] : texts) {
+        QCOMPARE(Window::find(&fresh, name)->property("text").toString(), QLatin1String(text));
+    }
+    for (const QRadioButton *radio : fresh.findChildren<QRadioButton *>()) {
+        QVERIFY(!radio->isChecked() && radio->autoExclusive());
+    }
+    QVERIFY(!Window::shownItself(&fresh, "label_img_awhp"));
+    QVERIFY(!Window::shownItself(&fresh, "label_img_aquabox"));
+}
+
 void TestProductSelection::textsFollowTheLanguage_data()
 {
     QTest::addColumn<QString>("text");
@@ -91,14 +125,66 @@ void TestProductSelection::textsFollowTheLanguage_data()
 void TestProductSelection::textsFollowTheLanguage()
 {
     QFETCH(QString, text);
-    QCOMPARE(Window::find(page, QTest::currentDataTag())->property("text").toString(), text);
+    const QWidget *widget = Window::find(page, QTest::currentDataTag());
+    QCOMPARE(widget->property("text").toString(), text);
+    window->speak("~");
+    QCOMPARE(widget->property("text").toString(), text + "~");
+}
+
+void TestProductSelection::languageKeepsChoicesAndDocument()
+{
+    Window::click(page, "radioButtonMiddleTemp");
+    Window::click(page, "radioButtonR32");
+    const QJsonDocument worked = documents::with(documents::standard("R32"), {{"product", "x"}});
+    window->use(worked);
+    window->speak("~");
+    QCOMPARE(window->dialog.document(), worked);
+    QVERIFY(checked("radioButtonAwhp") && checked("radioButtonMiddleTemp") && checked("radioButtonR32"));
+}
+
+void TestProductSelection::fontsAreThoseOfThePage()
+{
+    for (const char *name : {"labelProductType", "labelProductSpec", "labelRefregerantType"}) {
+        QCOMPARE(Window::find(page, name)->font().family(), QStringLiteral("Noto Sans CJK KR Bold"));
+        QVERIFY(Window::find(page, name)->font().bold());
+    }
+    for (const QRadioButton *radio : page->findChildren<QRadioButton *>()) {
+        QCOMPARE(radio->font().family(), QStringLiteral("Noto Sans"));
+    }
 }
 
 void TestProductSelection::mediumTemperatureAloneLeavesTheStepOpen()
 {
     Window::click(page, "radioButtonMiddleTemp");
     QVERIFY(!productDone());
-    QVERIFY(messages::contain("ProductSelection::validationCheck radioButtonR32"));
+    QCOMPARE(messages::all(), QStringList{"ProductSelection::validationCheck radioButtonR32 false"});
+}
+
+void TestProductSelection::checkStopsAtTheFirstMissingChoice()
+{
+    const auto check = [](QWidget *target) {
+        messages::clear();
+        Window::invoke(target, "validationCheck");
+        return messages::all();
+    };
+    ProductSelection fresh;
+    QCOMPARE(check(&fresh), QStringList{"ProductSelection::validationCheck radioButton product type false"});
+    QCOMPARE(check(page), QStringList{"ProductSelection::validationCheck radioButton product spec false"});
+    // Either product spec will do, and an Aquabox isn't asked for its refrigerant.
+    Window::find<QRadioButton>(page, "radioButtonHighTemp")->setChecked(true);
+    QCOMPARE(check(page), QStringList{"ProductSelection::validationCheck radioButtonR32 false"});
+    QVERIFY(!productDone());
+    makeAquabox();
+    QCOMPARE(check(page), QStringList());
+    QVERIFY(productDone());
+}
+
+void TestProductSelection::checkNeverTakesTheMarkAway()
+{
+    window->dialog.setStepCompleted(true, 1);
+    Window::invoke(page, "validationCheck");
+    QVERIFY(messages::contain("product spec"));
+    QVERIFY(productDone());
 }
 
 void TestProductSelection::completesInAnyOrder_data()
@@ -141,6 +227,27 @@ void TestProductSelection::refrigerantStartsTheDocumentOver()
     QVERIFY(!window->dialog.members().settingDone);
 }
 
+void TestProductSelection::refrigerantIsToldLast()
+{
+    Window::click(page, "radioButtonMiddleTemp");
+    int told = 0;
+    QObject::connect(page, &ProductSelection::buttonClicked, page, [this, &told](const QString &name) {
+        ++told;
+        QCOMPARE(name, QStringLiteral("R410"));
+        QCOMPARE(window->dialog.document(), documents::standard("R410"));
+        QCOMPARE(window->dialog.members().refrigerant, name);
+        QVERIFY(productDone());
+    });
+    for (const int tab : {0, 1, 2, 3}) {
+        window->dialog.setSettingTabValid(true, tab);
+    }
+    Window::click(page, "radioButtonR410");
+    QCOMPARE(told, 1);
+    const DialogState &state = window->dialog.members();
+    QVERIFY(!state.functionValid && !state.userValid && !state.serviceValid && !state.installationValid);
+    QVERIFY(!state.settingDone);
+}
+
 void TestProductSelection::sameRefrigerantTwiceStartsOver()
 {
     Window::click(page, "radioButtonR32");
@@ -159,6 +266,30 @@ void TestProductSelection::showingAgainChangesNothing()
     QCOMPARE(window->dialog.document(), worked);
 }
 
+void TestProductSelection::showingMarksTheStep()
+{
+    const auto *button = Window::find<QPushButton>(&window->dialog, "productSelectionButton");
+    window->dialog.setCurrentStep(4);
+    QVERIFY(!button->styleSheet().startsWith("QPushButton {border : none;outline : none;"
+                                             "background-image: url(:/images/btn_step_1_focus.png);}"));
+    window->showPage(MainDialog::ProductPage);
+    QVERIFY(button->styleSheet().startsWith("QPushButton {border : none;outline : none;"
+                                            "background-image: url(:/images/btn_step_1_focus.png);}"));
+}
+
+// The load goes by the radio that was checked before it clicks AWHP.
+void TestProductSelection::showingAnAquaboxStartsR410()
+{
+    Window::find(page, "radioButtonHighTemp")->setEnabled(true);
+    window->use(documents::standard("R32"));
+    makeAquabox();
+    window->showPage(MainDialog::ProductPage);
+    QCOMPARE(window->dialog.document(), documents::standard("R410"));
+    QVERIFY(checked("radioButtonAwhp"));
+    QVERIFY(!Window::enabled(page, "radioButtonHighTemp"));
+    QVERIFY(Window::enabled(page, "radioButtonR32"));
+}
+
 // AWHP is checked again by the last step of the load that New runs; no group keeps any other radio.
 void TestProductSelection::newClearsAllRadios()
 {
@@ -169,6 +300,14 @@ void TestProductSelection::newClearsAllRadios()
     Window::click(&window->dialog, "newButton");
     QVERIFY(messages::contain("ProductSelection::newJsonData"));
     QVERIFY(!productDone());
+    showsAwhpAloneOnNew();
+    for (const QRadioButton *radio : page->findChildren<QRadioButton *>()) {
+        QVERIFY(radio->autoExclusive());
+    }
+    Window::click(page, "radioButtonR410");
+    Window::find<QRadioButton>(page, "radioButtonHighTemp")->setChecked(true);
+    makeAquabox();
+    Window::click(&window->dialog, "newButton");
     showsAwhpAloneOnNew();
 }
 
@@ -251,6 +390,31 @@ void TestProductSelection::aquaboxWritesAndThenLoadsR410()
     QCOMPARE(window->dialog.document(), documents::standard("R410"));
     QVERIFY(!Window::enabled(page, "radioButtonR32"));
     QVERIFY(checked("radioButtonR410"));
+}
+
+// The refrigerant click comes behind the writes of the spec and takes them away.
+void TestProductSelection::aquaboxTakesR410WithEachSpec()
+{
+    for (const char *slot : {"on_radioButtonMiddleTemp_clicked", "on_radioButtonHighTemp_clicked"}) {
+        window->use(documents::with(documents::standard("R32"), {{"product", "x"}}));
+        makeAquabox();
+        Window::find(page, "radioButtonR32")->setEnabled(true);
+        Window::invoke(page, slot);
+        QCOMPARE(window->dialog.document(), documents::standard("R410"));
+        QVERIFY(!Window::enabled(page, "radioButtonR32"));
+        QVERIFY(Window::enabled(page, "radioButtonR410"));
+    }
+}
+
+void TestProductSelection::writesBeforeItIsShown()
+{
+    window->use(documents::standard("R32"));
+    ProductSelection fresh;
+    const QVariantMap expected{{"IduFuncList.is_hotwater_by_disinfection", "SET"},
+                               {"IduFuncList.isCoolTempMin5", "CLR"},
+                               {"IduFuncList.isR32", "CLR"}};
+    QCOMPARE(window->changes([&fresh] { Window::invoke(&fresh, "on_radioButtonHighTemp_clicked"); }),
+             expected);
 }
 
 void TestProductSelection::unknownRefrigerantIsRefused()

@@ -151,6 +151,7 @@ void prepareApplication()
                                           + QStringLiteral("/NotoSans-%1.ttf").arg(QLatin1String(face)));
     }
     QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
+    QFont::insertSubstitution(QStringLiteral("Noto Sans CJK KR Bold"), QStringLiteral("Noto Sans"));
     QApplication::setFont(QFont(QStringLiteral("Noto Sans Medium")));
 }
 
