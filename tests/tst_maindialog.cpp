@@ -252,7 +252,8 @@ void TestMainDialog::showsErrorMarks_data()
     QTest::addColumn<bool>("atStart");
     for (const char *name : {"functionValidationIcon", "userValidationIcon", "serviceValidationIcon",
                              "installationValidationIcon"}) {
-        QTest::newRow(name) << true;
+        // The lists of the Function tab are filled with signals live, so its check has run already.
+        QTest::newRow(name) << (qstrcmp(name, "functionValidationIcon") != 0);
     }
     for (const char *name : {"labelErrorProduct", "labelErrorDipSwitch", "labelErrorSetting"}) {
         QTest::newRow(name) << false;
@@ -265,13 +266,10 @@ void TestMainDialog::showsErrorMarks()
     const QPixmap picture(":/images/Ic_sideprogressbar_error.png");
     QVERIFY(!picture.isNull());
     QCOMPARE(mark->pixmap(Qt::ReturnByValue).toImage(), picture.toImage());
-    // A page that is built may report already, so only those of the steps and of Service are settled.
-    if (!QString(QTest::currentDataTag()).contains("function")) {
-        QTEST(Window::shownItself(&dialog(), QTest::currentDataTag()), "atStart");
-    }
+    QTEST(Window::shownItself(&dialog(), QTest::currentDataTag()), "atStart");
 }
 
-// The Function tab alone may have reported by the language change at start.
+// Only the Function tab has reported by then.
 void TestMainDialog::startsWithNothingDone()
 {
     QCOMPARE(find<QStackedWidget>("stackedWidget")->currentIndex(), 0);
@@ -279,6 +277,7 @@ void TestMainDialog::startsWithNothingDone()
     QVERIFY(!Window::visible(&dialog(), "sideGroupBox"));
     QCOMPARE(find<QLabel>("pathLabel")->text(), QString());
     QVERIFY(!members().productDone && !members().dipSwitchDone && !members().settingDone);
+    QVERIFY(members().functionValid);
     QVERIFY(!members().userValid && !members().serviceValid && !members().installationValid);
     QVERIFY(!members().systemSectionValid && !members().autoSectionValid && !members().coolSectionValid
             && !members().dwhSectionValid && !members().heatSectionValid);
