@@ -45,6 +45,7 @@ private slots:
     void writes();
     void writesInFahrenheit_data();
     void writesInFahrenheit();
+    void lastHysteresisInFahrenheitIsFive();
     void showsValues_data();
     void showsValues();
     void showsValuesInFahrenheit_data();
@@ -294,6 +295,17 @@ void TestInstallationAwhpValues::writesInFahrenheit()
          "R32", "FAHRENHEIT");
     open();
     QCOMPARE(section->window.changes([&] { Window::choose(awhp, control.constData(), item); }), after);
+}
+
+// The list in °F has no such item, but its step stands for 5 all the same.
+void TestInstallationAwhpValues::lastHysteresisInFahrenheitIsFive()
+{
+    load({}, "R32", "FAHRENHEIT");
+    open();
+    QCOMPARE(section->window.changes([this] {
+        QMetaObject::invokeMethod(awhp, "on_comboHysterisis_currentIndexChanged", Q_ARG(int, 4));
+    }),
+             (QVariantMap{{hysteresis, 5}}));
 }
 
 void TestInstallationAwhpValues::showsValues_data()
