@@ -52,6 +52,7 @@ private slots:
     void showsValuesInFahrenheit();
     void checksRadios_data();
     void checksRadios();
+    void valuesOfHiddenGroupsAreNotLoaded();
 
 private:
     /// Loads the section in a closed system section, so that nothing is written back.
@@ -425,6 +426,24 @@ void TestInstallationAwhpValues::checksRadios()
     load(joined(heatPumpGroups(), {{path, word}}));
     for (const QString &radio : qAsConst(radios)) {
         QCOMPARE(Window::checked(awhp, qPrintable(radio)), radio == checked);
+    }
+}
+
+void TestInstallationAwhpValues::valuesOfHiddenGroupsAreNotLoaded()
+{
+    load(heatPumpGroups());
+    QVariantMap values{{installation("smartGrid.smartGridUse"), "SET"},
+                       {installation("EH_BH_priority"), "SET"},
+                       {tankHeater, "NOTUSE"},
+                       {installation("extWaterPump"), "SET"},
+                       {boilerUse, "SET"}};
+    for (const QString &group : heatPumpGroups().keys()) {
+        values.insert(group, "CLR");
+    }
+    load(values);
+    for (const char *radio : {"radioSgNotuse", "radioHeaterPriorityNotuse", "radioWaterTankHeaterUse",
+                              "radioExternalPumpNotuse", "radio3rdNotUse"}) {
+        QVERIFY2(Window::checked(awhp, radio), radio);
     }
 }
 

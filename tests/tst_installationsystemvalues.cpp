@@ -440,6 +440,7 @@ void TestInstallationSystemValues::showsGroups()
         section->load(values);
         QCOMPARE(Window::shownItself(section->page, QTest::currentDataTag()), whenSet);
     }
+    section->load({{flag("isWaterPumpOperationByForceAdv"), "CLR"}});
     QVERIFY(Window::shownItself(section->page, "groupBoxEnforcedSub"));
 }
 
