@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <limits>
 
 Page::Page(QWidget *parent)
     : QWidget(parent)
@@ -133,4 +134,10 @@ QStringList Page::numbered(int first, int last, int step, const QString &suffix)
         items.append(QString::number(value) + suffix);
     }
     return items;
+}
+
+int Page::indexOf(int value, int first)
+{
+    const qint64 index = qint64{value} - first;
+    return index >= 0 && index <= std::numeric_limits<int>::max() ? static_cast<int>(index) : -1;
 }

@@ -56,4 +56,6 @@ protected:
     static QStringList languageTexts(const std::vector<const char *> &keys);
     /// first, first + step, ... last, each followed by `suffix`.
     static QStringList numbered(int first, int last, int step, const QString &suffix);
+    /// Where `value` stands in a list that counts up from `first`; -1 for what lies before it or is no index.
+    static int indexOf(int value, int first);
 };

@@ -52,6 +52,7 @@ private slots:
     void listsAndTheirDefaults();
     void writes_data();
     void writes();
+    void nightTypeIsWrittenAsItsKey();
     void checksRadios_data();
     void checksRadios();
     void showsValues_data();
@@ -71,6 +72,7 @@ private slots:
     void openSectionWritesItsNightType();
     void requiresARadioOfEachPair_data();
     void requiresARadioOfEachPair();
+    void checksItsPairsInOrder();
     void comesUpThroughItsOwnShowEvent();
 
 private:
@@ -244,6 +246,17 @@ void TestInstallationAquabox::writes()
         }
     }),
              after);
+}
+
+void TestInstallationAquabox::nightTypeIsWrittenAsItsKey()
+{
+    load(aquabox());
+    open();
+    section->window.speak("~");
+    const QVariantMap changes = section->window.changes(
+        [this] { Window::choose(module, "comboKnightType", QStringLiteral("STEP3~")); });
+    section->window.speak();
+    QCOMPARE(changes, (QVariantMap{{nightType, "STEP3"}}));
 }
 
 void TestInstallationAquabox::checksRadios_data()
@@ -498,6 +511,31 @@ void TestInstallationAquabox::requiresARadioOfEachPair()
     Window::click(module, QTest::currentDataTag());
     QVERIFY(section->members().systemSectionValid);
     QVERIFY(messages::contain("InstallationSystemAquabox::validationCheck succeed!!"));
+}
+
+// One failure at a time, in this order: each is told until a click mends it.
+void TestInstallationAquabox::checksItsPairsInOrder()
+{
+    // A combination is always chosen once loaded, and one that isn't loaded is hidden.
+    load(aquabox());
+    load(aquabox(
+        {{standby, "x"}, {hsMode, "x"}, {leakSensor, "x"}, {combination, "SET"}, {oilRecovery, "SET"}}));
+    open();
+    for (const auto &[first, second] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"radioStandbyNotuse", "radioStandbyUse"},
+             {"radioHsmodeNotuse", "radioHsmodeUse"},
+             {"radioOpt1", "radioOpt2"},
+             {"radioRefrigerantNotuse", "radioRefrigerantUse"}}) {
+        QVERIFY2(!section->members().systemSectionValid, first);
+        messages::clear();
+        Window::invoke(module, "validationCheck");
+        const QStringList failures = messages::all().filter("checkValidationRadio");
+        QCOMPARE(failures.size(), 1);
+        QVERIFY2(failures.first().contains(QStringLiteral("\"%1\" \"%2\"").arg(first, second)),
+                 qPrintable(failures.first()));
+        Window::click(module, second);
+    }
+    QVERIFY(section->members().systemSectionValid);
 }
 
 void TestInstallationAquabox::comesUpThroughItsOwnShowEvent()

@@ -23,11 +23,7 @@ class TestInstallationAwhp : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        section = std::make_unique<SystemSection>();
-        awhp = section->window.page<InstallationSystemAWHP>();
-    }
+    void initTestCase() { renew(); }
     void cleanupTestCase() { section.reset(); }
 
     void hasItsSignalsAndSlots();
@@ -48,9 +44,16 @@ private slots:
     void otherLanguageLoadsTheFirstClosingTime();
     void requiresARadioOfEachPair_data();
     void requiresARadioOfEachPair();
+    void checksItsPairsInOrder();
     void emitsWhatItsSlotsSay();
 
 private:
+    void renew()
+    {
+        section.reset();
+        section = std::make_unique<SystemSection>();
+        awhp = section->window.page<InstallationSystemAWHP>();
+    }
     /// Loads the section in a closed system section, so that nothing is written back.
     void load(const QVariantMap &values = {}, const char *refrigerant = "R32",
               const QString &unit = QStringLiteral("CENTIGRADE"))
@@ -163,6 +166,8 @@ void TestInstallationAwhp::showsGroups_data()
         row("groupBoxHeaterPriority", name, {{model, name}, {hotWater, "SET"}}, false);
         row("groupBoxHeaterOnTemp", name, {{model, name}, {first, "SET"}}, false);
     }
+    // The flag of that name doesn't count.
+    row("groupBoxHeaterPriority", "flag", {{flag("is_indoor_model"), "GHU"}, {hotWater, "SET"}}, true);
     row("groupBoxHeaterPriority", "other model", {{model, "x"}, {hotWater, "SET"}}, true);
     const QString tank = flag("isHotwaterTankHeaterUse");
     row("groupBoxWaterTankHeater", "both", {{hotWater, "set"}, {tank, "SET"}}, true);
@@ -409,6 +414,38 @@ void TestInstallationAwhp::requiresARadioOfEachPair()
         open();
         QVERIFY(section->members().systemSectionValid);
     }
+}
+
+// One failure at a time, in this order: each is told until a click mends it.
+void TestInstallationAwhp::checksItsPairsInOrder()
+{
+    // The heater priority is unchecked only until a first word is loaded.
+    renew();
+    load(joined(heatPumpGroups(),
+                {{secondCircuit, "x"},
+                 {boilerUse, "x"},
+                 {installation("extWaterPump"), "x"},
+                 {installation("EH_BH_priority"), "x"},
+                 {installation("smartGrid.smartGridUse"), "x"},
+                 {tankHeater, "x"}}));
+    open();
+    for (const auto &[first, second] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"radio2ndNotuse", "radio2ndUse"},
+             {"radio3rdNotUse", "radio3rdUse"},
+             {"radioExternalPumpNotuse", "radioExternalPumpUse"},
+             {"radioHeaterPriorityNotuse", "radioHeaterPriorityUse"},
+             {"radioSgNotuse", "radioSgUse"},
+             {"radioWaterTankHeaterMode", "radioWaterTankHeaterNotuse"}}) {
+        QVERIFY2(!section->members().systemSectionValid, first);
+        messages::clear();
+        Window::invoke(awhp, "validataionCheck");
+        const QStringList failures = messages::all().filter("checkValidationRadio");
+        QCOMPARE(failures.size(), 1);
+        QVERIFY2(failures.first().contains(QStringLiteral("\"%1\" \"%2\"").arg(first, second)),
+                 qPrintable(failures.first()));
+        Window::click(awhp, second);
+    }
+    QVERIFY(section->members().systemSectionValid);
 }
 
 void TestInstallationAwhp::emitsWhatItsSlotsSay()

@@ -45,12 +45,14 @@ private slots:
     void writes();
     void writesInFahrenheit_data();
     void writesInFahrenheit();
+    void lastHysteresisInFahrenheitIsFive();
     void showsValues_data();
     void showsValues();
     void showsValuesInFahrenheit_data();
     void showsValuesInFahrenheit();
     void checksRadios_data();
     void checksRadios();
+    void valuesOfHiddenGroupsAreNotLoaded();
 
 private:
     /// Loads the section in a closed system section, so that nothing is written back.
@@ -296,6 +298,17 @@ void TestInstallationAwhpValues::writesInFahrenheit()
     QCOMPARE(section->window.changes([&] { Window::choose(awhp, control.constData(), item); }), after);
 }
 
+// The list in °F has no such item, but its step stands for 5 all the same.
+void TestInstallationAwhpValues::lastHysteresisInFahrenheitIsFive()
+{
+    load({}, "R32", "FAHRENHEIT");
+    open();
+    QCOMPARE(section->window.changes([this] {
+        QMetaObject::invokeMethod(awhp, "on_comboHysterisis_currentIndexChanged", Q_ARG(int, 4));
+    }),
+             (QVariantMap{{hysteresis, 5}}));
+}
+
 void TestInstallationAwhpValues::showsValues_data()
 {
     QTest::addColumn<QByteArray>("control");
@@ -413,6 +426,24 @@ void TestInstallationAwhpValues::checksRadios()
     load(joined(heatPumpGroups(), {{path, word}}));
     for (const QString &radio : qAsConst(radios)) {
         QCOMPARE(Window::checked(awhp, qPrintable(radio)), radio == checked);
+    }
+}
+
+void TestInstallationAwhpValues::valuesOfHiddenGroupsAreNotLoaded()
+{
+    load(heatPumpGroups());
+    QVariantMap values{{installation("smartGrid.smartGridUse"), "SET"},
+                       {installation("EH_BH_priority"), "SET"},
+                       {tankHeater, "NOTUSE"},
+                       {installation("extWaterPump"), "SET"},
+                       {boilerUse, "SET"}};
+    for (const QString &group : heatPumpGroups().keys()) {
+        values.insert(group, "CLR");
+    }
+    load(values);
+    for (const char *radio : {"radioSgNotuse", "radioHeaterPriorityNotuse", "radioWaterTankHeaterUse",
+                              "radioExternalPumpNotuse", "radio3rdNotUse"}) {
+        QVERIFY2(Window::checked(awhp, radio), radio);
     }
 }
 

@@ -401,6 +401,15 @@ void TestInstallationSystem::validOnlyWithBothRadioPairs()
         QVERIFY(!valid());
         QVERIFY(messages::contain("InstallationSystemSetting::validationCheck failed!!"));
     }
+    section->load({{installation("drycontactAuto"), "x"}, {use(), "x"}});
+    Window::expand(section->page);
+    messages::clear();
+    Window::invoke(section->page, "validationCheck");
+    // The first failure ends the check.
+    QVERIFY(messages::contain("\"radioDryAuto\" \"radioDryManual\""));
+    QVERIFY(!messages::contain("radioEnforcedNotuse"));
+    Window::click(section->page, "radioDryAuto");
+    QVERIFY(!valid());
     Window::click(section->page, "radioEnforcedNotuse");
     QVERIFY(valid());
     section->load({{use(), "x"}, {flag("isWaterPumpOperationByForce"), "CLR"}});

@@ -302,6 +302,7 @@ void TestInstallationSystemValues::showsWords_data()
     const QString indoor = flag("isIduAirTempSW");
     row("default", "comboBoxAirTemp", {{location, "IDU"}}, "Remote controller");
     row("indoor", "comboBoxAirTemp", {{indoor, "SET"}, {location, "IDU"}}, "Remote room sensor");
+    row("small letters", "comboBoxAirTemp", {{indoor, "SET"}, {location, "idu"}}, "Remote room sensor");
     row("remote", "comboBoxAirTemp", {{indoor, "SET"}, {location, "RMC"}}, "Remote controller");
 
     const QString contact = installation("dryContactInstallation");
@@ -439,6 +440,7 @@ void TestInstallationSystemValues::showsGroups()
         section->load(values);
         QCOMPARE(Window::shownItself(section->page, QTest::currentDataTag()), whenSet);
     }
+    section->load({{flag("isWaterPumpOperationByForceAdv"), "CLR"}});
     QVERIFY(Window::shownItself(section->page, "groupBoxEnforcedSub"));
 }
 

@@ -1,8 +1,19 @@
 #include "document/temperature.h"
+#include "pages/page.h"
 #include "support/window.h"
 
 #include <QSignalSpy>
 #include <QVBoxLayout>
+
+#include <limits>
+
+namespace {
+
+struct Rows : Page {
+    using Page::indexOf;
+};
+
+} // namespace
 
 // The °C/°F table, value lists and the shared checks.
 
@@ -30,6 +41,8 @@ private slots:
     void crossedRangeLeavesTheList();
     void selectsAValue_data();
     void selectsAValue();
+    void countsIndexesFromTheFirst_data();
+    void countsIndexesFromTheFirst();
     void selectsInSilence();
     void selectsByKey_data();
     void selectsByKey();
@@ -310,6 +323,29 @@ void TestValueLists::selectsAValue()
     const QStringList told{"# Error index setting \"list\"  #",
                            QStringLiteral("%1 \"%2\"").arg(value).arg(missing)};
     QCOMPARE(messages::all(), missing.isEmpty() ? QStringList() : told);
+}
+
+void TestValueLists::countsIndexesFromTheFirst_data()
+{
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int greatest = std::numeric_limits<int>::max();
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("index");
+    QTest::newRow("first") << 20 << 20 << 0;
+    QTest::newRow("later") << 23 << 20 << 3;
+    QTest::newRow("before") << 18 << 20 << -1;
+    QTest::newRow("least value") << least << 20 << -1;
+    QTest::newRow("greatest value") << greatest << 1 << greatest - 1;
+    QTest::newRow("beyond every index") << greatest << -1 << -1;
+    QTest::newRow("least first") << 4 << least << -1;
+}
+
+void TestValueLists::countsIndexesFromTheFirst()
+{
+    QFETCH(int, value);
+    QFETCH(int, first);
+    QTEST(Rows::indexOf(value, first), "index");
 }
 
 void TestValueLists::selectsInSilence()

@@ -221,7 +221,7 @@ void InstallationDWH::setloadJsonValue()
             mainDialog->setComboByKey(row.combo, value->toString());
             break;
         default:
-            row.combo->setCurrentIndex(value->toInt() - row.offset);
+            row.combo->setCurrentIndex(indexOf(value->toInt(), row.offset));
         }
         ++value;
     }

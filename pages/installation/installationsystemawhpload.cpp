@@ -8,6 +8,8 @@ namespace {
 
 constexpr int lastClosingTime = 999;
 constexpr int lastRun = 10;
+/// The anti-freeze step of the first item; the steps fall along the list.
+constexpr int firstAntiFreezeStep = 4;
 
 /// The delays of the boost heater: minutes, each followed by `suffix`.
 QStringList delays(const QString &suffix)
@@ -172,15 +174,16 @@ void InstallationSystemAWHP::setloadJsonValue()
     const int controlTemp = number(installation("boilerOfThirdParty.thirdPartyTemp"));
     const int boilerHysteresis = number(installation("boilerOfThirdParty.thirdPartyHysterisis"));
     mainDialog->setComboByValue(ui->comboHeaterOnTemperature, heaterOn, MainDialog::Temperature);
-    ui->comboAntiFreezingTemp->setCurrentIndex(4 - antiFreeze.remove(QStringLiteral("STEP")).toInt());
+    const int step = antiFreeze.remove(QStringLiteral("STEP")).toInt();
+    ui->comboAntiFreezingTemp->setCurrentIndex(indexOf(firstAntiFreezeStep, step));
     mainDialog->setComboByValue(ui->comboControlTemp, controlTemp, MainDialog::Temperature);
     mainDialog->setComboByValue(ui->combo3rdHysterisis, boilerHysteresis, MainDialog::Kelvin);
 
     const int overRun = number(installation("pumpPreOverRun.overRun"));
     const int preRun = number(installation("pumpPreOverRun.preRun"));
     const int gridMode = number(installation("smartGrid.smartGridMode"));
-    ui->comboOverRun->setCurrentIndex(overRun - firstRun);
-    ui->comboPreRun->setCurrentIndex(preRun - firstRun);
+    ui->comboOverRun->setCurrentIndex(indexOf(overRun, firstRun));
+    ui->comboPreRun->setCurrentIndex(indexOf(preRun, firstRun));
     ui->comboStep->setCurrentIndex(gridMode);
     ui->comboDelayTime->setCurrentIndex(number(installation("hotWaterTankHeater.tankHeaterDelay")));
 

@@ -204,7 +204,7 @@ void InstallationSystemSetting::loadScreedDrying()
     const int holding = number(installation("cement_cure.cmt_holding"));
     selectText(ui->comboBoxScreedStep, QString::number(step));
     mainDialog->setComboByValue(ui->comboBoxScreedMaxTemp, maxTemp, MainDialog::Temperature);
-    ui->comboBoxScreedHolding->setCurrentIndex(holding - firstHolding);
+    ui->comboBoxScreedHolding->setCurrentIndex(indexOf(holding, firstHolding));
     ui->groupBoxCementCuring->setVisible(available);
 }
 
@@ -215,7 +215,7 @@ void InstallationSystemSetting::loadPump()
     ui->groupBoxPumpRPM->setVisible(bySpeed);
     ui->groupBoxPumpCapacity->setVisible(!bySpeed);
     if (bySpeed) {
-        selectText(ui->comboWaterpumpRPM, QString::number(value * 10));
+        selectText(ui->comboWaterpumpRPM, QString::number(qint64{value} * 10));
     } else {
         selectText(ui->comboWaterRpmDuty, QString::number(value) + QLatin1Char('%'));
     }
@@ -228,8 +228,8 @@ void InstallationSystemSetting::loadEnforcedCirculation(const QString &use, int 
     if (flag("isWaterPumpOperationByForceAdv")) {
         checkPair(use, {ui->radioEnforcedNotuse, "NOTUSE", ui->radioEnforcedUse, "USE"});
         if (use == QLatin1String("USE")) {
-            ui->comboOperationPeriod->setCurrentIndex(period - firstPeriod);
-            ui->comboOperationTime->setCurrentIndex(runtime - firstRuntime);
+            ui->comboOperationPeriod->setCurrentIndex(indexOf(period, firstPeriod));
+            ui->comboOperationTime->setCurrentIndex(indexOf(runtime, firstRuntime));
         }
     }
     enableEnforcedCirculation();
