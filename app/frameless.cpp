@@ -20,6 +20,23 @@ int dragStart(int start, int size, int shrunk)
     return start >= shrunk + half ? half : start - shrunk;
 }
 
+Qt::CursorShape edgeCursor(int edge)
+{
+    switch (edge) {
+    case FrameLess::TopEdge:
+    case FrameLess::BottomEdge:
+        return Qt::SizeVerCursor;
+    case FrameLess::LeftEdge:
+    case FrameLess::RightEdge:
+        return Qt::SizeHorCursor;
+    case FrameLess::TopLeftEdge:
+    case FrameLess::BottomRightEdge:
+        return Qt::SizeFDiagCursor;
+    default:
+        return Qt::SizeBDiagCursor;
+    }
+}
+
 } // namespace
 
 FrameLess::FrameLess(QWidget *targetWindow, bool isResizable)
@@ -128,34 +145,16 @@ void FrameLess::updateCursor(const QPoint &globalPos)
         return;
     }
     hoverEdge = edgeAt(globalPos, target->frameGeometry());
-    cursorSet = true;
-    switch (hoverEdge) {
-    case TopEdge:
-    case BottomEdge:
-        target->setCursor(Qt::SizeVerCursor);
-        break;
-    case LeftEdge:
-    case RightEdge:
-        target->setCursor(Qt::SizeHorCursor);
-        break;
-    case TopLeftEdge:
-    case BottomRightEdge:
-        target->setCursor(Qt::SizeFDiagCursor);
-        break;
-    case TopRightEdge:
-    case BottomLeftEdge:
-        target->setCursor(Qt::SizeBDiagCursor);
-        break;
-    default:
+    cursorSet = hoverEdge != NoEdge;
+    if (!cursorSet) {
         target->unsetCursor();
-        cursorSet = false;
         cursorProbe->hide();
+        return;
     }
-    if (cursorSet) {
-        cursorProbe->move(target->mapFromGlobal(globalPos) - QPoint(2, 2));
-        cursorProbe->raise();
-        cursorProbe->show();
-    }
+    target->setCursor(edgeCursor(hoverEdge));
+    cursorProbe->move(target->mapFromGlobal(globalPos) - QPoint(2, 2));
+    cursorProbe->raise();
+    cursorProbe->show();
 }
 
 void FrameLess::onPress(const QMouseEvent *event)

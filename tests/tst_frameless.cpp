@@ -150,11 +150,11 @@ void TestFrameLess::preparesItsTarget()
     QVERIFY(!pane->probe()->autoFillBackground());
     const auto bands = rubberBands();
     QCOMPARE(bands.size(), 1);
-    QCOMPARE(bands.first()->shape(), QRubberBand::Rectangle);
-    QCOMPARE(bands.first()->parent(), nullptr);
+    QCOMPARE(bands.constFirst()->shape(), QRubberBand::Rectangle);
+    QCOMPARE(bands.constFirst()->parent(), nullptr);
     pane->press(QPoint(0, 150));
-    QVERIFY(!bands.first()->isVisible());
-    QCOMPARE(bands.first()->geometry(), start);
+    QVERIFY(!bands.constFirst()->isVisible());
+    QCOMPARE(bands.constFirst()->geometry(), start);
     pane->release();
 }
 
@@ -285,7 +285,7 @@ void TestFrameLess::resizes()
     QCOMPARE(pane->geometry(), start);
     pane->moveTo(QPoint(x, y));
     QCOMPARE(pane->geometry(), result);
-    QCOMPARE(rubberBands().first()->geometry(), result);
+    QCOMPARE(rubberBands().constFirst()->geometry(), result);
     pane->release();
     pane->moveTo(QPoint(300, 300), Qt::NoButton);
     QCOMPARE(pane->geometry(), result);
@@ -420,7 +420,7 @@ void TestFrameLess::dragMeetsARestoredWindow()
     pane->resize(200, 150);
     pane->moveTo(QPoint(600, 500));
     QCOMPARE(pane->geometry(), QRect(QPoint(600, 500) - held, QSize(200, 150)));
-    QCOMPARE(rubberBands().first()->geometry(), pane->geometry());
+    QCOMPARE(rubberBands().constFirst()->geometry(), pane->geometry());
     // From here on it is a plain move.
     pane->moveTo(QPoint(610, 520));
     QCOMPARE(pane->pos(), QPoint(610, 520) - held);

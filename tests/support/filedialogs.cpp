@@ -10,14 +10,25 @@
 
 namespace {
 
-void confirmOverwrite()
+void typeAndAccept(QFileDialog *dialog, const QString &path)
 {
-    if (auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-        QTest::keyClick(question, Qt::Key_Y, Qt::AltModifier);
-        if (question->isVisible()) {
-            question->button(QMessageBox::Yes)->click();
-        }
+    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    name->setFocus();
+    // Not key by key: completions that come up meanwhile would take the place of what is typed.
+    name->setText(path);
+    // Returns once the boxes that come up have been closed.
+    QTest::keyClick(name, Qt::Key_Return);
+    if (dialog->isVisible()) {
+        dialog->reject();
     }
+}
+
+QString closeBox(QMessageBox *box)
+{
+    const QString text = box->text();
+    QAbstractButton *yes = box->button(QMessageBox::Yes);
+    (yes != nullptr ? yes : box->buttons().constFirst())->click();
+    return text;
 }
 
 } // namespace
@@ -28,29 +39,22 @@ filedialogs::Seen filedialogs::answer(const std::function<void()> &action, const
     QTimer poll;
     bool answered = false;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (dialog == nullptr || !dialog->isVisible()) {
-            confirmOverwrite();
-            return;
-        }
-        if (answered) {
-            return;
-        }
-        answered = true;
-        seen = {dialog->windowTitle(), dialog->directory().path(),
-                dialog->nameFilters().join(QLatin1Char('|'))};
-        if (path.isEmpty()) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            return;
-        }
-        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        name->setFocus();
-        name->clear();
-        QTest::keyClicks(name, path);
-        QTest::keyClick(name, Qt::Key_Return);
-        if (dialog->isVisible()
-            && qobject_cast<QMessageBox *>(QApplication::activeModalWidget()) == nullptr) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
+        QWidget *modal = QApplication::activeModalWidget();
+        if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+            seen.question = closeBox(box);
+        } else if (auto *dialog = qobject_cast<QFileDialog *>(modal);
+                   dialog != nullptr && dialog->isVisible() && !answered) {
+            answered = true;
+            seen = {dialog->windowTitle(), dialog->directory().path(),
+                    dialog->nameFilters().join(QLatin1Char('|')), QString()};
+            // Not in here: a timer doesn't fire again below its own slot, and a box may come up.
+            QTimer::singleShot(0, dialog, [dialog, path] {
+                if (path.isEmpty()) {
+                    QTest::keyClick(dialog, Qt::Key_Escape);
+                } else {
+                    typeAndAccept(dialog, path);
+                }
+            });
         }
     });
     poll.start(20);

@@ -7,14 +7,18 @@
 /// The real file dialogs, answered while they block their caller.
 namespace filedialogs {
 
-/// Runs `action`, types `path` into the file dialog that it opens, and accepts; an empty path cancels the
-/// dialog. Returns the dialog's window title and the folder in which it started, or empty texts when none
-/// opened.
+/// What a file dialog showed when it opened; empty texts when none did.
 struct Seen {
     QString title;
     QString folder;
     QString filter;
+    /// The text of the box that the answer brought up, such as the question before a file is replaced.
+    QString question;
 };
+
+/// Runs `action`, types `path` into the file dialog that it opens, and accepts; an empty path cancels the
+/// dialog. A question is answered with Yes, any other box is closed; a dialog that then stays open is
+/// cancelled.
 Seen answer(const std::function<void()> &action, const QString &path);
 
 } // namespace filedialogs
