@@ -1,6 +1,7 @@
 #include "app/maindialog.h"
 
 #include "app/frameless.h"
+#include "app/windowshadow.h"
 #include "languages/languagemenu.h"
 #include "pages/installation/installationaauto.h"
 #include "pages/installation/installationcool.h"
@@ -16,7 +17,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QGraphicsDropShadowEffect>
 #include <QKeyEvent>
 
 MainDialog *mainDialog = nullptr;
@@ -35,7 +35,7 @@ MainDialog::MainDialog(QWidget *parent)
         ui->windowFrame->setStyleSheet(QString::fromUtf8(look.readAll()));
     }
 
-    auto *shadow = new QGraphicsDropShadowEffect(this);
+    auto *shadow = new WindowShadow(this);
     shadow->setBlurRadius(2);
     shadow->setColor(QColor(0, 0, 0, 30));
     shadow->setOffset(2, 2);
@@ -72,11 +72,11 @@ void MainDialog::initUi()
     loadLanguageData(state.languageIniPath);
 }
 
-void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages)
+void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin)
 {
     auto *content = new QWidget(area);
     auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(margin, margin, margin, margin);
     for (QWidget *page : pages) {
         layout->addWidget(page);
     }
@@ -127,7 +127,7 @@ void MainDialog::initSettingInstallationUi()
     auto *automatic = new InstallationaAuto;
     auto *hotWater = new InstallationDWH;
     auto *system = new InstallationSystemSetting;
-    placeInScrollArea(ui->installationScrollArea, {system, cool, heat, automatic, hotWater});
+    placeInScrollArea(ui->installationScrollArea, {system, cool, heat, automatic, hotWater}, 16);
 
     connect(this, &MainDialog::changeInstallationLanguage, cool, &InstallationCool::changeLanguage);
     connect(this, &MainDialog::changeInstallationLanguage, heat, &InstallationHeat::changeLanguage);

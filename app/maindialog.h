@@ -174,7 +174,7 @@ private:
     QString jsonFilter() const;
     QString unitSuffix(int unit) const;
     QString languageFilePath(const QString &name) const;
-    void placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages);
+    void placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin = 0);
     void selectTab(Tab tab);
     void styleTabs(Tab tab);
     void joinTabs();

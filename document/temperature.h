@@ -2,7 +2,7 @@
 
 #include <QMap>
 
-/// The °C/°F table, and the numbers in item texts.
+/// The °C/°F table. It stands instead of the formula, from which it differs.
 namespace temperature {
 
 /// °C -> °F for every whole °C from -50 to 120. It holds even °F only, and some neighbours share one.

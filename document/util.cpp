@@ -24,7 +24,7 @@ PathHead splitPath(const QString &path)
     const int close = path.indexOf(QLatin1Char(']'));
 
     PathHead head;
-    head.index = close > open ? path.mid(open + 1, close - open - 1).toInt() : 0;
+    head.index = open >= 0 && close > open ? path.mid(open + 1, close - open - 1).toInt() : 0;
     head.indexed = open >= 0 && (dot < 0 || dot > open);
     if (!head.indexed) {
         head.name = path.left(dot);

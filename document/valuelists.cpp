@@ -9,11 +9,27 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace {
+
+// Far more than any list needs. Limits of a damaged document could ask for thousands of millions.
+constexpr int longestList = 1000;
 
 int numberBefore(const QString &text, int suffixLength)
 {
     return text.chopped(qMin(suffixLength, text.size())).toInt();
+}
+
+/// Whether the list holds these items already: then it needn't be filled again, which is what takes the time.
+bool holds(const QComboBox &comboBox, const QStringList &items)
+{
+    if (comboBox.count() != items.size()) {
+        return false;
+    }
+    int index = 0;
+    return std::all_of(items.begin(), items.end(),
+                       [&](const QString &item) { return comboBox.itemText(index++) == item; });
 }
 
 } // namespace
@@ -59,7 +75,7 @@ void MainDialog::setRangeValueInComboBox(QComboBox *comboBox, int lower, int upp
     }
     const QString suffix = unitSuffix(unit);
     QStringList items;
-    for (int value = lower; value <= upper; value += step) {
+    for (qint64 value = lower; value <= upper && items.size() < longestList; value += step) {
         items.append(QString::number(value) + suffix);
     }
     setComboItems(comboBox, items, -1);
@@ -94,8 +110,12 @@ void MainDialog::setComboByKey(QComboBox *comboBox, const QString &key)
 void MainDialog::setComboItems(QComboBox *comboBox, const QStringList &items, int index)
 {
     comboBox->blockSignals(true);
-    comboBox->clear();
-    comboBox->addItems(items);
+    if (holds(*comboBox, items)) {
+        comboBox->setCurrentIndex(items.isEmpty() ? -1 : 0);
+    } else {
+        comboBox->clear();
+        comboBox->addItems(items);
+    }
     if (index != -1) {
         comboBox->setCurrentIndex(index);
     }

@@ -1,10 +1,355 @@
 #include "pages/installation/installationsystemawhp.h"
 
-InstallationSystemAWHP::InstallationSystemAWHP(QWidget *parent)
-    : Page(parent)
+#include "app/maindialog.h"
+#include "pages/style.h"
+#include "pages/wheelguard.h"
+#include "ui_installationsystemawhp.h"
+
+#include <QDebug>
+
+namespace {
+
+/// The hot water limit in °C that each choice of the boost heater sets, whatever the refrigerant.
+constexpr int hotWaterLimit = 50;
+
+/// The word of an anti-freeze temperature in K, the greatest step for the lowest; empty for what isn't
+/// listed.
+QString antiFreezeWord(int kelvin)
 {
+    const bool listed = kelvin >= -25 && kelvin <= -5 && kelvin % 5 == 0;
+    return listed ? QStringLiteral("STEP") + QString::number(-kelvin / 5 - 1) : QString();
 }
 
-void InstallationSystemAWHP::changeLanguage() {}
+} // namespace
 
-void InstallationSystemAWHP::saveJsonData(const QString &, const QJsonValue &) {}
+InstallationSystemAWHP::InstallationSystemAWHP(QWidget *parent)
+    : Page(parent)
+    , ui(std::make_unique<Ui::InstallationSystemAWHP>())
+{
+    ui->setupUi(this);
+    WheelGuard::guard(this);
+    initUi();
+}
+
+InstallationSystemAWHP::~InstallationSystemAWHP() = default;
+
+void InstallationSystemAWHP::showEvent(QShowEvent *event)
+{
+    Page::showEvent(event);
+    refresh();
+}
+
+// The lists stand before values are selected in them; the load sets visibility and radios only.
+void InstallationSystemAWHP::refresh()
+{
+    loadJsonData();
+    initDefaultTempRange();
+    if (mainDialog->isFahrenheit()) {
+        conversionToFahrenheit();
+    }
+    setloadJsonValue();
+    validataionCheck();
+}
+
+QJsonValue InstallationSystemAWHP::parseJsonData(const QString &path) { return read(path); }
+
+void InstallationSystemAWHP::saveJsonData(const QString &path, const QJsonValue &value)
+{
+    emit saveJsonValue(path, value);
+}
+
+QString InstallationSystemAWHP::setOpacity(bool isEnabled) { return style::labelText(isEnabled); }
+
+void InstallationSystemAWHP::refreshInstallation() { emit refreshInstallationPage(); }
+
+void InstallationSystemAWHP::enable2ndCircuit()
+{
+    const bool used = ui->radio2ndUse->isChecked();
+    ui->label2ndValve->setStyleSheet(setOpacity(used));
+    ui->label2ndHysterisis->setStyleSheet(setOpacity(used));
+    ui->comboValveClosingTime->setEnabled(used);
+    ui->comboHysterisis->setEnabled(used);
+}
+
+void InstallationSystemAWHP::enableSmartGrid()
+{
+    const bool used = ui->radioSgUse->isChecked();
+    ui->labelSmartgridStep->setStyleSheet(setOpacity(used));
+    ui->comboStep->setEnabled(used);
+}
+
+// Disinfection only dims the rows as well.
+void InstallationSystemAWHP::enableWaterTankHeater()
+{
+    const bool used = ui->radioWaterTankHeaterUse->isChecked();
+    ui->labelWaterTankPriority->setStyleSheet(setOpacity(used));
+    ui->labelWaterTankTime->setStyleSheet(setOpacity(used));
+    ui->comboHeatingPriority->setEnabled(used);
+    ui->comboDelayTime->setEnabled(used);
+}
+
+void InstallationSystemAWHP::enable3rdPartyBoiler()
+{
+    const bool used = ui->radio3rdUse->isChecked();
+    for (QGroupBox *group : {ui->groupBox3rdPartySub1, ui->groupBox3rdPartySub2, ui->groupBox3rdPartySub3}) {
+        group->setEnabled(used);
+    }
+    for (QLabel *label : {ui->label3rdMode, ui->label3rdTemp, ui->label3rdHysterisis}) {
+        label->setStyleSheet(setOpacity(used));
+    }
+    ui->comboControlMode->setEnabled(used);
+    setControlledByTemperature(used && ui->comboControlMode->currentIndex() != 0);
+}
+
+void InstallationSystemAWHP::setControlledByTemperature(bool controlled)
+{
+    ui->combo3rdHysterisis->setEnabled(controlled);
+    ui->comboControlTemp->setEnabled(controlled);
+}
+
+void InstallationSystemAWHP::choose(const QAbstractButton *button)
+{
+    saveChoice(
+        {{ui->radio2ndNotuse, "SettingInfo.installation.circuitMainZone.enableMainZone", "CLR"},
+         {ui->radio2ndUse, "SettingInfo.installation.circuitMainZone.enableMainZone", "SET"},
+         {ui->radioSgNotuse, "SettingInfo.installation.smartGrid.smartGridUse", "CLR"},
+         {ui->radioSgUse, "SettingInfo.installation.smartGrid.smartGridUse", "SET"},
+         {ui->radioHeaterPriorityNotuse, "SettingInfo.installation.EH_BH_priority", "CLR"},
+         {ui->radioHeaterPriorityUse, "SettingInfo.installation.EH_BH_priority", "SET"},
+         {ui->radioWaterTankHeaterNotuse, "SettingInfo.installation.hotWaterTankHeater.tankHeaterUse",
+          "NOTUSE"},
+         {ui->radioWaterTankHeaterUse, "SettingInfo.installation.hotWaterTankHeater.tankHeaterUse", "BH_USE"},
+         {ui->radioWaterTankHeaterMode, "SettingInfo.installation.hotWaterTankHeater.tankHeaterUse",
+          "ONLY_DISINFECT"},
+         {ui->radioExternalPumpNotuse, "SettingInfo.installation.extWaterPump", "CLR"},
+         {ui->radioExternalPumpUse, "SettingInfo.installation.extWaterPump", "SET"},
+         {ui->radio3rdNotUse, "SettingInfo.installation.boilerOfThirdParty.thirdPartyUse", "CLR"},
+         {ui->radio3rdUse, "SettingInfo.installation.boilerOfThirdParty.thirdPartyUse", "SET"}},
+        button);
+}
+
+void InstallationSystemAWHP::save(const ValueRow &row)
+{
+    saveValue(row);
+    validataionCheck();
+}
+
+// Captions of other sections depend on the second circuit.
+void InstallationSystemAWHP::choose2ndCircuit(const QAbstractButton *button)
+{
+    enable2ndCircuit();
+    choose(button);
+    mainDialog->changeLanguage();
+    validataionCheck();
+    emit refreshInstallationPage();
+}
+
+void InstallationSystemAWHP::on_radio2ndNotuse_clicked() { choose2ndCircuit(ui->radio2ndNotuse); }
+
+void InstallationSystemAWHP::on_radio2ndUse_clicked() { choose2ndCircuit(ui->radio2ndUse); }
+
+void InstallationSystemAWHP::on_radioSgNotuse_clicked()
+{
+    enableSmartGrid();
+    choose(ui->radioSgNotuse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radioSgUse_clicked()
+{
+    enableSmartGrid();
+    choose(ui->radioSgUse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radioHeaterPriorityNotuse_clicked()
+{
+    choose(ui->radioHeaterPriorityNotuse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radioHeaterPriorityUse_clicked()
+{
+    choose(ui->radioHeaterPriorityUse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::chooseWaterTankHeater(const QAbstractButton *button)
+{
+    enableWaterTankHeater();
+    choose(button);
+    saveJsonData(installation("settempLimit.hotWater.high_limit"), hotWaterLimit);
+    emit refreshInstallationPage();
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radioWaterTankHeaterNotuse_clicked()
+{
+    chooseWaterTankHeater(ui->radioWaterTankHeaterNotuse);
+}
+
+void InstallationSystemAWHP::on_radioWaterTankHeaterUse_clicked()
+{
+    chooseWaterTankHeater(ui->radioWaterTankHeaterUse);
+}
+
+void InstallationSystemAWHP::on_radioWaterTankHeaterMode_clicked()
+{
+    chooseWaterTankHeater(ui->radioWaterTankHeaterMode);
+}
+
+void InstallationSystemAWHP::on_radioExternalPumpNotuse_clicked()
+{
+    choose(ui->radioExternalPumpNotuse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radioExternalPumpUse_clicked()
+{
+    choose(ui->radioExternalPumpUse);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radio3rdNotUse_clicked()
+{
+    choose(ui->radio3rdNotUse);
+    enable3rdPartyBoiler();
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_radio3rdUse_clicked()
+{
+    choose(ui->radio3rdUse);
+    enable3rdPartyBoiler();
+    validataionCheck();
+}
+
+// The index is the value.
+void InstallationSystemAWHP::on_comboHysterisis_currentIndexChanged(int index)
+{
+    const bool last = mainDialog->isFahrenheit() && index == lastHysteresisItem;
+    saveJsonData(installation("circuitMainZone.hysterisisMainZone"), last ? lastHysteresis : index);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_comboValveClosingTime_currentTextChanged(const QString &)
+{
+    save({ui->comboValveClosingTime, "SettingInfo.installation.circuitMainZone.controlTimeMainZone",
+          Shown::Index, firstClosingTime});
+}
+
+void InstallationSystemAWHP::on_comboStep_currentIndexChanged(int)
+{
+    save({ui->comboStep, "SettingInfo.installation.smartGrid.smartGridMode", Shown::Index});
+}
+
+void InstallationSystemAWHP::on_comboHeaterOnTemperature_currentTextChanged(const QString &)
+{
+    save({ui->comboHeaterOnTemperature, "SettingInfo.installation.eheater_onoff.heater1_value",
+          Shown::Temperature});
+}
+
+// In °F the number goes through the table of temperatures as well, which leaves none that is listed.
+void InstallationSystemAWHP::on_comboAntiFreezingTemp_currentTextChanged(const QString &text)
+{
+    const int shown = mainDialog->textWithoutOneChar(text);
+    const int kelvin = mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
+    saveJsonData(installation("antiFreezeTemp"), antiFreezeWord(kelvin));
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_comboPreRun_currentIndexChanged(int)
+{
+    save({ui->comboPreRun, "SettingInfo.installation.pumpPreOverRun.preRun", Shown::Index, firstRun});
+}
+
+void InstallationSystemAWHP::on_comboOverRun_currentIndexChanged(int)
+{
+    save({ui->comboOverRun, "SettingInfo.installation.pumpPreOverRun.overRun", Shown::Index, firstRun});
+}
+
+void InstallationSystemAWHP::on_comboDelayTime_currentIndexChanged(int)
+{
+    save({ui->comboDelayTime, "SettingInfo.installation.hotWaterTankHeater.tankHeaterDelay", Shown::Index});
+}
+
+void InstallationSystemAWHP::on_comboControlMode_currentTextChanged(const QString &)
+{
+    const bool manual = ui->comboControlMode->currentIndex() == 0;
+    saveJsonData(installation("boilerOfThirdParty.thirdPartyMode"),
+                 manual ? QStringLiteral("MANUAL") : QStringLiteral("AUTO"));
+    setControlledByTemperature(!manual);
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::on_comboControlTemp_currentTextChanged(const QString &)
+{
+    save({ui->comboControlTemp, "SettingInfo.installation.boilerOfThirdParty.thirdPartyTemp",
+          Shown::Temperature});
+}
+
+void InstallationSystemAWHP::on_combo3rdHysterisis_currentTextChanged(const QString &)
+{
+    save({ui->combo3rdHysterisis, "SettingInfo.installation.boilerOfThirdParty.thirdPartyHysterisis",
+          Shown::Kelvin});
+}
+
+// The messages go under the name of the system section.
+void InstallationSystemAWHP::validataionCheck()
+{
+    const MainDialog *dialog = mainDialog;
+    const bool result = dialog->checkValidationRadio(ui->radio2ndNotuse, ui->radio2ndUse, nullptr)
+        && dialog->checkValidationRadio(ui->radio3rdNotUse, ui->radio3rdUse, nullptr)
+        && dialog->checkValidationRadio(ui->radioExternalPumpNotuse, ui->radioExternalPumpUse, nullptr)
+        && dialog->checkValidationRadio(ui->radioHeaterPriorityNotuse, ui->radioHeaterPriorityUse, nullptr)
+        && dialog->checkValidationRadio(ui->radioSgNotuse, ui->radioSgUse, nullptr)
+        && dialog->checkValidationRadio(ui->radioWaterTankHeaterMode, ui->radioWaterTankHeaterNotuse,
+                                        ui->radioWaterTankHeaterUse);
+    qDebug() << (result ? "InstallationSystemSetting::validationCheck succeed"
+                        : "InstallationSystemSetting::validationCheck failed");
+    emit validationCheckSignals(result, QStringLiteral("AWHP"));
+}
+
+void InstallationSystemAWHP::on_comboHeatingPriority_currentIndexChanged(int index)
+{
+    saveJsonData(installation("hotWaterTankHeater.tankHeaterPriority"),
+                 index == 0 ? QStringLiteral("HP_ONLY") : QStringLiteral("HP_BH_BOTH"));
+    validataionCheck();
+}
+
+void InstallationSystemAWHP::changeLanguage()
+{
+    setCaptions({{ui->labelSecondCircuit, "Secondcircuit"},
+                 {ui->radio2ndNotuse, "NotUse"},
+                 {ui->radio2ndUse, "Use"},
+                 {ui->label2ndValve, "ValveClosingTime"},
+                 {ui->label2ndHysterisis, "Hysterisis"},
+                 {ui->labelSmartGrid, "SmartGrid"},
+                 {ui->radioSgNotuse, "NotUse"},
+                 {ui->radioSgUse, "Use"},
+                 {ui->labelSmartgridStep, "ControlMode"},
+                 {ui->labelHeaterPriority, "HeaterPriority"},
+                 {ui->radioHeaterPriorityNotuse, "BackupBoostBoth"},
+                 {ui->radioHeaterPriorityUse, "BoostOnly"},
+                 {ui->labelHeaterOnTemp, "HeaterOnTemperature"},
+                 {ui->labelWaterTankHeater, "WaterTankHeater"},
+                 {ui->radioWaterTankHeaterNotuse, "NotUse"},
+                 {ui->radioWaterTankHeaterUse, "Use"},
+                 {ui->radioWaterTankHeaterMode, "DisinfectionMode"},
+                 {ui->labelWaterTankPriority, "HeatingPriority"},
+                 {ui->labelWaterTankTime, "DelayTime"},
+                 {ui->labelAntiFreeze, "AntifreezingSolutionTemperature"},
+                 {ui->labelPumpControl, "PumpControl"},
+                 {ui->labelPreRun, "PreRun"},
+                 {ui->labelOverRun, "OverRun"},
+                 {ui->labelExternalPump, "ExternalPump"},
+                 {ui->radioExternalPumpNotuse, "NotUse"},
+                 {ui->radioExternalPumpUse, "Use"},
+                 {ui->labelThirdParty, "ThirdPartyBoiler"},
+                 {ui->radio3rdNotUse, "NotUse"},
+                 {ui->radio3rdUse, "Use"},
+                 {ui->label3rdMode, "ControlMode"},
+                 {ui->label3rdTemp, "ControlTemperatureRun"},
+                 {ui->label3rdHysterisis, "Hysterisis"}});
+    changeLanguageInCombobox();
+}

@@ -1,10 +1,309 @@
 #include "pages/installation/installationsystemsetting.h"
 
+#include "app/maindialog.h"
+#include "pages/wheelguard.h"
+#include "ui_installationsystemsetting.h"
+
+#include <QDebug>
+
+#include <array>
+#include <type_traits>
+
+namespace {
+
+/// What a control method stores, by the key of its text.
+struct Sensing {
+    const char *key;
+    const char *basis;
+    const char *airAndWater;
+    const char *remoteSensor;
+};
+
+constexpr std::array<Sensing, 3> sensingMethods{
+    {{"AIR", "AIR", "CLR", "SET"}, {"WATER", "WATER", "CLR", "CLR"}, {"AIR_WATER", "AIR", "SET", "SET"}}};
+
+} // namespace
+
 InstallationSystemSetting::InstallationSystemSetting(QWidget *parent)
     : Section(parent)
+    , ui(std::make_unique<Ui::InstallationSystemSetting>())
 {
+    ui->setupUi(this);
+    WheelGuard::guard(this);
+    const auto connectProduct = [this](auto *product) {
+        using Product = std::remove_pointer_t<decltype(product)>;
+        connect(product, &Product::validationCheckSignals, this,
+                &InstallationSystemSetting::validationCheckByProductType);
+        connect(product, &Product::saveJsonValue, this, &InstallationSystemSetting::saveJsonData);
+        connect(product, &Product::refreshInstallationPage, this,
+                &InstallationSystemSetting::refreshInstallationPage);
+    };
+    connectProduct(ui->widgetAwhp);
+    connectProduct(ui->widgetAquabox);
+    connect(this, &InstallationSystemSetting::refreshAwhpCategory, ui->widgetAwhp,
+            &InstallationSystemAWHP::refresh);
+    // The heat pump section here too, on purpose.
+    connect(this, &InstallationSystemSetting::refreshAquaboxCategory, ui->widgetAwhp,
+            &InstallationSystemAWHP::refresh);
+    collapse(ui->hideButton, ui->frame);
+    ui->widgetAwhp->hide();
+    ui->widgetAquabox->hide();
+    initDefaultRange();
 }
 
-void InstallationSystemSetting::changeLanguage() {}
+InstallationSystemSetting::~InstallationSystemSetting() = default;
 
-void InstallationSystemSetting::saveJsonData(const QString &, const QJsonValue &) {}
+void InstallationSystemSetting::showEvent(QShowEvent *event)
+{
+    Section::showEvent(event);
+    initDefaultRange();
+    loadJsonData();
+    changeLanguage();
+    validationCheck();
+}
+
+void InstallationSystemSetting::initUi()
+{
+    ui->frame->hide();
+    ui->widgetAwhp->hide();
+    ui->widgetAquabox->hide();
+    initDefaultRange();
+}
+
+void InstallationSystemSetting::blockComboBoxSignal(bool isBlock)
+{
+    for (QComboBox *combo : {ui->comboBoxAirTemp, ui->comboBoxSensingTemp, ui->comboCentral, ui->comboCnEXT,
+                             ui->comboDryContactInstallation, ui->comboModbus, ui->comboOperationPeriod,
+                             ui->comboOperationTime, ui->comboWaterpumpRPM, ui->comboWaterRpmDuty,
+                             ui->comboBoxScreedStep, ui->comboBoxScreedMaxTemp, ui->comboBoxScreedHolding}) {
+        combo->blockSignals(isBlock);
+    }
+}
+
+void InstallationSystemSetting::saveJsonData(const QString &path, const QJsonValue &value)
+{
+    writeWhileExpanded(path, value);
+}
+
+QJsonValue InstallationSystemSetting::parseJsonData(const QString &path) { return read(path); }
+
+void InstallationSystemSetting::refreshAwhpWidget() { emit refreshAwhpCategory(); }
+
+void InstallationSystemSetting::refreshAquaboxWidget() {}
+
+void InstallationSystemSetting::refreshInstallationPage() { emit refreshInstallationPageSignal(); }
+
+void InstallationSystemSetting::enableEnforcedCirculation()
+{
+    const bool used = ui->radioEnforcedUse->isChecked();
+    const QString style = used ? QStringLiteral("color : #555555")
+                               : QStringLiteral("color : rgba(55,55,55,30%)");
+    ui->labelOperationPeriod->setStyleSheet(style);
+    ui->labelOperationTime->setStyleSheet(style);
+    ui->comboOperationPeriod->setEnabled(used);
+    ui->comboOperationTime->setEnabled(used);
+}
+
+void InstallationSystemSetting::on_hideButton_clicked() { toggle(ui->hideButton, ui->frame); }
+
+void InstallationSystemSetting::setTempValue(QComboBox *comboBox, int value)
+{
+    const QString unit = mainDialog->isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
+    comboBox->blockSignals(true);
+    comboBox->setCurrentIndex(comboBox->findText(QString::number(value) + unit));
+    comboBox->blockSignals(false);
+}
+
+void InstallationSystemSetting::choose(const QAbstractButton *button)
+{
+    saveChoice(
+        {{ui->radioDryManual, "SettingInfo.installation.drycontactAuto", "AUTO_OFF"},
+         {ui->radioDryAuto, "SettingInfo.installation.drycontactAuto", "AUTO_ON"},
+         {ui->radioEnforcedNotuse, "SettingInfo.installation.pumpOperationByForce.ByForceUse", "NOTUSE"},
+         {ui->radioEnforcedUse, "SettingInfo.installation.pumpOperationByForce.ByForceUse", "USE"}},
+        button);
+}
+
+void InstallationSystemSetting::save(const ValueRow &row)
+{
+    saveValue(row);
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_radioDryManual_clicked()
+{
+    choose(ui->radioDryManual);
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_radioDryAuto_clicked()
+{
+    choose(ui->radioDryAuto);
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_radioEnforcedNotuse_clicked()
+{
+    choose(ui->radioEnforcedNotuse);
+    enableEnforcedCirculation();
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_radioEnforcedUse_clicked()
+{
+    choose(ui->radioEnforcedUse);
+    enableEnforcedCirculation();
+    validationCheck();
+}
+
+// The one control of the section that refreshes the others.
+void InstallationSystemSetting::on_comboBoxSensingTemp_currentTextChanged(const QString &text)
+{
+    const QString key = mainDialog->languageKeyOrText(text).toUpper();
+    for (const Sensing &method : sensingMethods) {
+        if (key == QLatin1String(method.key)) {
+            saveJsonData(installation("sensorDefine.settemp_select"), QLatin1String(method.basis));
+            saveJsonData(installation("sensorDefine.airAndWaterUse"), QLatin1String(method.airAndWater));
+            saveJsonData(installation("sensorDefine.remote_sensor"), QLatin1String(method.remoteSensor));
+        }
+    }
+    if (flag("isIduAirTempSW")) {
+        ui->groupBoxAirTempSensor->setEnabled(key != QLatin1String("WATER"));
+    }
+    validationCheck();
+    emit refreshInstallationPageSignal();
+}
+
+void InstallationSystemSetting::on_comboBoxAirTemp_currentTextChanged(const QString &)
+{
+    save({ui->comboBoxAirTemp, "SettingInfo.installation.sensorDefine.airTempLocation", Shown::Key});
+}
+
+void InstallationSystemSetting::on_comboWaterRpmDuty_currentTextChanged(const QString &text)
+{
+    saveJsonData(installation("pumpRPM.pumpRPMValue"), QString(text).remove(QLatin1Char('%')).toInt());
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_comboWaterpumpRPM_currentTextChanged(const QString &text)
+{
+    saveJsonData(installation("pumpRPM.pumpRPMValue"), text.toInt() / 10);
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_comboDryContactInstallation_currentTextChanged(const QString &)
+{
+    const QString chosen = dryContactWords().value(ui->comboDryContactInstallation->currentIndex());
+    if (!chosen.isEmpty()) {
+        saveJsonData(installation("dryContactInstallation"), chosen);
+    }
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_comboCnEXT_currentIndexChanged(int index)
+{
+    saveJsonData(installation("digitalInput"), QStringLiteral("STEP") + QString::number(index));
+    validationCheck();
+}
+
+void InstallationSystemSetting::on_comboCentral_currentTextChanged(const QString &text)
+{
+    saveJsonData(installation("cc_address"), text.toUpper());
+    validationCheck();
+}
+
+// The text is read as decimal though it shows hexadecimal digits, on purpose: "10" stores 10 and "0a" 0.
+void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &)
+{
+    save({ui->comboModbus, "SettingInfo.installation.modbusAddress", Shown::Number});
+}
+
+void InstallationSystemSetting::on_comboBoxScreedStep_currentTextChanged(const QString &)
+{
+    save({ui->comboBoxScreedStep, "SettingInfo.installation.cement_cure.cmt_step", Shown::Number});
+}
+
+void InstallationSystemSetting::on_comboBoxScreedMaxTemp_currentTextChanged(const QString &)
+{
+    save({ui->comboBoxScreedMaxTemp, "SettingInfo.installation.cement_cure.cmt_maxTemp", Shown::Temperature});
+}
+
+void InstallationSystemSetting::on_comboOperationTime_currentIndexChanged(int)
+{
+    save({ui->comboOperationTime, "SettingInfo.installation.pumpOperationByForce.ByForceRuntime",
+          Shown::Index, firstRuntime});
+}
+
+void InstallationSystemSetting::on_comboBoxScreedHolding_currentIndexChanged(int)
+{
+    save({ui->comboBoxScreedHolding, "SettingInfo.installation.cement_cure.cmt_holding", Shown::Index,
+          firstHolding});
+}
+
+void InstallationSystemSetting::on_comboOperationPeriod_currentIndexChanged(int)
+{
+    save({ui->comboOperationPeriod, "SettingInfo.installation.pumpOperationByForce.ByForcePeriod",
+          Shown::Index, firstPeriod});
+}
+
+// A failed product section ends the check before the tab's result is joined, on purpose.
+void InstallationSystemSetting::validationCheck()
+{
+    bool result = mainDialog->checkValidationRadio(ui->radioDryAuto, ui->radioDryManual, nullptr)
+        && mainDialog->checkValidationRadio(ui->radioEnforcedNotuse, ui->radioEnforcedUse, nullptr);
+    qDebug() << (result ? "InstallationSystemSetting::validationCheck succeed!!"
+                        : "InstallationSystemSetting::validationCheck failed!!");
+    mainDialog->setSystemSectionValid(result);
+
+    const bool awhpShown = !ui->widgetAwhp->isHidden();
+    if (awhpShown || !ui->widgetAquabox->isHidden()) {
+        result = result && (awhpShown ? awhpValid : aquaboxValid);
+        if (!result) {
+            mainDialog->setSystemSectionValid(false);
+            return;
+        }
+    }
+    qDebug() << "InstallationSystemSetting::validationCheck" << result;
+    mainDialog->setSystemSectionValid(result);
+    mainDialog->updateInstallationValid();
+}
+
+void InstallationSystemSetting::validationCheckByProductType(bool isChecked, const QString &type)
+{
+    const QString product = type.toUpper();
+    if (product == QLatin1String("AWHP")) {
+        awhpValid = isChecked;
+    } else if (product == QLatin1String("AQUABOX")) {
+        aquaboxValid = isChecked;
+    }
+    validationCheck();
+}
+
+void InstallationSystemSetting::changeLanguage()
+{
+    setCaptions({{ui->labelSystemSetting, "SystemSetting"},
+                 {ui->labelTempSensor, "TemperatureSensor"},
+                 {ui->labelSensingTemp, "SensingTemperature"},
+                 {ui->labelAirTemp, "AirTemperatureSensor"},
+                 {ui->labelDryContactMode, "DryContactMode"},
+                 {ui->radioDryManual, "Manual"},
+                 {ui->radioDryAuto, "Auto"},
+                 {ui->labelCCAddress, "CentralControlAddress"},
+                 {ui->labelScreedDry, "ScreedDry"},
+                 {ui->labelScreedStep, "ScreedStep"},
+                 {ui->labelScreedMaxTemp, "ScreedMaxtemp"},
+                 {ui->labelScreedHolding, "ScreedHolding"},
+                 {ui->labelModbusAddress, "ModbusAddress"},
+                 {ui->labelWaterPumpDuty, "WaterPumpRPM"},
+                 {ui->labelWaterPump, "WaterPumpRPM"},
+                 {ui->labelEnforced, "EnforcedCirculation"},
+                 {ui->radioEnforcedNotuse, "NotUse"},
+                 {ui->radioEnforcedUse, "Use"},
+                 {ui->labelOperationPeriod, "OperationPeriod"},
+                 {ui->labelOperationTime, "OperationTime"},
+                 {ui->labelDryContact, "DryContact"},
+                 {ui->labelCnExt, "CNEXT"}});
+    ui->widgetAwhp->changeLanguage();
+    ui->widgetAquabox->changeLanguage();
+    changeLanguageInCombobox();
+}

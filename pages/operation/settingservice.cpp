@@ -1,10 +1,92 @@
 #include "pages/operation/settingservice.h"
 
-SettingService::SettingService(QWidget *parent)
-    : Page(parent)
+#include "app/maindialog.h"
+#include "pages/wheelguard.h"
+#include "ui_settingservice.h"
+
+#include <QRegExpValidator>
+
+namespace {
+
+QString contact(const char *key)
 {
+    return QStringLiteral("SettingInfo.svc.svcContact.") + QLatin1String(key);
 }
 
-void SettingService::changeLanguage() {}
+} // namespace
 
-void SettingService::saveJsonData(const QString &, const QJsonValue &) {}
+SettingService::SettingService(QWidget *parent)
+    : Page(parent)
+    , ui(std::make_unique<Ui::SettingService>())
+{
+    ui->setupUi(this);
+    WheelGuard::guard(this);
+    initUi();
+}
+
+SettingService::~SettingService() = default;
+
+void SettingService::showEvent(QShowEvent *event)
+{
+    Page::showEvent(event);
+    loadJsonData();
+    validataionCheck();
+}
+
+void SettingService::initUi()
+{
+    auto *digits = new QRegExpValidator(QRegExp(QStringLiteral("^[0-9-]{0,15}$")), this);
+    ui->lineEditTelephone->setValidator(digits);
+    auto *anyText = new QRegExpValidator(QRegExp(QStringLiteral(".{0,15}$")), this);
+    ui->lineEditInstallerName->setValidator(anyText);
+    ui->lineEditOfficeName->setValidator(anyText);
+}
+
+// Without a test for an empty document: this page alone writes into one.
+void SettingService::saveJsonData(const QString &path, const QJsonValue &value) { write(path, value); }
+
+QJsonValue SettingService::parseJsonData(const QString &path) { return read(path); }
+
+// An empty value leaves its line edit as it is.
+void SettingService::loadJsonData()
+{
+    const QString company = text(contact("company"));
+    const QString installer = text(contact("installerName"));
+    const QString telephone = text(contact("phoneNumber"));
+    if (!company.isEmpty()) {
+        ui->lineEditOfficeName->setText(company);
+    }
+    if (!installer.isEmpty()) {
+        ui->lineEditInstallerName->setText(installer);
+    }
+    if (!telephone.isEmpty()) {
+        ui->lineEditTelephone->setText(telephone);
+    }
+}
+
+void SettingService::validataionCheck() { mainDialog->setSettingTabValid(true, MainDialog::ServiceTab); }
+
+// The company alone falls back to "-".
+void SettingService::on_lineEditOfficeName_textChanged(const QString &arg1)
+{
+    saveJsonData(contact("company"), arg1.isEmpty() ? QStringLiteral("-") : ui->lineEditOfficeName->text());
+}
+
+void SettingService::on_lineEditInstallerName_textChanged(const QString & /*arg1*/)
+{
+    saveJsonData(contact("installerName"), ui->lineEditInstallerName->text());
+}
+
+void SettingService::on_lineEditTelephone_textChanged(const QString & /*arg1*/)
+{
+    saveJsonData(contact("phoneNumber"), ui->lineEditTelephone->text());
+}
+
+void SettingService::changeLanguage()
+{
+    setCaptions({{ui->labelServiceContract, "ServiceContact"},
+                 {ui->labelOfficeName, "OfficeName"},
+                 {ui->labelInstallerName, "InstallerName"},
+                 {ui->labelTel, "Telephone"},
+                 {ui->labelTelephoneSubString, "TelephoneSubString"}});
+}

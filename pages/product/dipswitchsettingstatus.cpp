@@ -1,12 +1,313 @@
 #include "pages/product/dipswitchsettingstatus.h"
 
+#include "app/maindialog.h"
+#include "pages/style.h"
+#include "pages/wheelguard.h"
+#include "ui_dipswitchsettingstatus.h"
+
+#include <QRegExpValidator>
+
+#include <algorithm>
+
 DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
     : Page(parent)
+    , ui(std::make_unique<Ui::DipSwitchSettingStatus>())
 {
+    ui->setupUi(this);
+    WheelGuard::guard(this);
+    initUi();
 }
 
-void DipSwitchSettingStatus::changeLanguage() {}
+DipSwitchSettingStatus::~DipSwitchSettingStatus() = default;
 
-void DipSwitchSettingStatus::changeImage(const QString &) {}
+void DipSwitchSettingStatus::showEvent(QShowEvent *event)
+{
+    Page::showEvent(event);
+    mainDialog->setCurrentStep(2);
+    pageShown = true;
+    loadJsonData();
+    validationCheck();
+}
 
-void DipSwitchSettingStatus::saveJsonData(const QString &, const QJsonValue &) {}
+void DipSwitchSettingStatus::initUi()
+{
+    ui->radioFlowAlways->setChecked(true);
+    // Up to four digits and one decimal: the document holds tenths.
+    auto *pulses = new QRegExpValidator(
+        QRegExp(QStringLiteral("^[0-9]\\d{0,3}(?:\\.\\d)?$|^0\\.[0-9]$"), Qt::CaseSensitive), this);
+    for (QLineEdit *edit : pulseEdits()) {
+        edit->setValidator(pulses);
+    }
+    for (QPushButton *button : {ui->DipSwitch11, ui->DipSwitch12, ui->DipSwitch13, ui->DipSwitch14,
+                                ui->DipSwitch21, ui->DipSwitch22, ui->DipSwitch23, ui->DipSwitch24,
+                                ui->DipSwitch25, ui->DipSwitch26, ui->DipSwitch27, ui->DipSwitch28,
+                                ui->DipSwitch31, ui->DipSwitch32, ui->DipSwitch33, ui->DipSwitch34}) {
+        turn({{button, false}});
+    }
+}
+
+std::vector<QLineEdit *> DipSwitchSettingStatus::pulseEdits() const
+{
+    return {ui->lineEditWHM1, ui->lineEditWHM2, ui->lineEditWHM3, ui->lineEditWHM4};
+}
+
+void DipSwitchSettingStatus::saveJsonData(const QString &path, const QJsonValue &value)
+{
+    if (pageShown) {
+        writeUnlessEmpty(path, value);
+    }
+}
+
+QJsonValue DipSwitchSettingStatus::parseJsonData(const QString &path) { return read(path); }
+
+// The look of switches, radios and labels
+
+// The text and the picture are always set together.
+void DipSwitchSettingStatus::turn(std::initializer_list<Switch> switches)
+{
+    for (const auto &[button, on] : switches) {
+        button->setStyleSheet(setDipSwitchButton(on));
+        button->setText(on ? QStringLiteral("true") : QStringLiteral("false"));
+    }
+}
+
+QString DipSwitchSettingStatus::setDipSwitchButton(bool onCheck)
+{
+    return QStringLiteral("QPushButton{border : none; image: url(:/images/btn_step2_switch_%1.png); "
+                          "background-color:rgb(214, 214, 214); color : rgba(0,0,0,0%);}")
+        .arg(onCheck ? QStringLiteral("on") : QStringLiteral("off"));
+}
+
+QString DipSwitchSettingStatus::setRadioTextOpacity(bool isEnabled) { return style::radioText(isEnabled); }
+
+// This page's labels are darker than those of the other pages.
+QString DipSwitchSettingStatus::setOpacity(bool isEnabled)
+{
+    return isEnabled ? QStringLiteral("color : #333333;") : QStringLiteral("color : rgba(33,33,33,30%)");
+}
+
+/// A group that the product doesn't have is neither shown nor enabled.
+void DipSwitchSettingStatus::offer(QWidget *group, bool offered)
+{
+    group->setEnabled(offered);
+    group->setVisible(offered);
+}
+
+// Load
+
+void DipSwitchSettingStatus::loadJsonData()
+{
+    const QString product = word(QStringLiteral("product"));
+    loadProduct(product);
+    loadHotWater(product == QLatin1String("AQUABOX"));
+    if (enableSolarThermalKit()) {
+        showSolarThermalKit();
+    }
+    loadOperationMode();
+    turn({{ui->DipSwitch31,
+           loadPair("isIduAirTempSW", ui->radioAdditionalAirUse, ui->radioAdditionalAirNotUse)}});
+    // Switch 25 is left alone on purpose: it stays as drawn until a flow radio is clicked.
+    loadPair("is_flow_switch", ui->radioFlowOnlyPump, ui->radioFlowAlways);
+    loadElectricHeater();
+    turn({{ui->DipSwitch32, loadPair("isAntiFreeze", ui->radioAntifreezeUse, ui->radioAntifreezeNotuse)}});
+    showBankC(!flag("isR410CoolExpand"));
+    turn({{ui->DipSwitch28,
+           loadPair("is_ThermostatModeChange", ui->radioThermostatUse, ui->radioThermostatNone)}});
+    enableOrvoMeterSubCategory();
+    loadOduFunction(product == QLatin1String("AWHP"));
+    enableOduFunctionMaster();
+    setOrvoSubCategory();
+}
+
+void DipSwitchSettingStatus::loadProduct(const QString &product)
+{
+    const bool aquabox = product == QLatin1String("AQUABOX");
+    if (!aquabox && product != QLatin1String("AWHP")) {
+        return;
+    }
+    for (QRadioButton *radio :
+         {ui->radioOduMaster, ui->radioOduSlave, ui->radioSilentODU, ui->radioSilentRemote}) {
+        radio->setEnabled(aquabox);
+    }
+    ui->labelODUFunctionMaster->setStyleSheet(setOpacity(aquabox));
+    ui->labelSilentMode->setStyleSheet(setOpacity(aquabox));
+    ui->radioDhwOnly->setVisible(aquabox);
+    ui->labelDhwSpacing->setVisible(!aquabox);
+    offer(ui->groupBoxOduFunctionMaster, aquabox);
+}
+
+void DipSwitchSettingStatus::loadHotWater(bool aquabox)
+{
+    const bool hotWater = flag("is_hotwater");
+    const bool boosterOnly = flag("is_boosterht_onlyMode");
+    if (aquabox && boosterOnly) {
+        turn({{ui->DipSwitch22, true}, {ui->DipSwitch23, true}});
+        ui->radioDhwOnly->setChecked(true);
+    } else {
+        turn({{ui->DipSwitch22, false}, {ui->DipSwitch23, hotWater}});
+        (hotWater ? ui->radioDhwUse : ui->radioDhwNotUse)->setChecked(true);
+    }
+}
+
+void DipSwitchSettingStatus::loadOperationMode()
+{
+    const bool heatingOnly = flag("is_autoOp") && flag("is_heat")
+        && word(flagPath("is_cool")) == QLatin1String("CLR");
+    const bool both = !heatingOnly;
+    (both ? ui->radioOperationBoth : ui->radioOperationHeating)->setChecked(true);
+    turn({{ui->DipSwitch24, both}});
+}
+
+/// Checks one of two radios by a flag and returns whether that flag is set.
+bool DipSwitchSettingStatus::loadPair(const char *flagName, QRadioButton *set, QRadioButton *notSet)
+{
+    const bool isOn = flag(flagName);
+    (isOn ? set : notSet)->setChecked(true);
+    return isOn;
+}
+
+// With both flags set the radio says both steps, and setElectricHeater() goes by the first.
+void DipSwitchSettingStatus::loadElectricHeater()
+{
+    const QString heater1 = text(flagPath("is_heater1"));
+    const QString heater2 = text(flagPath("is_heater2"));
+    if (heater2.toUpper() == QLatin1String("SET")) {
+        ui->radioElectricHeaterBoth->setChecked(true);
+    } else if (heater1.toUpper() == QLatin1String("SET")) {
+        ui->radioElectricHeater1->setChecked(true);
+    } else {
+        ui->radioElectricHeaterNotuse->setChecked(true);
+    }
+    setElectricHeater(heater1, heater2);
+}
+
+void DipSwitchSettingStatus::showBankC(bool shown)
+{
+    for (QWidget *part : std::initializer_list<QWidget *>{ui->groupBoxAdditionalAir, ui->groupBoxAntifreeze,
+                                                          ui->frameSw3, ui->labelSW3}) {
+        part->setVisible(shown);
+    }
+}
+
+// The path ends in a lower-case s on purpose, unlike the one that the radios write: no document holds it.
+void DipSwitchSettingStatus::loadOduFunction(bool awhp)
+{
+    const QString function = word(installation("OduFunctionMs"));
+    if (awhp || !flag("isOduFunctionMS")) {
+        offer(ui->groupBoxOduFunctionMaster, false);
+        return;
+    }
+    offer(ui->groupBoxOduFunctionMaster, true);
+    const bool master = function == QLatin1String("MASTER");
+    if (master) {
+        ui->radioOduMaster->setChecked(true);
+    } else if (function == QLatin1String("SLAVE")) {
+        ui->radioOduSlave->setChecked(true);
+    }
+    loadSilentModePriority(master);
+}
+
+void DipSwitchSettingStatus::loadSilentModePriority(bool master)
+{
+    const bool offered = flag("isSilentPriority") && master;
+    offer(ui->groupBoxSilentModePriority, offered);
+    if (!offered) {
+        return;
+    }
+    const QString priority = text(installation("silentModePriority"));
+    if (priority == QLatin1String("oduSwitch")) {
+        ui->radioSilentODU->setChecked(true);
+    } else if (priority == QLatin1String("rmcSetting")) {
+        ui->radioSilentRemote->setChecked(true);
+    }
+}
+
+// Check and texts
+
+void DipSwitchSettingStatus::validationCheck()
+{
+    struct Radios {
+        const QRadioButton *first;
+        const QRadioButton *second;
+        const QRadioButton *third;
+    };
+    const std::vector<Radios> choices{
+        {ui->radioDhwUse, ui->radioDhwOnly, ui->radioDhwNotUse},
+        {ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse, nullptr},
+        {ui->radioOperationHeating, ui->radioOperationBoth, nullptr},
+        {ui->radioFlowAlways, ui->radioFlowOnlyPump, nullptr},
+        {ui->radioAdditionalAirNotUse, ui->radioAdditionalAirUse, nullptr},
+        {ui->radioElectricHeater1, ui->radioElectricHeaterBoth, ui->radioElectricHeaterNotuse},
+        {ui->radioAntifreezeNotuse, ui->radioAntifreezeUse, nullptr},
+        {ui->radioThermostatNone, ui->radioThermostatUse, nullptr},
+        {ui->radioOduMaster, ui->radioOduSlave, nullptr},
+        {ui->radioSilentODU, ui->radioSilentRemote, nullptr}};
+    const std::vector<QLineEdit *> edits = pulseEdits();
+    const bool valid = std::all_of(choices.begin(), choices.end(),
+                                   [](const Radios &each) {
+                                       return mainDialog->checkValidationRadio(each.first, each.second,
+                                                                               each.third);
+                                   })
+        && std::all_of(edits.begin(), edits.end(),
+                       [](const QLineEdit *edit) { return mainDialog->checkValidationLineEdit(edit); });
+    mainDialog->setStepCompleted(valid, 2);
+}
+
+void DipSwitchSettingStatus::changeLanguage()
+{
+    setCaptions({{ui->labelDWH, "DomesticHotWaterTank"},
+                 {ui->radioDhwNotUse, "NotUse"},
+                 {ui->radioDhwUse, "Use"},
+                 {ui->radioDhwOnly, "DhwOnly"},
+                 {ui->labelSolar, "Solarthermalkit"},
+                 {ui->radioSolarThermalKitNotuse, "NotUse"},
+                 {ui->radioSolarThermalKitUse, "Use"},
+                 {ui->labelOperation, "Operationmode"},
+                 {ui->radioOperationHeating, "HeatingOnly"},
+                 {ui->radioOperationBoth, "HeatingCooling"},
+                 {ui->labelFlowSwitch, "Flowswitchdetection"},
+                 {ui->radioFlowAlways, "Always"},
+                 {ui->radioFlowOnlyPump, "OnlyPumpOperating"},
+                 {ui->labelElectric, "ElectricHeather"},
+                 {ui->radioElectricHeaterNotuse, "Heater0"},
+                 {ui->radioElectricHeater1, "Heater1"},
+                 {ui->radioElectricHeaterBoth, "Heater12"},
+                 {ui->labelThermostat, "Thermostat"},
+                 {ui->radioThermostatNone, "NotUse"},
+                 {ui->radioThermostatUse, "Use"},
+                 {ui->labelOrvometerInterface, "OrvoMeterInterface"},
+                 {ui->labelOrvoAddress, "Address"},
+                 {ui->radioOrvometerInterfaceNotuse, "NotUse"},
+                 {ui->radioOrvoAddressB0, "B0"},
+                 {ui->radioOrvoAddressB1, "B1"},
+                 {ui->labelOrvoWHM1, "PulseSpecWHM1"},
+                 {ui->labelOrvoWHM2, "PulseSpecWHM2"},
+                 {ui->labelOrvoWHM3, "PulseSpecWHM3"},
+                 {ui->labelOrvoWHM4, "PulseSpecHeatMeter"},
+                 {ui->labelPulsekW1, "pulsekWh"},
+                 {ui->labelPulsekW2, "pulsekWh"},
+                 {ui->labelPulsekW3, "pulsekWh"},
+                 {ui->labelPulsekW4, "pulsekWh"},
+                 {ui->labelODUFunctionMaster, "ODUFunctionMaster"},
+                 {ui->radioOduMaster, "Master"},
+                 {ui->radioOduSlave, "Slave"},
+                 {ui->labelSilentMode, "SilentModePriority"},
+                 {ui->radioSilentODU, "ODU"},
+                 {ui->radioSilentRemote, "RemoteController"},
+                 {ui->labelAdditionalAir, "RemoteAirTempSensor"},
+                 {ui->radioAdditionalAirNotUse, "NotUse"},
+                 {ui->radioAdditionalAirUse, "Use"},
+                 {ui->labelAtifreeze, "AntifreezingSolution"},
+                 {ui->radioAntifreezeNotuse, "NotUse"},
+                 {ui->radioAntifreezeUse, "Use"},
+                 {ui->labelDWHGuide, "DipSwitchGuide"}});
+}
+
+void DipSwitchSettingStatus::changeImage(const QString &product)
+{
+    const QString refrigerant = product.toUpper();
+    if (refrigerant == QLatin1String("R32") || refrigerant == QLatin1String("R410")) {
+        ui->labelPCB->setStyleSheet(
+            QStringLiteral("QLabel {   background-image: url(:/images/img_pcb_%1.png);}").arg(refrigerant));
+    }
+}

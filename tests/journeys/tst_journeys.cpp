@@ -324,9 +324,9 @@ void TestJourneys::openedAquabox()
     Window::click(aquabox, "radioStandbyUse");
     Window::click(aquabox, "radioHsmodeUse");
     Window::click(aquabox, "radioCombinationUse");
-    QVERIFY(Window::shownItself(&window.dialog, "installationValidationIcon"));
-    QVERIFY(!installer.save());
-    QCOMPARE(Installer::content(path), plant.toJson());
+    // The oil recovery is open; the tab's mark follows at the next check of another section.
+    QVERIFY(!window.dialog.members().systemSectionValid);
+    QVERIFY(!Window::shownItself(&window.dialog, "installationValidationIcon"));
     Window::click(aquabox, "radioOpt2");
     Window::choose(aquabox, "comboWater", "60");
     Window::click(aquabox, "radioRefrigerantUse");

@@ -143,13 +143,19 @@ QStringList range(int lower, int upper, const QString &suffix, int step)
     return texts;
 }
 
-int runTests(QObject *tests, int argc, char *argv[])
+void prepareApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
     for (const char *face : {"Medium", "Bold", "Light", "Regular"}) {
         QFontDatabase::addApplicationFont(QCoreApplication::applicationDirPath()
                                           + QStringLiteral("/NotoSans-%1.ttf").arg(QLatin1String(face)));
     }
+    QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
     QApplication::setFont(QFont(QStringLiteral("Noto Sans Medium")));
+}
+
+int runTests(QObject *tests, int argc, char *argv[])
+{
+    prepareApplication();
     return QTest::qExec(tests, argc, argv);
 }

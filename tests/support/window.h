@@ -111,6 +111,9 @@ public:
 /// The list lower..upper with a suffix, as texts.
 QStringList range(int lower, int upper, const QString &suffix, int step = 1);
 
+/// Gives the application the tool's name and fonts, which lie beside the program.
+void prepareApplication();
+
 /// A main() that sets the tool's fonts and attributes, keeps the log and runs the tests of a class.
 int runTests(QObject *tests, int argc, char *argv[]);
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+
+#include <functional>
+
+/// The water temperatures that seasonal auto mode starts from. Several pages put them back.
+namespace seasonal {
+
+using Save = std::function<void(const QString &path, const QJsonValue &value)>;
+
+/// °C whatever is displayed; the same for the water outlet and the main zone.
+struct WaterDefaults {
+    int coolMin;
+    int coolMax;
+    int heatMin;
+    int heatMax;
+};
+
+/// Saves the eight values below SettingInfo.installation.seasonalAutoOption: cooling, then heating.
+void saveWaterDefaults(const WaterDefaults &defaults, const Save &save);
+
+} // namespace seasonal

@@ -1,0 +1,360 @@
+#include "support/automode.h"
+
+using automode::join;
+using automode::limits;
+using automode::root;
+using automode::seasonalPlant;
+using automode::seasonalRoot;
+using automode::sensing;
+
+// The lists of the Auto mode section: their limits on the page, and how they narrow one another.
+class TestAutoLists : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { section = std::make_unique<automode::Section>(); }
+    void init() { messages::clear(); }
+    void cleanupTestCase() { section.reset(); }
+
+    void outdoorLists_data();
+    void outdoorLists();
+    void outdoorLimitsAreClampedAndWrittenBack_data();
+    void outdoorLimitsAreClampedAndWrittenBack();
+    void outdoorIndoorValuesAreNotClamped();
+    void limitsFollowTheFlags_data();
+    void limitsFollowTheFlags();
+    void unknownRefrigerantLeavesOneOutdoorItem();
+    void outdoorChainNarrows();
+    void mainZoneFollowsWhileOff();
+    void mainZoneBoundsWhileInUse();
+    void valueChangedRefreshesOnlyWhenAsked();
+    void unknownBoxesAndTypesChangeNothing();
+    void blankBoxCountsAsZeroUntilTheRefresh();
+    void tempValueNeedsTheExactText();
+
+private:
+    std::unique_ptr<automode::Section> section;
+};
+
+void TestAutoLists::outdoorLists_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<QString>("outdoor");
+    QTest::addColumn<QString>("water");
+    const QVariantMap entrance{{root + "heatWaterControlBasis", "ENTRANCE"}};
+    const QVariantMap heater{{"IduFuncList.is_installed_heater", "set"}};
+    const QVariantMap r410{{"IduFuncList.isR32", "CLR"}};
+    const QByteArray celsius("CENTIGRADE");
+    QTest::newRow("R32") << QVariantMap() << celsius << "10°C 35°C, -25°C 5°C"
+                         << "35°C 65°C, 20°C 34°C";
+    QTest::newRow("R32, written small")
+        << QVariantMap{{"IduFuncList.isR32", "set"}, {root + "heatWaterControlBasis", "exit"}} << celsius
+        << "10°C 35°C, -25°C 5°C"
+        << "35°C 65°C, 20°C 34°C";
+    QTest::newRow("R32, entrance") << entrance << celsius << "10°C 35°C, -25°C 5°C"
+                                   << "35°C 55°C, 20°C 34°C";
+    QTest::newRow("R32, heater") << heater << celsius << "10°C 35°C, -25°C 5°C"
+                                 << "35°C 65°C, 15°C 34°C";
+    QTest::newRow("R410") << r410 << celsius << "10°C 20°C, -20°C 5°C"
+                          << "35°C 57°C, 20°C 34°C";
+    QTest::newRow("R410, entrance, heater")
+        << join({r410, entrance, heater}) << celsius << "10°C 20°C, -20°C 5°C"
+        << "35°C 50°C, 15°C 34°C";
+    QTest::newRow("R32, °F") << QVariantMap() << QByteArray("FAHRENHEIT") << "50°F 94°F, -12°F 40°F"
+                             << "94°F 148°F, 68°F 94°F";
+}
+
+void TestAutoLists::outdoorLists()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(QByteArray, unit);
+    QFETCH(QString, outdoor);
+    QFETCH(QString, water);
+    section->load(values, "R32", unit);
+    QCOMPARE(section->ends("comboOutdoorOutdoorMax") + ", " + section->ends("comboOutdoorOutdoorMin"),
+             outdoor);
+    QCOMPARE(section->ends("comboOutdoorWaterMax") + ", " + section->ends("comboOutdoorWaterMin"), water);
+    const bool fahrenheit = unit == "FAHRENHEIT";
+    QCOMPARE(section->items("comboOutdoorIndoorMax"),
+             fahrenheit ? range(68, 86, "°F", 2) : range(20, 30, "°C"));
+    QCOMPARE(section->items("comboOutdoorIndoorMin"),
+             fahrenheit ? range(60, 66, "°F", 2) : range(16, 19, "°C"));
+}
+
+void TestAutoLists::outdoorLimitsAreClampedAndWrittenBack_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<QVariantMap>("flags");
+    QTest::addColumn<int>("clamped");
+    const QVariantMap heater{{"IduFuncList.is_installed_heater", "SET"}};
+    const QVariantMap r410{{"IduFuncList.isR32", "CLR"}};
+    const auto row = [](const char *box, const char *path, int stored, const QVariantMap &flags,
+                        int clamped) {
+        QTest::newRow(qPrintable(QString("%1 %2 to %3").arg(box).arg(stored).arg(clamped)))
+            << QString("comboOutdoor") + box << root + path << stored << flags << clamped;
+    };
+    row("OutdoorMax", "autoOp_outtemp.max", 9, {}, 10);
+    row("OutdoorMax", "autoOp_outtemp.max", 36, {}, 35);
+    row("OutdoorMax", "autoOp_outtemp.max", 21, r410, 20);
+    row("OutdoorMin", "autoOp_outtemp.min", -26, {}, -25);
+    row("OutdoorMin", "autoOp_outtemp.min", 6, {}, 5);
+    row("OutdoorMin", "autoOp_outtemp.min", -21, r410, -20);
+    row("WaterMax", "autoOp_tempwater.high_limit", 34, {}, 35);
+    row("WaterMax", "autoOp_tempwater.high_limit", 66, {}, 65);
+    row("WaterMax", "autoOp_tempwater.high_limit", 58, r410, 57);
+    row("WaterMin", "autoOp_tempwater.low_limit", 19, {}, 20);
+    row("WaterMin", "autoOp_tempwater.low_limit", 14, heater, 15);
+    row("WaterMin", "autoOp_tempwater.low_limit", 35, {}, 34);
+    row("WaterMin", "autoOp_tempwater.low_limit", 34, {}, 34);
+}
+
+void TestAutoLists::outdoorLimitsAreClampedAndWrittenBack()
+{
+    QFETCH(QString, box);
+    QFETCH(QString, path);
+    QFETCH(int, stored);
+    QFETCH(QVariantMap, flags);
+    QFETCH(int, clamped);
+    section->load({});
+    const QVariantMap inside{{root + "autoOp_tempwater.low_limit", 30},
+                             {root + "autoOp_tempwater.high_limit", 40}};
+    section->window.use(documents::with(documents::standard("R32"), join({inside, flags, {{path, stored}}})));
+    const QVariantMap written = stored == clamped ? QVariantMap() : QVariantMap{{path, clamped}};
+    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), written);
+    QCOMPARE(section->shown(qPrintable(box)), QString("%1°C").arg(clamped));
+}
+
+void TestAutoLists::outdoorIndoorValuesAreNotClamped()
+{
+    section->load({});
+    section->window.use(
+        documents::with(section->window.dialog.document(),
+                        {{root + "autoOp_tempair.max", 40}, {root + "autoOp_tempair.min", -1}}));
+    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), QVariantMap());
+    QCOMPARE(section->shown("comboOutdoorIndoorMax"), QString("30°C"));
+    QCOMPARE(section->shown("comboOutdoorIndoorMin"), QString("16°C"));
+    QVERIFY(messages::contain("# Error index setting"));
+}
+
+void TestAutoLists::limitsFollowTheFlags_data()
+{
+    QTest::addColumn<QVariantMap>("flags");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<QString>("outdoor");
+    QTest::addColumn<QString>("heatingWater");
+    QTest::addColumn<QString>("coolingWater");
+    QTest::addColumn<QString>("coolingIndoor");
+    const auto row = [](const char *name, const QVariantMap &flags, const char *outdoor,
+                        const char *heatingWater, const char *coolingWater, const char *coolingIndoor,
+                        const char *unit = "CENTIGRADE") {
+        QTest::newRow(name) << flags << QByteArray(unit) << QString(outdoor) << QString(heatingWater)
+                            << QString(coolingWater) << QString(coolingIndoor);
+    };
+    const QVariantMap expand{{"IduFuncList.isR32", "CLR"}, {"IduFuncList.isR410CoolExpand", "set"}};
+    const QVariantMap fan{{root + "UFH_stop.FCU_disable", "CLR"}};
+    const QVariantMap min6{{"IduFuncList.isCoolTempMin5", "CLR"}};
+    const QVariantMap heatIn{{root + "heatWaterControlBasis", "entrance"}};
+    const QVariantMap coolIn{{root + "coolWaterControlBasis", "entrance"}};
+    const QVariantMap noHeatBasis{{"IduFuncList.is_heatwatercontrolbasis", "CLR"}};
+    const QVariantMap noCoolBasis{{"IduFuncList.is_coolwatercontrolbasis", "CLR"}};
+    row("R32", {}, "-25 46", "20 65", "16 27", "16 30");
+    row("R410, expand", expand, "-15 43", "20 57", "16 27", "16 30");
+    row("no 16 °C", {{"IduFuncList.isCoolAir16", "CLR"}}, "-25 46", "20 65", "16 27", "18 30");
+    row("heater", {{"IduFuncList.is_installed_heater", "Set"}}, "-25 46", "15 65", "16 27", "16 30");
+    row("heating entrance", heatIn, "-25 46", "20 55", "16 27", "16 30");
+    row("heating entrance, expand", join({heatIn, expand}), "-15 43", "20 50", "16 27", "16 30");
+    row("heating entrance that can't be chosen", join({heatIn, noHeatBasis}), "-25 46", "20 65", "16 27",
+        "16 30");
+    row("cooling entrance", coolIn, "-25 46", "20 65", "20 27", "16 30");
+    row("cooling entrance that can't be chosen", join({coolIn, noCoolBasis}), "-25 46", "20 65", "16 27",
+        "16 30");
+    row("no fan coil rule", fan, "-25 46", "20 65", "5 27", "16 30");
+    row("no fan coil rule, 6 °C", join({fan, min6}), "-25 46", "20 65", "6 27", "16 30");
+    row("no fan coil rule, cooling entrance", join({fan, coolIn}), "-25 46", "20 65", "10 27", "16 30");
+    row("no fan coil rule, cooling entrance, 6 °C", join({fan, coolIn, min6}), "-25 46", "20 65", "11 27",
+        "16 30");
+    row("R32, °F", {}, "-12 114", "68 148", "60 80", "60 86", "FAHRENHEIT");
+    row("R410, expand, °F", join({expand, heatIn, fan}), "4 110", "68 122", "40 80", "60 86", "FAHRENHEIT");
+}
+
+void TestAutoLists::limitsFollowTheFlags()
+{
+    QFETCH(QVariantMap, flags);
+    QFETCH(QByteArray, unit);
+    QFETCH(QString, outdoor);
+    QFETCH(QString, heatingWater);
+    QFETCH(QString, coolingWater);
+    QFETCH(QString, coolingIndoor);
+    const QVariantMap room = join({limits("coolWaterTemp", 21, 22), limits("coolWaterTempMainZone", 23, 24)});
+    const auto span = [this, unit](const char *low, const char *high) {
+        QString texts = section->items(low).first() + ' ' + section->items(high).last();
+        return texts.remove(unit == "FAHRENHEIT" ? "°F" : "°C");
+    };
+    section->load(join({seasonalPlant("CLR"), room, flags}), "R32", unit);
+    QCOMPARE(span("comboHeatingOutdoorMin", "comboCoolingOutdoorMax"), outdoor);
+    QCOMPARE(span("comboHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
+    QCOMPARE(span("comboCoolingWaterMin", "comboCoolingWaterMax"), coolingWater);
+    QCOMPARE(span("comboCoolingIndoorMin", "comboCoolingIndoorMax"), coolingIndoor);
+    QCOMPARE(span("comboHeatingIndoorMin", "comboHeatingIndoorMax"),
+             unit == "FAHRENHEIT" ? QString("60 86") : QString("16 30"));
+    section->load(join({seasonalPlant("SET"), room, flags}), "R32", unit);
+    QCOMPARE(span("comboMainZoneHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
+    QCOMPARE(span("comboCoolingWaterMin", "comboMainZoneWaterMax"), coolingWater);
+    QCOMPARE(span("comboCoolingIndoorMin", "comboMainZoneIndoorMax"), coolingIndoor);
+}
+
+void TestAutoLists::unknownRefrigerantLeavesOneOutdoorItem()
+{
+    section->load(seasonalPlant("SET"));
+    const QStringList water = section->items("comboCoolingWaterMax");
+    messages::clear();
+    section->window.use(documents::with(section->window.dialog.document(), {{"IduFuncList.isR32", "CLR"}}));
+    section->page->refresh();
+    for (const char *box : {"comboHeatingOutdoorMin", "comboHeatingOutdoorMax", "comboCoolingOutdoorMin",
+                            "comboCoolingOutdoorMax"}) {
+        QVERIFY2(section->items(box) == QStringList{"0°C"}, box);
+    }
+    // Cooling water starts above its end: refused, and the list stays.
+    QVERIFY(messages::contain(
+        "MainDialog::setRangeValueInComboBox ComboBox: \"comboCoolingWaterMax\" lower: 16"));
+    QCOMPARE(section->items("comboCoolingWaterMax"), water);
+    QCOMPARE(section->ends("comboMainZoneHeatingWaterMin") + ", " + section->ends("comboHeatingWaterMax"),
+             QString("20°C 30°C, 40°C 57°C"));
+}
+
+void TestAutoLists::outdoorChainNarrows()
+{
+    section->load(seasonalPlant("CLR"));
+    QCOMPARE(section->items("comboHeatingOutdoorMin"), range(-25, 15, "°C"));
+    QCOMPARE(section->items("comboHeatingOutdoorMax"), range(-9, 25, "°C"));
+    QCOMPARE(section->items("comboCoolingOutdoorMin"), range(21, 39, "°C"));
+    QCOMPARE(section->items("comboCoolingOutdoorMax"), range(31, 46, "°C"));
+    Window::choose(section->page, "comboCoolingOutdoorMin", "29°C");
+    QCOMPARE(section->items("comboHeatingOutdoorMax"), range(-9, 24, "°C"));
+    QCOMPARE(section->items("comboCoolingOutdoorMax"), range(30, 46, "°C"));
+    Window::choose(section->page, "comboCoolingOutdoorMax", "31°C");
+    QCOMPARE(section->items("comboCoolingOutdoorMin"), range(21, 30, "°C"));
+    Window::choose(section->page, "comboHeatingOutdoorMax", "24°C");
+    QCOMPARE(section->items("comboCoolingOutdoorMin"), range(29, 30, "°C"));
+    QCOMPARE(section->items("comboHeatingOutdoorMin"), range(-25, 23, "°C"));
+    Window::choose(section->page, "comboHeatingOutdoorMin", "0°C");
+    QCOMPARE(section->items("comboHeatingOutdoorMax"), range(1, 24, "°C"));
+}
+
+void TestAutoLists::mainZoneFollowsWhileOff()
+{
+    section->load({{"IduFuncList.isSeasonalAuto", "SET"}});
+    QCOMPARE(
+        section->window.changes([this] { Window::choose(section->page, "comboHeatingWaterMax", "40°C"); }),
+        (QVariantMap{{seasonalRoot + "heatWaterTemp.max", 40},
+                     {seasonalRoot + "heatWaterTempMainZone.max", 40}}));
+    QCOMPARE(section->shown("comboMainZoneHeatingWaterMax"), QString("40°C"));
+    QCOMPARE(section->items("comboHeatingWaterMax"), range(28, 65, "°C"));
+    // Its own step bounds the follower by its partner.
+    QCOMPARE(section->items("comboMainZoneHeatingWaterMax"), range(28, 40, "°C"));
+
+    // A load shows the leader's value in both, and leaves the document alone.
+    section->window.use(
+        documents::with(section->window.dialog.document(), limits("heatWaterTempMainZone", 22, 30)));
+    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), QVariantMap());
+    QCOMPARE(section->shown("comboMainZoneHeatingWaterMax"), QString("40°C"));
+    QCOMPARE(section->shown("comboMainZoneHeatingWaterMin"), QString("28°C"));
+}
+
+void TestAutoLists::mainZoneBoundsWhileInUse()
+{
+    section->load(seasonalPlant("SET"));
+    for (const char *kind : {"Water", "Indoor"}) {
+        const auto list = [this, kind](const char *pattern) {
+            QString texts = section->ends(qPrintable(QString(pattern).arg(kind)));
+            return texts.remove("°C");
+        };
+        const bool water = qstrcmp(kind, "Water") == 0;
+        QCOMPARE(list("comboHeating%1Max"), QString(water ? "40 65" : "26 30"));
+        QCOMPARE(list("comboHeating%1Min"), QString(water ? "25 45" : "20 29"));
+        QCOMPARE(list("comboMainZoneHeating%1Max"), QString(water ? "25 45" : "20 29"));
+        QCOMPARE(list("comboMainZoneHeating%1Min"), QString(water ? "20 30" : "16 24"));
+        QCOMPARE(list("comboCooling%1Max"), QString(water ? "16 24" : "18 26"));
+        QCOMPARE(list("comboCooling%1Min"), QString(water ? "16 18" : "16 20"));
+        QCOMPARE(list("comboMainZone%1Max"), QString(water ? "20 27" : "22 30"));
+        QCOMPARE(list("comboMainZone%1Min"), QString(water ? "16 24" : "18 26"));
+    }
+    Window::choose(section->page, "comboMainZoneHeatingWaterMax", "44°C");
+    QCOMPARE(section->ends("comboHeatingWaterMax"), QString("44°C 65°C"));
+    Window::choose(section->page, "comboHeatingWaterMax", "44°C");
+    QCOMPARE(section->ends("comboMainZoneHeatingWaterMax"), QString("25°C 44°C"));
+    QCOMPARE(section->shown("comboMainZoneHeatingWaterMax"), QString("44°C"));
+}
+
+void TestAutoLists::valueChangedRefreshesOnlyWhenAsked()
+{
+    section->load(seasonalPlant("SET"));
+    const QStringList before = section->items("comboHeatingWaterMin");
+    section->valueChanged(5, 42, false);
+    QCOMPARE(section->shown("comboHeatingWaterMax"), QString("42°C"));
+    QCOMPARE(section->items("comboHeatingWaterMin"), before);
+    section->valueChanged(5, 43, true);
+    QCOMPARE(section->items("comboHeatingWaterMin"), range(25, 43, "°C"));
+    // Left out, the last argument is false.
+    QMetaObject::invokeMethod(section->page, "valueChanged", Q_ARG(int, 5), Q_ARG(int, 44));
+    QCOMPARE(section->items("comboHeatingWaterMin"), range(25, 43, "°C"));
+    QCOMPARE(section->window.changes([this] { section->valueChanged(13, 28, true); }), QVariantMap());
+}
+
+void TestAutoLists::unknownBoxesAndTypesChangeNothing()
+{
+    section->load(seasonalPlant("SET"));
+    Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->blockSignals(true);
+    Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->setCurrentText("42°C");
+    Window::find<QComboBox>(section->page, "comboHeatingWaterMax")->blockSignals(false);
+    const QStringList lists = section->allLists();
+    for (const int modelName : {-1, 0, 21}) {
+        section->valueChanged(modelName, 42, true);
+    }
+    for (const int type : {0, 1, 3, 4}) {
+        section->refreshTempRange(type);
+    }
+    QCOMPARE(section->allLists(), lists);
+    section->refreshTempRange(2);
+    QCOMPARE(section->items("comboHeatingWaterMin"), range(25, 42, "°C"));
+}
+
+void TestAutoLists::blankBoxCountsAsZeroUntilTheRefresh()
+{
+    section->load(seasonalPlant("SET"));
+    const QJsonDocument before = section->window.dialog.document();
+    section->valueChanged(2, 99, false);
+    QCOMPARE(section->shown("comboHeatingOutdoorMax"), QString());
+    section->refreshTempRange(1);
+    QCOMPARE(section->items("comboHeatingOutdoorMin"), range(-25, -1, "°C"));
+    QCOMPARE(section->items("comboCoolingOutdoorMin"), range(10, 39, "°C"));
+    // -10 to 25 holds 0, so the next step fills the box.
+    QCOMPARE(section->shown("comboHeatingOutdoorMax"), QString("0°C"));
+    section->page->refresh();
+    QCOMPARE(section->shown("comboHeatingOutdoorMax"), QString("16°C"));
+    QCOMPARE(section->window.dialog.document(), before);
+}
+
+void TestAutoLists::tempValueNeedsTheExactText()
+{
+    section->load(seasonalPlant("SET"), "R32", "FAHRENHEIT");
+    auto *combo = Window::find<QComboBox>(section->page, "comboHeatingWaterMax");
+    const auto set = [this, combo](int value) {
+        QMetaObject::invokeMethod(section->page, "setTempValue", Q_ARG(QComboBox *, combo),
+                                  Q_ARG(int, value));
+        return combo->currentText();
+    };
+    QCOMPARE(section->window.changes([&] { QCOMPARE(set(122), QString("122°F")); }), QVariantMap());
+    QCOMPARE(set(50), QString());
+    QCOMPARE(combo->currentIndex(), -1);
+    section->window.dialog.setTempUnit("x");
+    section->page->refresh();
+    QCOMPARE(set(50), QString("50°C"));
+}
+
+CALORA_TEST_MAIN(TestAutoLists)
+#include "tst_autolists.moc"

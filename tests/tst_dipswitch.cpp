@@ -1,0 +1,400 @@
+#include "support/dipswitchtest.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+
+// Step 2: texts, looks and the check of the page.
+class TestDipSwitch : public DipSwitchTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { open(); }
+    void init()
+    {
+        messages::clear();
+        window->speak();
+    }
+    void cleanupTestCase() { close(); }
+
+    void slotsAreDeclaredInOrder();
+    void startsWithFormTexts_data();
+    void startsWithFormTexts();
+    void startsOffAndUnchecked();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void languageKeepsChoicesAndDocument();
+    void styleTexts();
+    void showsTheBoardOfTheRefrigerant();
+    void refrigerantClickShowsTheBoard();
+    void fitsTheSmallestWindow();
+    void switchesCantBeOperated();
+    void stopsAtTheFirstMissingChoice_data();
+    void stopsAtTheFirstMissingChoice();
+    void emptyPulsesFail_data();
+    void emptyPulsesFail();
+    void hiddenTankRadioPasses();
+    void readsAndWritesByPath();
+};
+
+void TestDipSwitch::slotsAreDeclaredInOrder()
+{
+    QCOMPARE(Window::ownSignals(page), QStringList());
+    QCOMPARE(Window::ownSlots(page),
+             (QStringList{"initUi()",
+                          "saveJsonData(QString,QJsonValue)",
+                          "parseJsonData(QString)",
+                          "loadJsonData()",
+                          "enableSolarThermalKit()",
+                          "enableOrvoMeterSubCategory()",
+                          "enableOduFunctionMaster()",
+                          "enableOduFunctionMasterSubCategory()",
+                          "changeImage(QString)",
+                          "setDipSwitchButton(bool)",
+                          "setRadioTextOpacity(bool)",
+                          "setOpacity(bool)",
+                          "setPowerHotWater()",
+                          "setElectricHeater(QString,QString)",
+                          "setOrvoSubCategory()",
+                          "initSeasonalAutoRange()",
+                          "validationCheck()",
+                          "changeLanguage()",
+                          "on_radioDhwNotUse_clicked()",
+                          "on_radioDhwUse_clicked()",
+                          "on_radioDhwOnly_clicked()",
+                          "on_radioSolarThermalKitNotuse_clicked()",
+                          "on_radioSolarThermalKitUse_clicked()",
+                          "on_radioOperationHeating_clicked()",
+                          "on_radioOperationBoth_clicked()",
+                          "on_radioFlowAlways_clicked()",
+                          "on_radioFlowOnlyPump_clicked()",
+                          "on_radioElectricHeaterNotuse_clicked()",
+                          "on_radioElectricHeater1_clicked()",
+                          "on_radioElectricHeaterBoth_clicked()",
+                          "on_radioThermostatNone_clicked()",
+                          "on_radioThermostatUse_clicked()",
+                          "on_radioOrvometerInterfaceNotuse_clicked()",
+                          "on_radioOrvoAddressB0_clicked()",
+                          "on_radioOrvoAddressB1_clicked()",
+                          "on_lineEditWHM1_textEdited(QString)",
+                          "on_lineEditWHM2_textEdited(QString)",
+                          "on_lineEditWHM3_textEdited(QString)",
+                          "on_lineEditWHM4_textEdited(QString)",
+                          "on_radioOduMaster_clicked()",
+                          "on_radioOduSlave_clicked()",
+                          "on_radioSilentODU_clicked()",
+                          "on_radioSilentRemote_clicked()",
+                          "on_radioAdditionalAirNotUse_clicked()",
+                          "on_radioAdditionalAirUse_clicked()",
+                          "on_radioAntifreezeNotuse_clicked()",
+                          "on_radioAntifreezeUse_clicked()"}));
+}
+
+void TestDipSwitch::startsWithFormTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelDWH") << "Domestic Hot Water\nTank";
+    QTest::newRow("radioDhwNotUse") << "Not use";
+    QTest::newRow("radioDhwUse") << "Use";
+    QTest::newRow("radioDhwOnly") << "DHW Only";
+    QTest::newRow("labelSolar") << "Solar Thermal Kit";
+    QTest::newRow("labelOperation") << "Operation Mode";
+    QTest::newRow("radioOperationHeating") << "Heating Only";
+    QTest::newRow("radioOperationBoth") << "Heating And Cooling";
+    QTest::newRow("labelFlowSwitch") << "Flow Switch Detection";
+    QTest::newRow("radioFlowAlways") << "Always";
+    QTest::newRow("radioFlowOnlyPump") << "On Status Only";
+    QTest::newRow("labelElectric") << "Electric Heater";
+    QTest::newRow("radioElectricHeater1") << "Step1";
+    QTest::newRow("radioElectricHeaterBoth") << "Step2";
+    QTest::newRow("labelThermostat") << "3rd Party Thermostat";
+    QTest::newRow("labelOrvometerInterface") << "Orvo Meter Interface";
+    QTest::newRow("labelOrvoAddress") << "Address";
+    QTest::newRow("radioOrvoAddressB0") << "B0";
+    QTest::newRow("radioOrvoAddressB1") << "B1";
+    QTest::newRow("labelOrvoWHM1") << "Pulse Spec.(WHM1) :";
+    QTest::newRow("labelOrvoWHM2") << "Pulse Spec.(WHM2) :";
+    QTest::newRow("labelOrvoWHM3") << "Pulse Spec.(WHM3) :";
+    QTest::newRow("labelOrvoWHM4") << "Pulse Spec.(Heat Meter) :";
+    QTest::newRow("labelPulsekW1") << "pulse / kWh";
+    QTest::newRow("labelODUFunctionMaster") << "ODU Function Master";
+    QTest::newRow("radioOduMaster") << "Master";
+    QTest::newRow("radioOduSlave") << "Slave";
+    QTest::newRow("labelSilentMode") << "Silent Mode Priority";
+    QTest::newRow("radioSilentODU") << "ODU";
+    QTest::newRow("radioSilentRemote") << "Remote Controller";
+    QTest::newRow("labelAdditionalAir") << "Remote Air Temperature Sensor";
+    QTest::newRow("labelAtifreeze") << "Anti-freezing \nSolution";
+    QTest::newRow("labelDhwSpacing") << "";
+    QTest::newRow("labelSW2") << "A : 8 Pin Switch (SW2)";
+    QTest::newRow("labelSW1") << "B : 4 Pin Switch (SW1)";
+    QTest::newRow("labelSW3") << "C : 4 Pin Switch (SW3)";
+}
+
+void TestDipSwitch::startsWithFormTexts()
+{
+    QFETCH(QString, text);
+    const DipSwitchSettingStatus fresh;
+    QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
+}
+
+void TestDipSwitch::startsOffAndUnchecked()
+{
+    const DipSwitchSettingStatus fresh;
+    for (const QRadioButton *radio : fresh.findChildren<QRadioButton *>()) {
+        QVERIFY(radio->autoExclusive());
+        QCOMPARE(radio->isChecked(), radio->objectName() == "radioFlowAlways");
+    }
+    QCOMPARE(bank(&fresh, 1) + bank(&fresh, 2) + bank(&fresh, 3), QStringLiteral("0000000000000000"));
+    QVERIFY(style("labelPCB").isEmpty());
+    const QValidator *validator = Window::find<QLineEdit>(&fresh, "lineEditWHM1")->validator();
+    QVERIFY(validator != nullptr);
+    QCOMPARE(validator->parent(), &fresh);
+    for (const char *name : {"lineEditWHM2", "lineEditWHM3", "lineEditWHM4"}) {
+        QCOMPARE(Window::find<QLineEdit>(&fresh, name)->validator(), validator);
+    }
+    for (const char *name : {"frameSw1", "frameSw2", "frameSw3"}) {
+        QVERIFY(Window::find(&fresh, name)->styleSheet().contains("rgb(214, 214, 214)"));
+    }
+}
+
+void TestDipSwitch::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelDWH") << "Domestic hot water\ntank";
+    QTest::newRow("radioDhwNotUse") << "Not use";
+    QTest::newRow("radioDhwUse") << "Use";
+    QTest::newRow("radioDhwOnly") << "DHW only";
+    QTest::newRow("labelSolar") << "Solar thermal kit";
+    QTest::newRow("radioSolarThermalKitNotuse") << "Not use";
+    QTest::newRow("radioSolarThermalKitUse") << "Use";
+    QTest::newRow("labelOperation") << "Operation mode";
+    QTest::newRow("radioOperationHeating") << "Heating only";
+    QTest::newRow("radioOperationBoth") << "Heating and Cooling";
+    QTest::newRow("labelFlowSwitch") << "Flow switch detection";
+    QTest::newRow("radioFlowAlways") << "Always";
+    QTest::newRow("radioFlowOnlyPump") << "While water pump is on";
+    QTest::newRow("labelElectric") << "Back-up heater";
+    QTest::newRow("radioElectricHeaterNotuse") << "Disable";
+    QTest::newRow("radioElectricHeater1") << "Enable step 1";
+    QTest::newRow("radioElectricHeaterBoth") << "Enable step 1 and 2";
+    QTest::newRow("labelThermostat") << "Thermostat";
+    QTest::newRow("radioThermostatNone") << "Not use";
+    QTest::newRow("radioThermostatUse") << "Use";
+    QTest::newRow("labelOrvometerInterface") << "Meter interface";
+    QTest::newRow("labelOrvoAddress") << "Modbus address";
+    QTest::newRow("radioOrvometerInterfaceNotuse") << "Not use";
+    QTest::newRow("radioOrvoAddressB0") << "B0";
+    QTest::newRow("radioOrvoAddressB1") << "B1";
+    QTest::newRow("labelOrvoWHM1") << "Pulse spec.(WHM1)";
+    QTest::newRow("labelOrvoWHM2") << "Pulse spec.(WHM2)";
+    QTest::newRow("labelOrvoWHM3") << "Pulse spec.(WHM3)";
+    QTest::newRow("labelOrvoWHM4") << "Pulse spec.(Heat meter)";
+    QTest::newRow("labelPulsekW1") << "Pulse / kWh";
+    QTest::newRow("labelPulsekW2") << "Pulse / kWh";
+    QTest::newRow("labelPulsekW3") << "Pulse / kWh";
+    QTest::newRow("labelPulsekW4") << "Pulse / kWh";
+    QTest::newRow("labelODUFunctionMaster") << "ODU function master";
+    QTest::newRow("radioOduMaster") << "Master";
+    QTest::newRow("radioOduSlave") << "Slave";
+    QTest::newRow("labelSilentMode") << "Silent mode priority";
+    QTest::newRow("radioSilentODU") << "ODU";
+    QTest::newRow("radioSilentRemote") << "Remote controller";
+    QTest::newRow("labelAdditionalAir") << "Remote air\ntemperature sensor";
+    QTest::newRow("radioAdditionalAirNotUse") << "Not use";
+    QTest::newRow("radioAdditionalAirUse") << "Use";
+    QTest::newRow("labelAtifreeze") << "Anti-freezing function";
+    QTest::newRow("radioAntifreezeNotuse") << "Not use";
+    QTest::newRow("radioAntifreezeUse") << "Use";
+    QTest::newRow("labelDWHGuide") << "Dip switch guide";
+}
+
+void TestDipSwitch::textsFollowTheLanguage()
+{
+    QFETCH(QString, text);
+    const QWidget *widget = Window::find(page, QTest::currentDataTag());
+    QCOMPARE(widget->property("text").toString(), text);
+    window->speak("~");
+    QCOMPARE(widget->property("text").toString(), text + "~");
+}
+
+void TestDipSwitch::languageKeepsChoicesAndDocument()
+{
+    load(joined(everything(), flags("is_hotwater SET is_sun SET is_heater1 SET")));
+    const QJsonDocument before = window->dialog.document();
+    const QString positions = bank(1) + bank(2) + bank(3);
+    const auto choices = [this] {
+        QStringList names;
+        for (const QRadioButton *radio : page->findChildren<QRadioButton *>()) {
+            if (radio->isChecked()) {
+                names.append(radio->objectName());
+            }
+        }
+        return names;
+    };
+    const QStringList chosen = choices();
+    window->speak("~");
+    QCOMPARE(window->dialog.document(), before);
+    QCOMPARE(bank(1) + bank(2) + bank(3), positions);
+    QCOMPARE(choices(), chosen);
+    QCOMPARE(Window::find<QLabel>(page, "labelSW1")->text(), QStringLiteral("B : 4 Pin Switch (SW1)"));
+    QCOMPARE(Window::find<QLabel>(page, "labelSW2")->text(), QStringLiteral("A : 8 Pin Switch (SW2)"));
+    QCOMPARE(Window::find<QLabel>(page, "labelSW3")->text(), QStringLiteral("C : 4 Pin Switch (SW3)"));
+}
+
+void TestDipSwitch::styleTexts()
+{
+    QCOMPARE(call("setDipSwitchButton", true), switchStyle(true));
+    QCOMPARE(call("setDipSwitchButton", false), switchStyle(false));
+    QCOMPARE(call("setRadioTextOpacity", true), radioEnabled);
+    QCOMPARE(call("setRadioTextOpacity", false), radioDimmed);
+    QCOMPARE(call("setOpacity", true), labelEnabled);
+    QCOMPARE(call("setOpacity", false), labelDimmed);
+}
+
+void TestDipSwitch::showsTheBoardOfTheRefrigerant()
+{
+    const auto show = [this](const QString &refrigerant) {
+        QMetaObject::invokeMethod(page, "changeImage", Q_ARG(QString, refrigerant));
+        return style("labelPCB");
+    };
+    const auto board = [](const char *name) {
+        return QStringLiteral("QLabel {   background-image: url(:/images/img_pcb_%1.png);}")
+            .arg(QLatin1String(name));
+    };
+    QCOMPARE(show("R32"), board("R32"));
+    QCOMPARE(show("r410"), board("R410"));
+    QCOMPARE(show("R134"), board("R410"));
+    QCOMPARE(show("r32"), board("R32"));
+    QCOMPARE(show(QString()), board("R32"));
+    QCOMPARE(Window::find(page, "labelPCB")->size(), QSize(420, 300));
+}
+
+void TestDipSwitch::refrigerantClickShowsTheBoard()
+{
+    Window::click(&window->dialog, "newButton");
+    Window::click(&window->dialog, "radioButtonR410");
+    QVERIFY(style("labelPCB").contains("img_pcb_R410.png"));
+    Window::click(&window->dialog, "radioButtonR32");
+    QVERIFY(style("labelPCB").contains("img_pcb_R32.png"));
+}
+
+void TestDipSwitch::fitsTheSmallestWindow()
+{
+    window->dialog.setSideBarVisible(true);
+    window->dialog.resize(974, 612);
+    load(everything());
+    QTRY_COMPARE(window->dialog.size(), QSize(974, 612));
+    const auto *area = Window::find<QScrollArea>(&window->dialog, "dipswitchSettingScrollArea");
+    QTRY_COMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(area->verticalScrollBar()->maximum() > 0);
+}
+
+void TestDipSwitch::switchesCantBeOperated()
+{
+    load(everything());
+    const QVariantMap changes = window->changes([this] {
+        for (QPushButton *button : page->findChildren<QPushButton *>()) {
+            Window::click(button);
+        }
+    });
+    QCOMPARE(changes, QVariantMap());
+    QCOMPARE(page->findChildren<QPushButton *>().size(), 16);
+    QCOMPARE(bank(1) + bank(2) + bank(3), QStringLiteral("0000000000000000"));
+}
+
+void TestDipSwitch::stopsAtTheFirstMissingChoice_data()
+{
+    QTest::addColumn<QString>("radios");
+    QTest::newRow("1") << "radioDhwUse radioDhwOnly radioDhwNotUse";
+    QTest::newRow("2") << "radioSolarThermalKitNotuse radioSolarThermalKitUse";
+    QTest::newRow("3") << "radioOperationHeating radioOperationBoth";
+    QTest::newRow("4") << "radioFlowAlways radioFlowOnlyPump";
+    QTest::newRow("5") << "radioAdditionalAirNotUse radioAdditionalAirUse";
+    QTest::newRow("6") << "radioElectricHeater1 radioElectricHeaterBoth radioElectricHeaterNotuse";
+    QTest::newRow("7") << "radioAntifreezeNotuse radioAntifreezeUse";
+    QTest::newRow("8") << "radioThermostatNone radioThermostatUse";
+    QTest::newRow("9") << "radioOduMaster radioOduSlave";
+    QTest::newRow("10") << "radioSilentODU radioSilentRemote";
+}
+
+// Each row leaves its own choice and all that follow open; only the first is told.
+void TestDipSwitch::stopsAtTheFirstMissingChoice()
+{
+    QFETCH(QString, radios);
+    const QStringList groups{"radioDhwUse radioDhwOnly radioDhwNotUse",
+                             "radioSolarThermalKitNotuse radioSolarThermalKitUse",
+                             "radioOperationHeating radioOperationBoth",
+                             "radioFlowAlways radioFlowOnlyPump",
+                             "radioAdditionalAirNotUse radioAdditionalAirUse",
+                             "radioElectricHeater1 radioElectricHeaterBoth radioElectricHeaterNotuse",
+                             "radioAntifreezeNotuse radioAntifreezeUse",
+                             "radioThermostatNone radioThermostatUse",
+                             "radioOduMaster radioOduSlave",
+                             "radioSilentODU radioSilentRemote"};
+    load(joined(everything(), flags("is_hotwater SET")));
+    QVERIFY(done());
+    for (int index = groups.indexOf(radios); index < groups.size(); ++index) {
+        uncheck(groups.at(index));
+    }
+    Window::find<QLineEdit>(page, "lineEditWHM1")->clear();
+    messages::clear();
+    Window::invoke(page, "validationCheck");
+    QVERIFY(!done());
+    QVERIFY(Window::shownItself(&window->dialog, "labelErrorDipSwitch"));
+    const QStringList names = radios.split(QLatin1Char(' '));
+    QCOMPARE(messages::all(),
+             QStringList{QStringLiteral(" MainDialog::checkValidationRadio Object Name: \"%1\" \"%2\" "
+                                        "validataion check: false")
+                             .arg(names.at(0), names.at(1))});
+}
+
+void TestDipSwitch::emptyPulsesFail_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    for (const char *field : {"lineEditWHM1", "lineEditWHM2", "lineEditWHM3", "lineEditWHM4"}) {
+        QTest::newRow(field) << QByteArray(field);
+    }
+}
+
+void TestDipSwitch::emptyPulsesFail()
+{
+    QFETCH(QByteArray, field);
+    load({{meter + "interfaceAdd", 176}});
+    QVERIFY(done());
+    auto *edit = Window::find<QLineEdit>(page, field);
+    Window::type(edit, QString());
+    QVERIFY(!done());
+    Window::type(edit, QStringLiteral("5"));
+    QVERIFY(done());
+}
+
+// The tank isn't asked for where DHW only, its second radio, is hidden.
+void TestDipSwitch::hiddenTankRadioPasses()
+{
+    load({});
+    uncheck("radioDhwUse radioDhwOnly radioDhwNotUse");
+    Window::invoke(page, "validationCheck");
+    QVERIFY(done());
+}
+
+void TestDipSwitch::readsAndWritesByPath()
+{
+    load({});
+    QJsonValue value;
+    QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
+                              Q_ARG(QString, meter + "interface1"));
+    QCOMPARE(value, QJsonValue(10000));
+    QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
+                              Q_ARG(QString, "IduFuncList.missing"));
+    QVERIFY(value.isNull());
+    const QVariantMap expected = flags("is_sun x");
+    QCOMPARE(window->changes([this] {
+        QMetaObject::invokeMethod(page, "saveJsonData", Q_ARG(QString, "IduFuncList.is_sun"),
+                                  Q_ARG(QJsonValue, "x"));
+    }),
+             expected);
+}
+
+CALORA_TEST_MAIN(TestDipSwitch)
+#include "tst_dipswitch.moc"

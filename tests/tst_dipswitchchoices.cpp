@@ -1,0 +1,282 @@
+#include "support/dipswitchtest.h"
+
+// Step 2: what each control of the page writes and changes.
+class TestDipSwitchChoices : public DipSwitchTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { open(); }
+    void init() { messages::clear(); }
+    void cleanupTestCase() { close(); }
+
+    void controlWrites_data();
+    void controlWrites();
+    void heaterBringsSeasonalDefaultsBack();
+    void pulsesAreTyped_data();
+    void pulsesAreTyped();
+    void noTankGreysSolarKit();
+    void solarKitLeavesPowerFlag();
+    void noMeterClearsTheAddress();
+    void masterOffersSilentMode();
+    void slaveIsForgotten();
+    void silentSubCategoryFollowsMaster();
+    void writesNothingBeforeShown();
+    void writesNothingWithoutDocument();
+};
+
+// Each row clicks its way there first, then puts other values at every path that the page can write.
+void TestDipSwitchChoices::controlWrites_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("banks");
+    QTest::addColumn<QVariantMap>("written");
+    const auto row = [](const char *control, const char *first, const char *banks,
+                        const QVariantMap &written) { QTest::newRow(control) << first << banks << written; };
+    const QString noHeater = QStringLiteral(
+        "is_heater1 CLR is_heater2 CLR is_installed_heater CLR is_comm_disinfection CLR "
+        "is_boosterht_onlyMode CLR isIndoorHotWaterKey CLR is_hotwater_by_disinfection CLR");
+    const QString heater = QStringLiteral("is_installed_heater SET is_comm_disinfection SET "
+                                          "isIndoorHotWaterKey SET is_hotwater_by_disinfection SET ");
+    const QString airTempLocation = QStringLiteral("SettingInfo.installation.sensorDefine.airTempLocation");
+
+    row("radioDhwNotUse", "radioDhwOnly", "00000000 0000",
+        flags("is_hotwater CLR is_sun CLR is_boosterht_onlyMode CLR is_timer_hotwater CLR "
+              "is_power_hotwater CLR"));
+    row("radioDhwUse", "radioDhwOnly", "00100000 0000",
+        flags("is_hotwater SET is_boosterht_onlyMode CLR is_timer_hotwater SET is_power_hotwater CLR"));
+    row("radioDhwOnly", "radioDhwUse", "01100000 0000",
+        flags("is_boosterht_onlyMode SET is_hotwater SET is_sun CLR is_power_hotwater SET"));
+    row("radioSolarThermalKitNotuse", "radioDhwUse radioSolarThermalKitUse", "00100000 0000",
+        flags("is_sun CLR"));
+    row("radioSolarThermalKitUse", "radioDhwUse", "01000000 0000", flags("is_sun SET"));
+    row("radioOperationHeating", "radioOperationBoth", "00000000 0000",
+        flags("is_autoOp SET is_heat SET is_cool CLR isSeasonalAuto CLR"));
+    row("radioOperationBoth", "radioOperationHeating", "00010000 0000",
+        flags("is_autoOp SET is_heat SET is_cool SET isSeasonalAuto SET"));
+    row("radioFlowAlways", "radioFlowOnlyPump", "00000000 0000", flags("is_flow_switch CLR"));
+    row("radioFlowOnlyPump", "radioFlowAlways", "00001000 0000", flags("is_flow_switch SET"));
+    row("radioElectricHeaterNotuse", "radioElectricHeaterBoth", "00000000 0000",
+        joined(flags(noHeater), seasonalDefaults()));
+    row("radioElectricHeater1", "radioElectricHeaterBoth", "00000100 0000",
+        joined(flags(heater + "is_heater1 SET is_heater2 CLR is_timer_hotwater SET"), seasonalDefaults()));
+    row("radioElectricHeaterBoth", "radioElectricHeaterNotuse", "00000110 0000",
+        joined(flags(heater + "is_heater1 CLR is_heater2 SET"), seasonalDefaults()));
+    row("radioThermostatNone", "radioThermostatUse", "00000000 0000", flags("is_ThermostatModeChange CLR"));
+    row("radioThermostatUse", "radioThermostatNone", "00000001 0000", flags("is_ThermostatModeChange SET"));
+    row("radioAdditionalAirNotUse", "radioAdditionalAirUse", "00000000 0000",
+        joined(flags("isIduAirTempSW CLR"), {{airTempLocation, "RMC"}}));
+    row("radioAdditionalAirUse", "radioAdditionalAirNotUse", "00000000 1000",
+        joined(flags("isIduAirTempSW SET"), {{airTempLocation, "RMC"}}));
+    row("radioAntifreezeNotuse", "radioAntifreezeUse", "00000000 0000", flags("isAntiFreeze CLR"));
+    row("radioAntifreezeUse", "radioAntifreezeNotuse", "00000000 0100", flags("isAntiFreeze SET"));
+    row("radioOrvometerInterfaceNotuse", "radioOrvoAddressB1", "00000000 0000",
+        {{meter + "interfaceAdd", 0}});
+    row("radioOrvoAddressB0", "radioOrvoAddressB1", "00000000 0000", {{meter + "interfaceAdd", 176}});
+    row("radioOrvoAddressB1", "radioOrvometerInterfaceNotuse", "00000000 0000",
+        {{meter + "interfaceAdd", 177}});
+    row("radioOduMaster", "radioOduMaster", "00000000 0000", {{oduFunction, "MASTER"}});
+    row("radioOduSlave", "radioOduMaster", "00000000 0000", {{oduFunction, "MASTER"}});
+    row("radioSilentODU", "radioSilentRemote", "00000000 0000", {{silentPriority, "oduSwitch"}});
+    row("radioSilentRemote", "radioSilentODU", "00000000 0000", {{silentPriority, "rmcSetting"}});
+}
+
+void TestDipSwitchChoices::controlWrites()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, banks);
+    QFETCH(QVariantMap, written);
+    load(everything());
+    Window::click(page, "radioFlowAlways");
+    const QStringList clicks = first.split(QLatin1Char(' '));
+    for (const QString &name : clicks) {
+        Window::click(page, name.toLatin1());
+    }
+    window->use(documents::with(window->dialog.document(), marks()));
+    QCOMPARE(window->changes([this] { Window::click(page, QTest::currentDataTag()); }), written);
+    QVERIFY(checked(QTest::currentDataTag()));
+    QCOMPARE(bank(2) + ' ' + bank(3), banks);
+    QCOMPARE(bank(1), QStringLiteral("0000"));
+    QVERIFY(done());
+    // The check follows: it finds what is open elsewhere.
+    const bool operation = QString(QTest::currentDataTag()).startsWith("radioOperation");
+    uncheck(operation ? "radioThermostatNone radioThermostatUse"
+                      : "radioOperationHeating radioOperationBoth");
+    QVERIFY(done());
+    Window::click(page, QTest::currentDataTag());
+    QVERIFY(!done());
+}
+
+void TestDipSwitchChoices::heaterBringsSeasonalDefaultsBack()
+{
+    for (const char *radio :
+         {"radioElectricHeater1", "radioElectricHeaterBoth", "radioElectricHeaterNotuse"}) {
+        QVariantMap moved = seasonalDefaults();
+        for (QVariant &value : moved) {
+            value = value.toInt() + 1;
+        }
+        load(moved);
+        Window::click(page, radio);
+        QCOMPARE(documents::with(window->dialog.document(), seasonalDefaults()), window->dialog.document());
+    }
+}
+
+void TestDipSwitchChoices::pulsesAreTyped_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("tenths") << QByteArray("1") << "12.5"
+                            << "12.5" << 125;
+    QTest::newRow("whole") << QByteArray("2") << "800"
+                           << "800" << 8000;
+    QTest::newRow("third") << QByteArray("3") << "7"
+                           << "7" << 70;
+    QTest::newRow("fourth") << QByteArray("4") << "9999.9"
+                            << "9999.9" << 99999;
+    QTest::newRow("second decimal") << QByteArray("1") << "12.55"
+                                    << "12.5" << 125;
+    QTest::newRow("fifth digit") << QByteArray("1") << "12345"
+                                 << "1234" << 12340;
+    QTest::newRow("below one") << QByteArray("1") << "0.4"
+                               << "0.4" << 4;
+    QTest::newRow("trailing point") << QByteArray("1") << "12."
+                                    << "12." << 120;
+    QTest::newRow("letters and signs") << QByteArray("1") << "-1e2"
+                                       << "12" << 120;
+    QTest::newRow("emptied") << QByteArray("1") << ""
+                             << "" << 0;
+}
+
+void TestDipSwitchChoices::pulsesAreTyped()
+{
+    QFETCH(QByteArray, field);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    QFETCH(int, stored);
+    load({{meter + "interfaceAdd", 177}});
+    auto *edit = Window::find<QLineEdit>(page, QByteArray("lineEditWHM") + field);
+    const QVariantMap expected{{meter + "interface" + field, stored}};
+    QCOMPARE(window->changes([&] { Window::type(edit, typed); }), expected);
+    QCOMPARE(edit->text(), shown);
+    QCOMPARE(done(), !shown.isEmpty());
+}
+
+void TestDipSwitchChoices::noTankGreysSolarKit()
+{
+    load(flags("is_hotwater SET is_sun SET"));
+    Window::click(page, "radioDhwNotUse");
+    QCOMPARE(style("labelSolar"), labelDimmed + ';');
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"), QString());
+    QVERIFY(!Window::enabled(page, "radioSolarThermalKitUse"));
+    QVERIFY(done());
+    Window::click(page, "radioDhwUse");
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"),
+             QStringLiteral("radioSolarThermalKitNotuse"));
+    QCOMPARE(style("labelSolar"), labelEnabled);
+    QCOMPARE(bank(2), QStringLiteral("00100000"));
+}
+
+void TestDipSwitchChoices::solarKitLeavesPowerFlag()
+{
+    load(flags("is_hotwater SET is_power_hotwater SET"));
+    QCOMPARE(window->changes([this] { Window::click(page, "radioSolarThermalKitUse"); }),
+             flags("is_sun SET"));
+}
+
+void TestDipSwitchChoices::noMeterClearsTheAddress()
+{
+    load({});
+    Window::click(page, "radioOrvoAddressB0");
+    QVERIFY(Window::enabled(page, "groupBoxMeterInterface"));
+    QVERIFY(!checked("radioOrvometerInterfaceNotuse"));
+    Window::type(Window::find<QLineEdit>(page, "lineEditWHM1"), QString());
+    QVERIFY(!done());
+    const QVariantMap expected{{meter + "interfaceAdd", 0}};
+    QCOMPARE(window->changes([this] { Window::click(page, "radioOrvometerInterfaceNotuse"); }), expected);
+    QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"),
+             QStringLiteral("radioOrvometerInterfaceNotuse"));
+    QVERIFY(!Window::enabled(page, "groupBoxMeterInterface"));
+    QCOMPARE(Window::find<QLineEdit>(page, "lineEditWHM1")->text(), QStringLiteral("0"));
+    QVERIFY(done());
+}
+
+void TestDipSwitchChoices::masterOffersSilentMode()
+{
+    load(everything());
+    Window::click(page, "radioOduSlave");
+    QVERIFY(!Window::shownItself(page, "groupBoxSilentModePriority"));
+    QVERIFY(Window::enabled(page, "groupBoxSilentModePriority"));
+    Window::click(page, "radioOduMaster");
+    QVERIFY(Window::visible(page, "groupBoxSilentModePriority"));
+    window->use(documents::with(window->dialog.document(), flags("isSilentPriority CLR")));
+    Window::click(page, "radioOduMaster");
+    QVERIFY(!Window::shownItself(page, "groupBoxSilentModePriority"));
+    QVERIFY(!Window::enabled(page, "groupBoxSilentModePriority"));
+    window->use(documents::with(window->dialog.document(), flags("isSilentPriority set")));
+    Window::click(page, "radioOduMaster");
+    QVERIFY(Window::visible(page, "groupBoxSilentModePriority"));
+    QVERIFY(Window::enabled(page, "groupBoxSilentModePriority"));
+}
+
+// What the slave radio writes isn't at the path that a load reads.
+void TestDipSwitchChoices::slaveIsForgotten()
+{
+    load(everything());
+    Window::click(page, "radioOduSlave");
+    window->use(
+        documents::with(window->dialog.document(), {{"SettingInfo.installation.OduFunctionMs", QVariant()}}));
+    window->showPage(MainDialog::DipSwitchPage);
+    QCOMPARE(checkedOf("radioOduMaster radioOduSlave"), QString());
+    QVERIFY(done());
+}
+
+void TestDipSwitchChoices::silentSubCategoryFollowsMaster()
+{
+    load(everything());
+    const auto run = [this] { Window::invoke(page, "enableOduFunctionMasterSubCategory"); };
+    Window::click(page, "radioOduSlave");
+    Window::click(page, "radioOduMaster");
+    Window::find<QRadioButton>(page, "radioOduSlave")->setChecked(true);
+    run();
+    QVERIFY(!Window::enabled(page, "radioSilentODU") && !Window::enabled(page, "radioSilentRemote"));
+    QCOMPARE(style("labelSilentMode"), labelDimmed);
+    uncheck("radioOduMaster radioOduSlave");
+    run();
+    QVERIFY(!Window::enabled(page, "radioSilentODU") && !Window::enabled(page, "radioSilentRemote"));
+    Window::find<QRadioButton>(page, "radioOduMaster")->setChecked(true);
+    run();
+    QVERIFY(Window::enabled(page, "radioSilentODU") && Window::enabled(page, "radioSilentRemote"));
+    QCOMPARE(style("labelSilentMode"), labelEnabled);
+    uncheck("radioOduMaster radioOduSlave");
+    run();
+    QVERIFY(Window::enabled(page, "radioSilentODU"));
+}
+
+void TestDipSwitchChoices::writesNothingBeforeShown()
+{
+    window->use(documents::with(documents::standard("R32"), marks()));
+    DipSwitchSettingStatus fresh;
+    const QVariantMap changes = window->changes([&fresh] {
+        for (const QRadioButton *radio : fresh.findChildren<QRadioButton *>()) {
+            QMetaObject::invokeMethod(&fresh,
+                                      QByteArray("on_" + radio->objectName().toLatin1() + "_clicked"));
+        }
+        QMetaObject::invokeMethod(&fresh, "on_lineEditWHM1_textEdited", Q_ARG(QString, "5"));
+        Window::invoke(&fresh, "initSeasonalAutoRange");
+        Window::invoke(&fresh, "setPowerHotWater");
+    });
+    QCOMPARE(changes, QVariantMap());
+}
+
+void TestDipSwitchChoices::writesNothingWithoutDocument()
+{
+    window->use(QJsonDocument());
+    window->showPage(MainDialog::DipSwitchPage);
+    Window::click(page, "radioThermostatUse");
+    QVERIFY(window->dialog.document().isNull());
+}
+
+CALORA_TEST_MAIN(TestDipSwitchChoices)
+#include "tst_dipswitchchoices.moc"

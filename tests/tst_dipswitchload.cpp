@@ -1,0 +1,426 @@
+#include "support/dipswitchtest.h"
+
+// Step 2: what the page shows of a document, and what showing it writes.
+class TestDipSwitchLoad : public DipSwitchTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { open(); }
+    void init() { messages::clear(); }
+    void cleanupTestCase() { close(); }
+
+    void pulsesAreShown_data();
+    void pulsesAreShown();
+    void showsHotWater_data();
+    void showsHotWater();
+    void showsSolarKit_data();
+    void showsSolarKit();
+    void showsOperationMode_data();
+    void showsOperationMode();
+    void showsPair_data();
+    void showsPair();
+    void flowSwitchStaysAsDrawn();
+    void showsElectricHeater_data();
+    void showsElectricHeater();
+    void showsMeterAddress_data();
+    void showsMeterAddress();
+    void unknownAddressLeavesTheAddressRadios();
+    void productDecidesWhatIsShown();
+    void unknownProductLeavesTheControls();
+    void coolExpansionHidesBankC();
+    void showsOduFunction_data();
+    void showsOduFunction();
+    void showingDefaultDocuments();
+    void showingAgainFollowsTheDocument();
+};
+
+void TestDipSwitchLoad::pulsesAreShown_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("tenths") << QVariant(125) << "12.5";
+    QTest::newRow("default") << QVariant(10000) << "1000";
+    QTest::newRow("zero") << QVariant(0) << "0";
+    QTest::newRow("six figures") << QVariant(1234567) << "123457";
+    QTest::newRow("long") << QVariant(12345678) << "1.23457e+06";
+    QTest::newRow("fraction") << QVariant(12.5) << "1.25";
+    QTest::newRow("missing") << QVariant() << "0";
+}
+
+void TestDipSwitchLoad::pulsesAreShown()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QString, shown);
+    for (const char *field : {"1", "2", "3", "4"}) {
+        load({{meter + "interface" + field, stored}});
+        QCOMPARE(Window::find<QLineEdit>(page, QByteArray("lineEditWHM") + field)->text(), shown);
+    }
+}
+
+void TestDipSwitchLoad::showsHotWater_data()
+{
+    QTest::addColumn<QString>("product");
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<QString>("pair");
+    QTest::newRow("no tank") << "awhp"
+                             << "is_hotwater CLR"
+                             << "radioDhwNotUse"
+                             << "00";
+    QTest::newRow("tank") << "awhp"
+                          << "is_hotwater set"
+                          << "radioDhwUse"
+                          << "01";
+    QTest::newRow("Aquabox, tank") << "aquabox"
+                                   << "is_hotwater SET"
+                                   << "radioDhwUse"
+                                   << "01";
+    QTest::newRow("Aquabox, no tank") << "aquabox"
+                                      << "is_hotwater CLR"
+                                      << "radioDhwNotUse"
+                                      << "00";
+    QTest::newRow("DHW only") << "aquabox"
+                              << "is_boosterht_onlyMode set is_heater1 SET"
+                              << "radioDhwOnly"
+                              << "11";
+    QTest::newRow("never for an AWHP") << "awhp"
+                                       << "is_boosterht_onlyMode SET is_hotwater CLR"
+                                       << "radioDhwNotUse"
+                                       << "00";
+    QTest::newRow("AWHP with both") << "awhp"
+                                    << "is_boosterht_onlyMode SET is_hotwater SET"
+                                    << "radioDhwUse"
+                                    << "01";
+    QTest::newRow("other product") << "boiler"
+                                   << "is_boosterht_onlyMode SET is_hotwater SET"
+                                   << "radioDhwUse"
+                                   << "01";
+}
+
+void TestDipSwitchLoad::showsHotWater()
+{
+    QFETCH(QString, product);
+    QFETCH(QString, values);
+    QFETCH(QString, radio);
+    QFETCH(QString, pair);
+    load({{"product", product}});
+    load(joined(flags(values), {{"product", product}}));
+    QCOMPARE(checkedOf("radioDhwNotUse radioDhwUse radioDhwOnly"), radio);
+    QCOMPARE(bank(2).mid(1, 2), pair);
+}
+
+void TestDipSwitchLoad::showsSolarKit_data()
+{
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<QString>("pair");
+    QTest::newRow("no kit") << "is_hotwater SET is_sun CLR"
+                            << "radioSolarThermalKitNotuse"
+                            << "01";
+    QTest::newRow("kit") << "is_hotwater SET is_sun set"
+                         << "radioSolarThermalKitUse"
+                         << "10";
+    QTest::newRow("no tank") << "is_hotwater CLR is_sun SET"
+                             << ""
+                             << "00";
+    QTest::newRow("DHW only") << "is_boosterht_onlyMode SET is_sun SET is_heater1 SET"
+                              << ""
+                              << "11";
+}
+
+void TestDipSwitchLoad::showsSolarKit()
+{
+    QFETCH(QString, values);
+    QFETCH(QString, radio);
+    QFETCH(QString, pair);
+    load(joined(flags(values), {{"product", "aquabox"}}));
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"), radio);
+    QCOMPARE(bank(2).mid(1, 2), pair);
+    const bool offered = !radio.isEmpty();
+    QCOMPARE(style("labelSolar"), offered ? labelEnabled : labelDimmed + ';');
+    for (const char *name : {"radioSolarThermalKitNotuse", "radioSolarThermalKitUse"}) {
+        QCOMPARE(Window::enabled(page, name), offered);
+        QCOMPARE(style(name), offered ? radioEnabled : radioDimmed);
+    }
+    QVERIFY(done());
+}
+
+void TestDipSwitchLoad::showsOperationMode_data()
+{
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<bool>("both");
+    QTest::newRow("heating only") << "is_autoOp SET is_heat set is_cool clr" << false;
+    QTest::newRow("both") << "is_autoOp SET is_heat SET is_cool SET" << true;
+    QTest::newRow("no auto") << "is_autoOp CLR is_heat SET is_cool CLR" << true;
+    QTest::newRow("no heat") << "is_autoOp SET is_heat CLR is_cool CLR" << true;
+    QTest::newRow("odd cool") << "is_autoOp SET is_heat SET is_cool x" << true;
+}
+
+void TestDipSwitchLoad::showsOperationMode()
+{
+    QFETCH(QString, values);
+    QFETCH(bool, both);
+    load(flags(values));
+    QCOMPARE(checked("radioOperationBoth"), both);
+    QCOMPARE(checked("radioOperationHeating"), !both);
+    QCOMPARE(bank(2).at(3), QChar(both ? '1' : '0'));
+}
+
+void TestDipSwitchLoad::showsPair_data()
+{
+    QTest::addColumn<QByteArray>("set");
+    QTest::addColumn<QByteArray>("notSet");
+    QTest::addColumn<QString>("banks");
+    QTest::newRow("isIduAirTempSW") << QByteArray("radioAdditionalAirUse")
+                                    << QByteArray("radioAdditionalAirNotUse") << "00000000 1000";
+    QTest::newRow("is_flow_switch") << QByteArray("radioFlowOnlyPump") << QByteArray("radioFlowAlways")
+                                    << "00000000 0000";
+    QTest::newRow("isAntiFreeze") << QByteArray("radioAntifreezeUse") << QByteArray("radioAntifreezeNotuse")
+                                  << "00000000 0100";
+    QTest::newRow("is_ThermostatModeChange")
+        << QByteArray("radioThermostatUse") << QByteArray("radioThermostatNone") << "00000001 0000";
+}
+
+void TestDipSwitchLoad::showsPair()
+{
+    QFETCH(QByteArray, set);
+    QFETCH(QByteArray, notSet);
+    QFETCH(QString, banks);
+    const QString path = QStringLiteral("IduFuncList.") + QTest::currentDataTag();
+    load({});
+    Window::click(page, "radioFlowAlways");
+    for (const char *word : {"SET", "set"}) {
+        load({{path, word}});
+        QVERIFY(checked(set) && !checked(notSet));
+        QCOMPARE(bank(2) + ' ' + bank(3), banks);
+    }
+    for (const QVariant &word : {QVariant("CLR"), QVariant("x"), QVariant()}) {
+        load({{path, word}});
+        QVERIFY(!checked(set) && checked(notSet));
+        QCOMPARE(bank(2) + ' ' + bank(3), QStringLiteral("00000000 0000"));
+    }
+}
+
+// A load doesn't touch switch 25, whatever the radios show.
+void TestDipSwitchLoad::flowSwitchStaysAsDrawn()
+{
+    load({});
+    Window::click(page, "radioFlowOnlyPump");
+    load({});
+    QVERIFY(checked("radioFlowAlways"));
+    QCOMPARE(bank(2), QStringLiteral("00001000"));
+    Window::click(page, "radioFlowAlways");
+    load(flags("is_flow_switch SET"));
+    QVERIFY(checked("radioFlowOnlyPump"));
+    QCOMPARE(bank(2), QStringLiteral("00000000"));
+}
+
+void TestDipSwitchLoad::showsElectricHeater_data()
+{
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<QString>("pair");
+    QTest::addColumn<QVariantMap>("written");
+    const QString heater = QStringLiteral("is_installed_heater SET is_comm_disinfection SET "
+                                          "isIndoorHotWaterKey SET is_hotwater_by_disinfection SET ");
+    const QVariantMap none = flags("is_installed_heater CLR is_comm_disinfection CLR is_boosterht_onlyMode "
+                                   "CLR isIndoorHotWaterKey CLR is_hotwater_by_disinfection CLR");
+    QTest::newRow("step 1") << "is_heater1 set is_heater2 CLR"
+                            << "radioElectricHeater1"
+                            << "10" << flags(heater + "is_timer_hotwater SET");
+    QTest::newRow("step 1 and 2") << "is_heater1 CLR is_heater2 set"
+                                  << "radioElectricHeaterBoth"
+                                  << "11" << flags(heater);
+    QTest::newRow("none") << "is_heater1 CLR is_heater2 CLR"
+                          << "radioElectricHeaterNotuse"
+                          << "00" << none;
+    QTest::newRow("both flags") << "is_heater1 SET is_heater2 SET"
+                                << "radioElectricHeaterBoth"
+                                << "10" << flags(heater + "is_timer_hotwater SET");
+}
+
+void TestDipSwitchLoad::showsElectricHeater()
+{
+    QFETCH(QString, values);
+    QFETCH(QString, radio);
+    QFETCH(QString, pair);
+    QFETCH(QVariantMap, written);
+    const QVariantMap marked = joined(marks(), joined(flags(values), {{meter + "interfaceAdd", 0}}));
+    load(marked);
+    QCOMPARE(
+        documents::changes(documents::with(documents::standard("R32"), marked), window->dialog.document()),
+        written);
+    QCOMPARE(checkedOf("radioElectricHeaterNotuse radioElectricHeater1 radioElectricHeaterBoth"), radio);
+    QCOMPARE(bank(2).mid(5, 2), pair);
+}
+
+void TestDipSwitchLoad::showsMeterAddress_data()
+{
+    QTest::addColumn<QVariant>("address");
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<bool>("pulses");
+    QTest::newRow("none") << QVariant(0) << "radioOrvometerInterfaceNotuse" << false;
+    QTest::newRow("B0") << QVariant(176) << "radioOrvoAddressB0" << true;
+    QTest::newRow("B1") << QVariant(177) << "radioOrvoAddressB1" << true;
+    QTest::newRow("other") << QVariant(5) << "" << true;
+    QTest::newRow("missing") << QVariant() << "radioOrvometerInterfaceNotuse" << false;
+}
+
+void TestDipSwitchLoad::showsMeterAddress()
+{
+    QFETCH(QVariant, address);
+    QFETCH(QString, radio);
+    QFETCH(bool, pulses);
+    for (const int before : {0, 176}) {
+        load({{meter + "interfaceAdd", before}});
+        load({{meter + "interfaceAdd", 0}});
+        load({{meter + "interfaceAdd", address}});
+        QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"), radio);
+        QCOMPARE(Window::enabled(page, "groupBoxMeterInterface"), pulses);
+        QCOMPARE(Window::enabled(page, "lineEditWHM1"), pulses);
+        QVERIFY(Window::enabled(page, "radioOrvoAddressB0"));
+        QVERIFY(Window::enabled(page, "radioOrvoAddressB1"));
+        QCOMPARE(window->dialog.document(),
+                 documents::with(documents::standard("R32"), {{meter + "interfaceAdd", address}}));
+        QVERIFY(done());
+    }
+}
+
+void TestDipSwitchLoad::unknownAddressLeavesTheAddressRadios()
+{
+    load({{meter + "interfaceAdd", 177}});
+    load({{meter + "interfaceAdd", 5}});
+    QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"),
+             QStringLiteral("radioOrvoAddressB1"));
+}
+
+void TestDipSwitchLoad::productDecidesWhatIsShown()
+{
+    const QVariantMap odu = flags("isOduFunctionMS SET");
+    load(joined(odu, {{"product", "Aquabox"}}));
+    QVERIFY(Window::visible(page, "radioDhwOnly"));
+    QVERIFY(!Window::shownItself(page, "labelDhwSpacing"));
+    QVERIFY(Window::visible(page, "groupBoxOduFunctionMaster"));
+    QVERIFY(Window::enabled(page, "groupBoxOduFunctionMaster"));
+    QCOMPARE(style("labelSilentMode"), labelEnabled);
+    for (const char *name : {"radioSilentODU", "radioSilentRemote"}) {
+        QVERIFY(Window::find(page, name)->isEnabledTo(Window::find(page, "groupBoxSilentModePriority")));
+    }
+
+    load(joined(odu, {{"product", "Awhp"}}));
+    QVERIFY(!Window::shownItself(page, "radioDhwOnly"));
+    QVERIFY(Window::shownItself(page, "labelDhwSpacing"));
+    QVERIFY(!Window::shownItself(page, "groupBoxOduFunctionMaster"));
+    QVERIFY(!Window::enabled(page, "groupBoxOduFunctionMaster"));
+    QCOMPARE(style("labelODUFunctionMaster"), labelDimmed);
+    QCOMPARE(style("labelSilentMode"), labelDimmed);
+    for (const char *name : {"radioOduMaster", "radioOduSlave", "radioSilentODU", "radioSilentRemote"}) {
+        QVERIFY2(!Window::find(page, name)->isEnabledTo(Window::find(page, name)->parentWidget()), name);
+    }
+}
+
+// It counts as no AWHP where the function master is asked for.
+void TestDipSwitchLoad::unknownProductLeavesTheControls()
+{
+    for (const char *product : {"awhp", "aquabox"}) {
+        load({{"product", product}});
+        load({{"product", "boiler"}});
+        const bool aquabox = product == QByteArray("aquabox");
+        QCOMPARE(Window::shownItself(page, "radioDhwOnly"), aquabox);
+        QCOMPARE(Window::shownItself(page, "labelDhwSpacing"), !aquabox);
+        QVERIFY(!Window::shownItself(page, "groupBoxOduFunctionMaster"));
+        load(joined(flags("isOduFunctionMS SET"), {{"product", "boiler"}}));
+        QVERIFY(Window::visible(page, "groupBoxOduFunctionMaster"));
+    }
+}
+
+void TestDipSwitchLoad::coolExpansionHidesBankC()
+{
+    for (const char *word : {"set", "CLR", "SET"}) {
+        load(flags(QStringLiteral("isR410CoolExpand ") + word));
+        for (const char *name : {"groupBoxAdditionalAir", "groupBoxAntifreeze", "frameSw3", "labelSW3"}) {
+            QCOMPARE(Window::visible(page, name), word == QByteArray("CLR"));
+        }
+        QVERIFY(done());
+    }
+}
+
+void TestDipSwitchLoad::showsOduFunction_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<bool>("group");
+    QTest::addColumn<QString>("radios");
+    QTest::addColumn<bool>("silentGroup");
+    const auto with = [](const QVariantMap &values) { return joined(everything(), values); };
+    const QString read = QStringLiteral("SettingInfo.installation.OduFunctionMs");
+    QTest::newRow("master, switch") << with({}) << true << "radioOduMaster radioSilentODU" << true;
+    QTest::newRow("master, controller")
+        << with({{silentPriority, "rmcSetting"}}) << true << "radioOduMaster radioSilentRemote" << true;
+    QTest::newRow("exact words") << with({{silentPriority, "RMCSETTING"}}) << true << "radioOduMaster"
+                                 << true;
+    QTest::newRow("no silent priority")
+        << with(flags("isSilentPriority CLR")) << true << "radioOduMaster" << false;
+    QTest::newRow("slave") << with({{read, "SLAVE"}}) << true << "" << false;
+    QTest::newRow("no such key") << with({{read, QVariant()}, {oduFunction, "MASTER"}}) << true << ""
+                                 << false;
+    QTest::newRow("not offered") << with(flags("isOduFunctionMS CLR")) << false << "" << true;
+    QTest::newRow("AWHP") << with({{"product", "awhp"}}) << false << "" << true;
+}
+
+void TestDipSwitchLoad::showsOduFunction()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(bool, group);
+    QFETCH(QString, radios);
+    QFETCH(bool, silentGroup);
+    const QString all = QStringLiteral("radioOduMaster radioOduSlave radioSilentODU radioSilentRemote");
+    load(everything());
+    uncheck(all);
+    load(values);
+    QCOMPARE(checkedOf(all), radios);
+    QCOMPARE(Window::shownItself(page, "groupBoxOduFunctionMaster"), group);
+    QCOMPARE(Window::enabled(page, "groupBoxOduFunctionMaster"), group);
+    QCOMPARE(Window::shownItself(page, "groupBoxSilentModePriority"), silentGroup);
+    const bool master = radios.startsWith(QLatin1String("radioOduMaster"));
+    QCOMPARE(style("labelODUFunctionMaster"), master ? labelEnabled : labelDimmed);
+    for (const char *name : {"radioOduMaster", "radioOduSlave"}) {
+        QCOMPARE(Window::enabled(page, name), master);
+        QCOMPARE(style(name), master ? radioEnabled : radioDimmed);
+    }
+    QCOMPARE(done(), QByteArray("exact words") != QTest::currentDataTag());
+}
+
+// The heater flags of the R410 document don't fit its heater; showing the page mends them.
+void TestDipSwitchLoad::showingDefaultDocuments()
+{
+    load({}, "R32");
+    QCOMPARE(window->dialog.document(), documents::standard("R32"));
+    QVERIFY(done());
+    QVERIFY(!Window::shownItself(&window->dialog, "labelErrorDipSwitch"));
+
+    load({}, "R410");
+    QCOMPARE(documents::changes(documents::standard("R410"), window->dialog.document()),
+             flags("is_installed_heater SET is_comm_disinfection SET isIndoorHotWaterKey SET "
+                   "is_hotwater_by_disinfection SET"));
+    QCOMPARE(bank(2), QStringLiteral("00000110"));
+    QVERIFY(!Window::visible(page, "frameSw3"));
+    QVERIFY(done());
+}
+
+void TestDipSwitchLoad::showingAgainFollowsTheDocument()
+{
+    load(flags("is_hotwater SET is_sun SET is_ThermostatModeChange SET"));
+    QCOMPARE(bank(2), QStringLiteral("01000001"));
+    load({});
+    QCOMPARE(bank(2), QStringLiteral("00000000"));
+    QCOMPARE(checkedOf("radioDhwNotUse radioThermostatNone"),
+             QStringLiteral("radioDhwNotUse radioThermostatNone"));
+    // The page keeps writing after New.
+    Window::click(&window->dialog, "newButton");
+    Window::click(&window->dialog, "radioButtonR32");
+    QVERIFY(!window->changes([this] { Window::invoke(page, "on_radioThermostatUse_clicked"); }).isEmpty());
+}
+
+CALORA_TEST_MAIN(TestDipSwitchLoad)
+#include "tst_dipswitchload.moc"

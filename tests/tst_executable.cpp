@@ -1,0 +1,351 @@
+#include "support/languagefolder.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPixmap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The executable as it is delivered, started from a copy of its folder and seen and driven from outside.
+
+namespace {
+
+const QString own = QFileInfo(QStringLiteral(CALORA_EXECUTABLE)).fileName();
+
+/// What a helper program prints.
+QString ask(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(10000);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+/// One run of the tool.
+class Run
+{
+public:
+    struct With {
+        QStringList arguments;
+        QMap<QString, QString> environment;
+        QString workingDirectory;
+    };
+
+    Run(const QString &folder, const With &with)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (auto variable = with.environment.begin(); variable != with.environment.end(); ++variable) {
+            environment.insert(variable.key(), variable.value());
+        }
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(with.workingDirectory.isEmpty() ? folder : with.workingDirectory);
+        process.start(folder + '/' + own, with.arguments);
+        process.waitForStarted();
+        const QStringList search{
+            "search", "--onlyvisible",        "--all", "--pid", QString::number(process.processId()),
+            "--name", "^Calora configurator$"};
+        QElapsedTimer waited;
+        for (waited.start(); window.isEmpty() && waited.elapsed() < 20000; QTest::qWait(50)) {
+            window = ask("xdotool", search);
+        }
+    }
+    ~Run()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+
+    bool isShown() const { return !window.isEmpty() && !window.contains('\n'); }
+
+    QSize size() const
+    {
+        const QString told = ask("xdotool", {"getwindowgeometry", window});
+        const auto match = QRegularExpression("Geometry: (\\d+)x(\\d+)").match(told);
+        return {match.captured(1).toInt(), match.captured(2).toInt()};
+    }
+
+    QString property(const QString &name) const { return ask("xprop", {"-id", window, name}); }
+
+    /// The window as it is seen, once it stands still.
+    QImage picture() const
+    {
+        QImage before;
+        for (int tries = 0; tries < 100; ++tries) {
+            const QImage now = QGuiApplication::primaryScreen()->grabWindow(window.toULongLong()).toImage();
+            if (now == before && now.pixelColor(300, 20) == QColor(Qt::white)) {
+                return now;
+            }
+            before = now;
+            QTest::qWait(150);
+        }
+        return before;
+    }
+
+    void clickAt(int x, int y) const
+    {
+        ask("xdotool",
+            {"mousemove", "--window", window, QString::number(x), QString::number(y), "click", "1"});
+    }
+
+    /// Asks the window to close, as a window manager does.
+    void closeByTheWindowSystem() const
+    {
+        ask("xdotool", {"windowactivate", "--sync", window, "key", "--clearmodifiers", "alt+F4"});
+    }
+
+    /// The exit code, or -1 when the tool goes on or crashes.
+    int exitCode()
+    {
+        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(10000);
+        return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+
+    QByteArray standardOutput() { return process.readAllStandardOutput(); }
+    QByteArray standardError() { return process.readAllStandardError(); }
+
+private:
+    QProcess process;
+    QString window;
+};
+
+QMap<QString, QByteArray> contents(const QString &folder)
+{
+    QMap<QString, QByteArray> files;
+    for (const QString &sub : {QString(), QStringLiteral("/language")}) {
+        const QDir dir(folder + sub);
+        for (const QString &name : dir.entryList(QDir::Files | QDir::Hidden)) {
+            files.insert(sub + '/' + name, testfiles::content(dir.filePath(name)));
+        }
+    }
+    return files;
+}
+
+// The middle of the close button: 32 wide, 8 from the right end of a title bar 40 high.
+constexpr int closeX = 1440 - 8 - 16;
+constexpr int closeY = 20;
+
+} // namespace
+
+class TestExecutable : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void showsItsWindow();
+    void ignoresArguments_data();
+    void ignoresArguments();
+    void isNotScaled_data();
+    void isNotScaled();
+    void isNotScaledByTheDesktop();
+    void findsItsFilesFromAnywhere();
+    void runsWithoutItsFiles_data();
+    void runsWithoutItsFiles();
+    void endsByTheWindowSystem();
+    void leavesItsFolderAsItIs();
+
+private:
+    QString folder() const { return home->filePath("calora"); }
+
+    std::unique_ptr<QTemporaryDir> home;
+    /// The window of a run with nothing special about it.
+    QImage plain;
+};
+
+void TestExecutable::initTestCase()
+{
+    for (const char *program : {"xdotool", "xprop"}) {
+        QVERIFY2(!QStandardPaths::findExecutable(program).isEmpty(), program);
+    }
+    init();
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    plain = run.picture();
+    QVERIFY(plain.width() > 0);
+}
+
+// A copy of what is delivered: the executable, the fonts and the language folder.
+void TestExecutable::init()
+{
+    home = std::make_unique<QTemporaryDir>();
+    const QDir built = QFileInfo(QStringLiteral(CALORA_EXECUTABLE)).dir();
+    QVERIFY(QDir().mkpath(folder() + "/language"));
+    for (const QString &sub : {QStringLiteral("/"), QStringLiteral("/language/")}) {
+        for (const QString &name : QDir(built.path() + sub).entryList(QDir::Files)) {
+            QVERIFY(QFile::copy(built.path() + sub + name, folder() + sub + name));
+        }
+    }
+    testfiles::put(folder() + "/language/language.ini", "English");
+}
+
+void TestExecutable::showsItsWindow()
+{
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.size(), QSize(1440, 800));
+    QCOMPARE(run.picture(), plain);
+    // The name that is seen outside is the fixed one, not that of the file.
+    QVERIFY(run.property("WM_CLASS").contains("\"calorainstaller\""));
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.standardOutput(), QByteArray());
+    const QByteArray told = run.standardError();
+    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+}
+
+void TestExecutable::ignoresArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("platform") << QStringList{"-platform", "offscreen"};
+    QTest::newRow("no such platform") << QStringList{"-platform", "nothing"};
+    QTest::newRow("help") << QStringList{"--help"};
+    QTest::newRow("version") << QStringList{"-v", "--version"};
+    QTest::newRow("a file") << QStringList{"a.json"};
+    QTest::newRow("place and style") << QStringList{"-geometry", "500x400+0+0", "-style", "windows",
+                                                    "-reverse"};
+    QTest::newRow("style sheet and title") << QStringList{"-stylesheet", "a.json", "-qwindowtitle", "x"};
+    QTest::newRow("another display") << QStringList{"-display", ":9999"};
+}
+
+void TestExecutable::ignoresArguments()
+{
+    QFETCH(QStringList, arguments);
+    testfiles::put(folder() + "/a.json", "* { color: red; }");
+    Run run(folder(), {arguments, {}, {}});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.size(), QSize(1440, 800));
+    QCOMPARE(run.picture(), plain);
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.standardOutput(), QByteArray());
+}
+
+void TestExecutable::isNotScaled_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("factor") << "QT_SCALE_FACTOR"
+                            << "2";
+    QTest::newRow("factor below one") << "QT_SCALE_FACTOR"
+                                      << "0.5";
+    QTest::newRow("factor of the screen") << "QT_SCREEN_SCALE_FACTORS"
+                                          << "2";
+    QTest::newRow("by the screen") << "QT_AUTO_SCREEN_SCALE_FACTOR"
+                                   << "1";
+    QTest::newRow("by the screen, newer") << "QT_ENABLE_HIGHDPI_SCALING"
+                                          << "1";
+    QTest::newRow("pixel ratio") << "QT_DEVICE_PIXEL_RATIO"
+                                 << "2";
+    QTest::newRow("size of the fonts") << "QT_FONT_DPI"
+                                       << "192";
+}
+
+void TestExecutable::isNotScaled()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, value);
+    Run run(folder(), {{}, {{variable, value}}, {}});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.size(), QSize(1440, 800));
+    QCOMPARE(run.picture(), plain);
+    const QByteArray told = run.standardError();
+    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+}
+
+void TestExecutable::isNotScaledByTheDesktop()
+{
+    ask("xprop", {"-root", "-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER", "Xft.dpi:\t192\n"});
+    QVERIFY(ask("xprop", {"-root", "RESOURCE_MANAGER"}).contains("192"));
+    Run run(folder(), {});
+    const QSize size = run.size();
+    const QImage picture = run.picture();
+    ask("xprop", {"-root", "-remove", "RESOURCE_MANAGER"});
+    QCOMPARE(size, QSize(1440, 800));
+    QCOMPARE(picture, plain);
+}
+
+void TestExecutable::findsItsFilesFromAnywhere()
+{
+    testfiles::put(folder() + "/language/language.ini", "Other");
+    testfiles::put(folder() + "/language/Other.json", languagefolder::marked("~"));
+    Run here(folder(), {});
+    const QImage other = here.picture();
+    QVERIFY(other != plain);
+    Run there(folder(), {{}, {}, "/"});
+    QVERIFY(there.isShown());
+    QCOMPARE(there.picture(), other);
+    // By a link too: the files lie beside the executable itself.
+    QVERIFY(QDir().mkpath(home->filePath("links")));
+    QVERIFY(QFile::link(folder() + '/' + own, home->filePath("links/" + own)));
+    Run linked(home->filePath("links"), {});
+    QVERIFY(linked.isShown());
+    QCOMPARE(linked.picture(), other);
+}
+
+void TestExecutable::runsWithoutItsFiles_data()
+{
+    QTest::addColumn<QStringList>("missing");
+    QTest::newRow("fonts") << QStringList{"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf",
+                                          "NotoSans-Regular.ttf"};
+    QTest::newRow("language.ini") << QStringList{"language/language.ini"};
+    QTest::newRow("English") << QStringList{"language/English.json"};
+    QTest::newRow("language folder") << QStringList{"language/language.ini", "language/English.json",
+                                                    "language"};
+    QTest::newRow("everything") << QStringList{"NotoSans-Medium.ttf",
+                                               "NotoSans-Bold.ttf",
+                                               "NotoSans-Light.ttf",
+                                               "NotoSans-Regular.ttf",
+                                               "language/language.ini",
+                                               "language/English.json",
+                                               "language"};
+}
+
+void TestExecutable::runsWithoutItsFiles()
+{
+    QFETCH(QStringList, missing);
+    for (const QString &name : missing) {
+        QVERIFY(QFile::remove(folder() + '/' + name) || QDir(folder()).rmdir(name));
+    }
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.size(), QSize(1440, 800));
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
+    const QByteArray told = run.standardError();
+    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+}
+
+void TestExecutable::endsByTheWindowSystem()
+{
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    run.picture();
+    run.closeByTheWindowSystem();
+    QCOMPARE(run.exitCode(), 0);
+}
+
+void TestExecutable::leavesItsFolderAsItIs()
+{
+    const auto before = contents(folder());
+    QVERIFY(before.contains("/language/language.ini"));
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(contents(folder()), before);
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    TestExecutable tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+#include "tst_executable.moc"

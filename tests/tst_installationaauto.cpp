@@ -1,0 +1,519 @@
+#include "support/automode.h"
+
+#include "pages/installation/installationcool.h"
+#include "pages/installation/installationheat.h"
+#include "pages/installation/installationsystemsetting.h"
+
+using automode::join;
+using automode::mainZone;
+using automode::root;
+using automode::seasonalPlant;
+using automode::seasonalRoot;
+using automode::sensing;
+
+namespace {
+
+/// What a choice in a box writes; the second path only while the main zone is off.
+struct Case {
+    const char *box;
+    const char *path;
+    const char *mainZonePath;
+    int celsius;
+    int fahrenheit;
+    int celsiusOfFahrenheit;
+};
+
+// °F stands for the lowest °C that shows it: 112 °F is 44 °C and 45 °C.
+const Case cases[] = {{"OutdoorOutdoorMax", "autoOp_outtemp.max", "", 30, 86, 30},
+                      {"OutdoorOutdoorMin", "autoOp_outtemp.min", "", 5, 40, 4},
+                      {"OutdoorIndoorMax", "autoOp_tempair.max", "", 25, 76, 24},
+                      {"OutdoorIndoorMin", "autoOp_tempair.min", "", 18, 64, 18},
+                      {"OutdoorWaterMax", "autoOp_tempwater.high_limit", "", 50, 94, 34},
+                      {"OutdoorWaterMin", "autoOp_tempwater.low_limit", "", 28, 82, 28},
+                      {"HeatingOutdoorMax", "heatOutTemp.max", "", 20, 68, 20},
+                      {"HeatingOutdoorMin", "heatOutTemp.min", "", -20, -2, -20},
+                      {"CoolingOutdoorMax", "coolOutTemp.max", "", 45, 112, 44},
+                      {"CoolingOutdoorMin", "coolOutTemp.min", "", 25, 76, 24},
+                      {"HeatingIndoorMax", "heatAirTemp.max", "heatAirTempMainZone.max", 27, 80, 27},
+                      {"HeatingIndoorMin", "heatAirTemp.min", "heatAirTempMainZone.min", 22, 72, 22},
+                      {"CoolingIndoorMax", "coolAirTemp.max", "coolAirTempMainZone.max", 24, 76, 24},
+                      {"CoolingIndoorMin", "coolAirTemp.min", "coolAirTempMainZone.min", 17, 62, 17},
+                      {"HeatingWaterMax", "heatWaterTemp.max", "heatWaterTempMainZone.max", 50, 122, 50},
+                      {"HeatingWaterMin", "heatWaterTemp.min", "heatWaterTempMainZone.min", 35, 94, 34},
+                      {"CoolingWaterMax", "coolWaterTemp.max", "coolWaterTempMainZone.max", 22, 72, 22},
+                      {"CoolingWaterMin", "coolWaterTemp.min", "coolWaterTempMainZone.min", 17, 62, 17},
+                      {"MainZoneHeatingIndoorMax", "heatAirTempMainZone.max", "", 28, 82, 28},
+                      {"MainZoneHeatingIndoorMin", "heatAirTempMainZone.min", "", 18, 64, 18},
+                      {"MainZoneIndoorMax", "coolAirTempMainZone.max", "", 29, 84, 29},
+                      {"MainZoneIndoorMin", "coolAirTempMainZone.min", "", 25, 76, 24},
+                      {"MainZoneHeatingWaterMax", "heatWaterTempMainZone.max", "", 44, 112, 44},
+                      {"MainZoneHeatingWaterMin", "heatWaterTempMainZone.min", "", 22, 72, 22},
+                      {"MainZoneWaterMax", "coolWaterTempMainZone.max", "", 26, 78, 26},
+                      {"MainZoneWaterMin", "coolWaterTempMainZone.min", "", 21, 70, 21}};
+
+} // namespace
+
+// The Auto mode section: what each control writes, what a load shows and which rows stand on the page.
+class TestInstallationaAuto : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { section = std::make_unique<automode::Section>(); }
+    void init() { messages::clear(); }
+    void cleanupTestCase() { section.reset(); }
+
+    void slotsAreDeclaredInOrder();
+    void startsClosedWithoutDocument();
+    void headerOpensAndCloses();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void circuitCaptionsKeepTheirFormUntilTheLanguageChanges();
+    void endCaptions();
+    void boxesWrite_data();
+    void boxesWrite();
+    void closedSectionWritesNothing();
+    void nothingIsWrittenWithoutDocument();
+    void modeIsWritten_data();
+    void modeIsWritten();
+    void modeIsLoaded();
+    void storedValuesAreShown();
+    void rowsFollowTheFlags_data();
+    void rowsFollowTheFlags();
+    void unknownSensingChangesNoRow();
+    void viewOfAValue();
+    void otherSectionsRefresh();
+    void alwaysValid();
+
+private:
+    std::unique_ptr<automode::Section> section;
+};
+
+void TestInstallationaAuto::slotsAreDeclaredInOrder()
+{
+    QCOMPARE(Window::ownSignals(section->page), QStringList());
+    QStringList expected{"initUi()",
+                         "initDefaultTempRange()",
+                         "refresh()",
+                         "saveJsonData(QString,QJsonValue)",
+                         "parseJsonData(QString)",
+                         "loadJsonData()",
+                         "setVisibleMode()",
+                         "setVisibleMainZone()",
+                         "setVisibleIndoorWaterView()",
+                         "setVisibleIndoorWaterView(QString)",
+                         "setTempValue(QComboBox*,int)",
+                         "setloadJsonValue()",
+                         "setVisibleSeasonalAutoView()",
+                         "setTempRangeValue()",
+                         "valueChanged(int,int,bool)",
+                         "refreshTempRange(int)",
+                         "on_hideButton_clicked()",
+                         "on_radioHeatingOnly_clicked()",
+                         "on_radioCoolingOnly_clicked()",
+                         "on_radioBoth_clicked()"};
+    for (const char *pair :
+         {"OutdoorOutdoor", "OutdoorIndoor", "OutdoorWater", "HeatingOutdoor", "CoolingOutdoor",
+          "HeatingIndoor", "CoolingIndoor", "HeatingWater", "CoolingWater", "MainZoneHeatingIndoor",
+          "MainZoneIndoor", "MainZoneHeatingWater", "MainZoneWater"}) {
+        for (const char *end : {"Max", "Min"}) {
+            expected.append(QString("on_combo%1%2_currentTextChanged(QString)").arg(pair, end));
+        }
+    }
+    expected.append({"validationCheck()", "changeLanguage()"});
+    QCOMPARE(Window::ownSlots(section->page), expected);
+    // The third argument of valueChanged has a default.
+    QVERIFY(section->page->metaObject()->indexOfSlot("valueChanged(int,int)") >= 0);
+    const int parse = section->page->metaObject()->indexOfSlot("parseJsonData(QString)");
+    QCOMPARE(QByteArray(section->page->metaObject()->method(parse).typeName()), QByteArray("QJsonValue"));
+}
+
+void TestInstallationaAuto::startsClosedWithoutDocument()
+{
+    section.reset();
+    section = std::make_unique<automode::Section>();
+    QVERIFY(section->window.dialog.document().isNull());
+    QVERIFY(!Window::shownItself(section->page, "frame"));
+    QCOMPARE(section->shown("comboOutdoorOutdoorMax"), QString("10°C"));
+    QCOMPARE(section->shown("comboOutdoorOutdoorMin"), QString("0°C"));
+    QCOMPARE(section->shown("comboOutdoorWaterMax"), QString("35°C"));
+    QCOMPARE(section->shown("comboOutdoorWaterMin"), QString("20°C"));
+    QCOMPARE(section->items("comboOutdoorOutdoorMax"), range(10, 20, "°C"));
+    QCOMPARE(section->items("comboOutdoorOutdoorMin"), range(-20, 5, "°C"));
+    QCOMPARE(section->items("comboOutdoorIndoorMax"), range(20, 30, "°C"));
+    QCOMPARE(section->items("comboOutdoorIndoorMin"), range(16, 19, "°C"));
+    QCOMPARE(section->items("comboOutdoorWaterMax"), range(35, 50, "°C"));
+    QCOMPARE(section->items("comboOutdoorWaterMin"), range(20, 34, "°C"));
+    QCOMPARE(section->items("comboHeatingWaterMax"), QStringList());
+}
+
+void TestInstallationaAuto::headerOpensAndCloses()
+{
+    const auto icon = [this] {
+        return Window::find<QPushButton>(section->page, "hideButton")->icon().pixmap(24).toImage();
+    };
+    const QImage open = QIcon(":/images/btn_header_arrow_open.png").pixmap(24).toImage();
+    const QImage close = QIcon(":/images/btn_header_arrow_close.png").pixmap(24).toImage();
+    QVERIFY(open != close);
+    section->load({});
+    QVERIFY(Window::visible(section->page, "frame"));
+    QCOMPARE(icon(), close);
+    Window::click(section->page, "hideButton");
+    QVERIFY(!Window::shownItself(section->page, "frame"));
+    QCOMPARE(icon(), open);
+    Window::click(section->page, "hideButton");
+    QVERIFY(Window::visible(section->page, "frame"));
+}
+
+void TestInstallationaAuto::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("withMainZone");
+    const auto row = [](const char *name, const char *text, const char *withMainZone = nullptr) {
+        QTest::newRow(name) << QString(text) << QString(withMainZone == nullptr ? text : withMainZone);
+    };
+    row("labelTitle", "Auto mode");
+    row("labelOutdoorTemp", "Outdoor temp\ndependent mode");
+    row("labelOutdoorTempSub1", "Reference outdoor temp.");
+    row("labelOutdoorTempSub2", "Indoor air temp. range");
+    row("labelOutdoorTempSub3", "Water temp. range");
+    for (const char *name : {"labelOutdoorTempMax1", "labelOutdoorTempMax2", "labelOutdoorTempMax3"}) {
+        row(name, "Max");
+    }
+    for (const char *name : {"labelOutdoorTempMin1", "labelOutdoorTempMin2", "labelOutdoorTempMin3"}) {
+        row(name, "Min");
+    }
+    row("labelSeasonalAutoMode", "Seasonal auto mode");
+    row("radioHeatingOnly", "Heating only");
+    row("radioCoolingOnly", "Cooling only");
+    row("radioBoth", "Heating and Cooling");
+    row("labelSeasonalOutdoor", "Reference outdoor temp.");
+    row("labelSeasonalAir", "Indoor air temp. curve", "Indoor air temp. curve (Circuit 2)");
+    row("labelSeasonalWater", "Water temp. curve", "Water temp. curve (Circuit 2)");
+    row("labelMainZoneIndoor", "Indoor air temp. curve (Circuit 1)");
+    row("labelMainZoneWater", "Water temp. curve (Circuit 1)");
+    for (const char *name : {"labelSeasonalOutdoorCool", "labelSeasonalAirCool", "labelSeasonalWaterCool",
+                             "labelMainZoneIndoorCool", "labelMainZoneWaterCool"}) {
+        row(name, "Cooling");
+    }
+    for (const char *name : {"labelSeasonalOutdoorHeat", "labelSeasonalAirHeat", "labelSeasonalWaterHeat",
+                             "labelMainZoneIndoorHeat", "labelMainZoneWaterHeat"}) {
+        row(name, "Heating");
+    }
+}
+
+void TestInstallationaAuto::textsFollowTheLanguage()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, withMainZone);
+    const auto caption = [this] {
+        return Window::find(section->page, QTest::currentDataTag())->property("text").toString();
+    };
+    section->load(seasonalPlant("clr"));
+    section->window.speak();
+    QCOMPARE(caption(), text);
+    section->load(seasonalPlant("set"));
+    const QJsonDocument before = section->window.dialog.document();
+    const QStringList lists = section->allLists();
+    section->window.speak("~");
+    QCOMPARE(caption(), withMainZone + "~");
+    QCOMPARE(section->window.dialog.document(), before);
+    QCOMPARE(section->allLists(), lists);
+    section->window.speak();
+}
+
+void TestInstallationaAuto::circuitCaptionsKeepTheirFormUntilTheLanguageChanges()
+{
+    const auto caption = [this](const char *name) {
+        return Window::find<QLabel>(section->page, name)->text();
+    };
+    section->load(seasonalPlant("CLR"));
+    section->window.speak();
+    section->load(seasonalPlant("SET"));
+    QCOMPARE(caption("labelSeasonalAir"), QString("Indoor air temp. curve"));
+    QCOMPARE(caption("labelSeasonalWater"), QString("Water temp. curve"));
+    section->window.speak();
+    QCOMPARE(caption("labelSeasonalAir"), QString("Indoor air temp. curve (Circuit 2)"));
+    QCOMPARE(caption("labelSeasonalWater"), QString("Water temp. curve (Circuit 2)"));
+}
+
+void TestInstallationaAuto::endCaptions()
+{
+    section->load({});
+    section->window.speak("~");
+    QStringList captioned;
+    const auto labels = section->page->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy() != nullptr && (label->text() == "Max~" || label->text() == "Min~")) {
+            QCOMPARE(label->buddy()->objectName().right(3), label->text().left(3));
+            captioned.append(label->buddy()->objectName());
+        }
+    }
+    captioned.removeDuplicates();
+    QCOMPARE(captioned.size(), 26);
+    section->window.speak();
+}
+
+void TestInstallationaAuto::boxesWrite_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QVariantMap>("document");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QVariantMap>("written");
+    for (const Case &each : cases) {
+        const QString path = (QString(each.path).startsWith("autoOp") ? root : seasonalRoot) + each.path;
+        const bool outdoorMode = QString(each.box).startsWith("Outdoor");
+        // Any text but "CLR" as it stands counts as the main zone in use.
+        for (const char *use : {"SET", "CLR", "clr"}) {
+            if (*each.mainZonePath == '\0' && qstrcmp(use, "SET") != 0) {
+                continue;
+            }
+            for (const bool fahrenheit : {false, true}) {
+                const int value = fahrenheit ? each.celsiusOfFahrenheit : each.celsius;
+                QVariantMap written{{path, value}};
+                if (*each.mainZonePath != '\0' && qstrcmp(use, "CLR") == 0) {
+                    written.insert(seasonalRoot + each.mainZonePath, value);
+                }
+                QTest::newRow(qPrintable(QString("%1, %2, %3").arg(each.box, use, fahrenheit ? "°F" : "°C")))
+                    << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonalPlant(use))
+                    << QByteArray(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE")
+                    << (fahrenheit ? QString("%1°F").arg(each.fahrenheit) : QString("%1°C").arg(each.celsius))
+                    << written;
+            }
+        }
+    }
+}
+
+void TestInstallationaAuto::boxesWrite()
+{
+    QFETCH(QString, box);
+    QFETCH(QVariantMap, document);
+    QFETCH(QByteArray, unit);
+    QFETCH(QString, item);
+    QFETCH(QVariantMap, written);
+    section->load(document, "R32", unit);
+    section->window.dialog.setAutoSectionValid(false);
+    auto *combo = Window::find<QComboBox>(section->page, qPrintable(box));
+    QCOMPARE(section->window.changes([&] { Window::choose(combo, item); }), written);
+    QCOMPARE(combo->currentText(), item);
+    QVERIFY(section->window.dialog.members().autoSectionValid);
+}
+
+void TestInstallationaAuto::closedSectionWritesNothing()
+{
+    section->load(join({seasonalPlant("CLR"), {{root + "autoOp_outtemp.max", 99}}}));
+    Window::expand(section->page, false);
+    section->window.use(
+        documents::with(section->window.dialog.document(), {{root + "autoOp_outtemp.max", 99}}));
+    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), QVariantMap());
+    QCOMPARE(section->shown("comboOutdoorOutdoorMax"), QString("35°C"));
+    auto *combo = Window::find<QComboBox>(section->page, "comboHeatingWaterMax");
+    QCOMPARE(section->window.changes([combo] { combo->setCurrentText("40°C"); }), QVariantMap());
+    QCOMPARE(combo->currentText(), QString("40°C"));
+    QCOMPARE(section->shown("comboMainZoneHeatingWaterMax"), QString("40°C"));
+    QCOMPARE(section->window.changes([this] { Window::invoke(section->page, "on_radioBoth_clicked"); }),
+             QVariantMap());
+    // The lists stay apart from the document until the next refresh; opening alone loads nothing.
+    QCOMPARE(section->window.changes([this] { Window::expand(section->page); }), QVariantMap());
+    QCOMPARE(combo->currentText(), QString("40°C"));
+    QCOMPARE(section->window.changes([combo] { Window::choose(combo, "41°C"); }),
+             (QVariantMap{{seasonalRoot + "heatWaterTemp.max", 41},
+                          {seasonalRoot + "heatWaterTempMainZone.max", 41}}));
+}
+
+void TestInstallationaAuto::nothingIsWrittenWithoutDocument()
+{
+    section->load({});
+    section->window.dialog.setDocument(QJsonDocument());
+    section->page->refresh();
+    Window::invoke(section->page, "on_radioBoth_clicked");
+    Window::find<QComboBox>(section->page, "comboOutdoorWaterMax")->setCurrentIndex(5);
+    QVERIFY(section->window.dialog.document().isNull());
+}
+
+void TestInstallationaAuto::modeIsWritten_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::newRow("radioHeatingOnly") << "HEAT_ONLY";
+    QTest::newRow("radioCoolingOnly") << "COOL_ONLY";
+    QTest::newRow("radioBoth") << "HEAT_N_COOL";
+}
+
+void TestInstallationaAuto::modeIsWritten()
+{
+    QFETCH(QString, word);
+    const QString path = seasonalRoot + "seasonalAutoOpMode";
+    section->load(join({seasonalPlant("SET"), {{path, "x"}}}));
+    section->window.dialog.setAutoSectionValid(false);
+    const QStringList lists = section->allLists();
+    QCOMPARE(section->window.changes([this] { Window::click(section->page, QTest::currentDataTag()); }),
+             (QVariantMap{{path, word}}));
+    QVERIFY(section->window.dialog.members().autoSectionValid);
+    QCOMPARE(section->allLists(), lists);
+    for (const char *row : {"groupBoxHeatOutTemp", "groupBoxCoolOutTemp", "groupBoxHeatWaterTemp",
+                            "groupBoxCoolWaterTemp", "groupBoxMainZoneIndoor"}) {
+        QVERIFY2(Window::visible(section->page, row) && Window::enabled(section->page, row), row);
+    }
+}
+
+void TestInstallationaAuto::modeIsLoaded()
+{
+    const QString path = seasonalRoot + "seasonalAutoOpMode";
+    const QList<QPair<QString, const char *>> words{
+        {"heat_only", "radioHeatingOnly"}, {"Cool_Only", "radioCoolingOnly"}, {"HEAT_N_COOL", "radioBoth"}};
+    for (const auto &[word, radio] : words) {
+        section->load(join({seasonalPlant("SET"), {{path, word}}}));
+        QVERIFY2(Window::checked(section->page, radio), radio);
+        QCOMPARE(
+            section->window.dialog.document(),
+            documents::with(
+                documents::standard("R32"),
+                join({seasonalPlant("SET"), {{path, word}}, {{root + "autoOp_tempwater.low_limit", 20}}})));
+    }
+    section->load(join({seasonalPlant("SET"), {{path, "NONE"}}}));
+    QVERIFY(Window::checked(section->page, "radioBoth"));
+}
+
+void TestInstallationaAuto::storedValuesAreShown()
+{
+    section->load(seasonalPlant("SET"));
+    const QMap<QString, int> values{
+        {"OutdoorOutdoorMax", 15},        {"OutdoorOutdoorMin", -10},       {"OutdoorIndoorMax", 21},
+        {"OutdoorIndoorMin", 16},         {"OutdoorWaterMax", 65},          {"OutdoorWaterMin", 20},
+        {"HeatingOutdoorMax", 16},        {"HeatingOutdoorMin", -10},       {"CoolingOutdoorMax", 40},
+        {"CoolingOutdoorMin", 30},        {"HeatingIndoorMax", 29},         {"HeatingIndoorMin", 24},
+        {"CoolingIndoorMax", 22},         {"CoolingIndoorMin", 18},         {"HeatingWaterMax", 45},
+        {"HeatingWaterMin", 30},          {"CoolingWaterMax", 20},          {"CoolingWaterMin", 16},
+        {"MainZoneHeatingIndoorMax", 26}, {"MainZoneHeatingIndoorMin", 20}, {"MainZoneIndoorMax", 26},
+        {"MainZoneIndoorMin", 20},        {"MainZoneHeatingWaterMax", 40},  {"MainZoneHeatingWaterMin", 25},
+        {"MainZoneWaterMax", 24},         {"MainZoneWaterMin", 18}};
+    QCOMPARE(values.size(), 26);
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const QString box = "combo" + value.key();
+        QVERIFY2(section->shown(qPrintable(box)) == QString("%1°C").arg(value.value()), qPrintable(box));
+    }
+    // A value outside its list lands on an end of it and stays in the document.
+    section->window.use(
+        documents::with(section->window.dialog.document(), {{seasonalRoot + "heatWaterTemp.max", 70}}));
+    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), QVariantMap());
+    QCOMPARE(section->shown("comboHeatingWaterMax"), QString("65°C"));
+}
+
+void TestInstallationaAuto::rowsFollowTheFlags_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QStringList>("hidden");
+    const QVariantMap on{{"IduFuncList.isSeasonalAuto", "set"}};
+    const QString outdoorMode = "groupBoxOutdoorMode";
+    const QStringList mainZoneRows{"groupBoxMainZoneIndoor", "groupBoxMainZoneWater"};
+    const QStringList mainZoneWater{"groupBoxHeatWaterTempMainZone", "groupBoxCoolWaterTempMainZone"};
+    const QStringList airRows{"groupBoxHeatAirTemp", "groupBoxCoolAirTemp"};
+    const QStringList waterRows{"groupBoxHeatWaterTemp", "groupBoxCoolWaterTemp"};
+    const auto row = [](const char *name, const QVariantMap &values, const QStringList &hidden) {
+        QTest::newRow(name) << values << hidden;
+    };
+    row("outdoor mode",
+        join({sensing("AIR", "SET"), mainZone("SET"), {{"IduFuncList.isSeasonalAuto", "CLR"}}}),
+        {"groupBoxSeasonalAutoMode"});
+    row("air and water, main zone", join({on, sensing("air", "set"), mainZone("set")}), {outdoorMode});
+    row("air and water", join({on, sensing("AIR", "SET"), mainZone("clr")}),
+        QStringList{outdoorMode} + mainZoneRows + mainZoneWater);
+    row("air and water, main zone of another word", join({on, sensing("AIR", "SET"), mainZone("x")}),
+        QStringList{outdoorMode} + mainZoneRows);
+    row("air, main zone", join({on, sensing("AIR", "clr"), mainZone("SET")}),
+        QStringList{outdoorMode, "groupBoxMainZoneWater", "groupBoxSeasonalWater"} + mainZoneWater
+            + waterRows);
+    row("air", join({on, sensing("AIR", "CLR"), mainZone("CLR")}),
+        QStringList{outdoorMode, "groupBoxSeasonalWater"} + mainZoneRows + mainZoneWater + waterRows);
+    row("air, neither SET nor CLR", join({on, sensing("AIR", "x"), mainZone("SET")}),
+        {outdoorMode, "groupBoxMainZoneWater", "groupBoxSeasonalWater"});
+    row("water, main zone", join({on, sensing("water", "CLR"), mainZone("SET")}),
+        QStringList{outdoorMode, "groupBoxMainZoneIndoor", "groupBoxSeasonalIndoor"} + airRows);
+    row("water", join({on, sensing("WATER", "CLR"), mainZone("CLR")}),
+        QStringList{outdoorMode, "groupBoxSeasonalIndoor"} + mainZoneRows + mainZoneWater + airRows);
+    row("water and both", join({on, sensing("WATER", "SET"), mainZone("SET")}),
+        QStringList{outdoorMode} + airRows);
+}
+
+void TestInstallationaAuto::rowsFollowTheFlags()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(QStringList, hidden);
+    section->load(values);
+    for (const char *row :
+         {"groupBoxOutdoorMode", "groupBoxSeasonalAutoMode", "groupBoxHeatOutTemp", "groupBoxCoolOutTemp",
+          "groupBoxMainZoneIndoor", "groupBoxSeasonalIndoor", "groupBoxHeatAirTemp", "groupBoxCoolAirTemp",
+          "groupBoxMainZoneWater", "groupBoxHeatWaterTempMainZone", "groupBoxCoolWaterTempMainZone",
+          "groupBoxSeasonalWater", "groupBoxHeatWaterTemp", "groupBoxCoolWaterTemp"}) {
+        QVERIFY2(Window::shownItself(section->page, row) == !hidden.contains(row), row);
+    }
+    // The lists of the hidden form are filled all the same.
+    QCOMPARE(section->shown("comboHeatingOutdoorMax"), QString("16°C"));
+    QCOMPARE(section->shown("comboOutdoorOutdoorMax"), QString("15°C"));
+}
+
+void TestInstallationaAuto::unknownSensingChangesNoRow()
+{
+    section->load(join({seasonalPlant("SET"), sensing("WATER", "CLR")}));
+    section->window.use(documents::with(section->window.dialog.document(), sensing("x", "CLR")));
+    section->page->refresh();
+    QVERIFY(!Window::shownItself(section->page, "groupBoxMainZoneIndoor"));
+    QVERIFY(!Window::shownItself(section->page, "groupBoxSeasonalIndoor"));
+    QVERIFY(Window::shownItself(section->page, "groupBoxMainZoneWater"));
+    QVERIFY(Window::shownItself(section->page, "groupBoxSeasonalWater"));
+    // These start over from all shown.
+    QVERIFY(Window::shownItself(section->page, "groupBoxHeatAirTemp"));
+}
+
+void TestInstallationaAuto::viewOfAValue()
+{
+    section->load(seasonalPlant("SET"));
+    const auto view = [this](const char *value) {
+        QMetaObject::invokeMethod(section->page, "setVisibleIndoorWaterView", Q_ARG(QString, value));
+        QString rows;
+        for (const char *row : {"groupBoxSeasonalIndoor", "groupBoxMainZoneIndoor", "groupBoxSeasonalWater",
+                                "groupBoxMainZoneWater"}) {
+            rows.append(Window::shownItself(section->page, row) ? '1' : '0');
+        }
+        return rows;
+    };
+    QCOMPARE(view("AIR"), QString("1100"));
+    QCOMPARE(view("x"), QString("1100"));
+    QCOMPARE(view("water"), QString("0011"));
+    QCOMPARE(view(""), QString("0011"));
+    QCOMPARE(view("AIR_WATER"), QString("1111"));
+}
+
+void TestInstallationaAuto::otherSectionsRefresh()
+{
+    for (QObject *sender : {static_cast<QObject *>(section->window.page<InstallationSystemSetting>()),
+                            static_cast<QObject *>(section->window.page<InstallationCool>()),
+                            static_cast<QObject *>(section->window.page<InstallationHeat>())}) {
+        section->load(seasonalPlant("SET"));
+        section->window.use(
+            documents::with(section->window.dialog.document(), {{seasonalRoot + "heatWaterTemp.max", 60}}));
+        QVERIFY(Window::invoke(sender, "refreshInstallationPageSignal"));
+        QCOMPARE(section->shown("comboHeatingWaterMax"), QString("60°C"));
+    }
+}
+
+void TestInstallationaAuto::alwaysValid()
+{
+    section->load({});
+    section->window.dialog.setAutoSectionValid(false);
+    section->window.dialog.setSystemSectionValid(true);
+    section->window.dialog.setCoolSectionValid(true);
+    section->window.dialog.setHeatSectionValid(true);
+    section->window.dialog.setDwhSectionValid(true);
+    section->window.dialog.updateInstallationValid();
+    QVERIFY(!section->window.dialog.members().installationValid);
+    messages::clear();
+    Window::invoke(section->page, "validationCheck");
+    QVERIFY(messages::contain("InstallationaAuto::validationCheck :  true"));
+    QVERIFY(section->window.dialog.members().autoSectionValid);
+    QVERIFY(section->window.dialog.members().installationValid);
+}
+
+CALORA_TEST_MAIN(TestInstallationaAuto)
+#include "tst_installationaauto.moc"

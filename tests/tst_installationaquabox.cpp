@@ -1,0 +1,515 @@
+#include "support/systemsection.h"
+
+#include "pages/installation/installationsystemaquabox.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+const QString standby = installation("modePriority.modeStandby");
+const QString hsMode = installation("hsSetting");
+const QString combination = installation("combination200.combiValue");
+const QString oilRecovery = installation("combination200.combiOilRecover");
+const QString nightType = installation("kNightType");
+const QString flowRate = installation("waterFlowRate");
+const QString leakSensor = installation("leakRefrigerant");
+
+/// A hydronic module with every group shown, and more.
+QVariantMap aquabox(const QVariantMap &more = {})
+{
+    QVariantMap values{{"product", "aquabox"}};
+    for (const char *name : {"isModeStandby", "isHsModel", "is_200Combination", "is200CombinationOp2",
+                             "isKnightModel", "isWaterFlowRate", "isLeakRefrigerant"}) {
+        values.insert(flag(name), "SET");
+    }
+    return joined(values, more);
+}
+
+QString radioStyle(const char *colour)
+{
+    return QStringLiteral("QRadioButton{color : %1} QRadioButton::indicator { width: 18px; height: 18px; "
+                          "margin-right:8px;}QRadioButton::indicator::unchecked {image: "
+                          "url(:/images/btn_radiobtn_off.png);}QRadioButton::indicator::checked {image: "
+                          "url(:/images/btn_radiobtn_on.png);}")
+        .arg(QLatin1String(colour));
+}
+
+} // namespace
+
+// The hydronic module's settings at the bottom of the system section.
+class TestInstallationAquabox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { renew(); }
+    void cleanupTestCase() { section.reset(); }
+
+    void hasItsSignalsAndSlots();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void languageKeepsPositions();
+    void listsAndTheirDefaults();
+    void writes_data();
+    void writes();
+    void checksRadios_data();
+    void checksRadios();
+    void showsValues_data();
+    void showsValues();
+    void showsGroups_data();
+    void showsGroups();
+    void valuesOfHiddenGroupsAreNotLoaded();
+    void hsModeWithoutItsFlagNeedsAClick();
+    void oilRecoveryFollowsTheCombination();
+    void leavingTheCombinationClearsItsOptions();
+    void storedOilRecoveryHasToBeChosenAgain();
+    void oilRecoveryKeepsItsFirstOption();
+    void withoutCombinationBothOptionsAreEmpty();
+    void flowRateOutsideTheListIsKept();
+    void checksBeforeItSaves();
+    void closedSectionWritesNothing();
+    void openSectionWritesItsNightType();
+    void requiresARadioOfEachPair_data();
+    void requiresARadioOfEachPair();
+    void comesUpThroughItsOwnShowEvent();
+
+private:
+    void renew()
+    {
+        section.reset();
+        section = std::make_unique<SystemSection>();
+        module = section->window.page<InstallationSystemAquabox>();
+    }
+    /// Loads the section in a closed system section, so that nothing is written back.
+    void load(const QVariantMap &values)
+    {
+        section->load(values);
+        Window::invoke(module, "refresh");
+        messages::clear();
+    }
+    void open() { Window::expand(section->page); }
+    bool checked(const char *radio) const { return Window::checked(module, radio); }
+    bool enabled(const char *name) const { return Window::enabled(module, name); }
+    QStringList checkedOptions() const
+    {
+        QStringList options{"radioOpt1", "radioOpt2"};
+        options.erase(std::remove_if(options.begin(), options.end(),
+                                     [this](const QString &radio) { return !checked(qPrintable(radio)); }),
+                      options.end());
+        return options;
+    }
+    /// What is enabled and how it looks.
+    QVariantList oilRecoveryState() const
+    {
+        QVariantList state;
+        for (const char *name : {"groupBoxCombinationSub", "radioOpt1", "radioOpt2"}) {
+            state.append(enabled(name));
+        }
+        for (const char *name : {"labelOilrecovery", "radioOpt1", "radioOpt2"}) {
+            state.append(Window::find(module, name)->styleSheet());
+        }
+        return state;
+    }
+
+    std::unique_ptr<SystemSection> section;
+    InstallationSystemAquabox *module = nullptr;
+    /// What the section has emitted.
+    QStringList order;
+};
+
+void TestInstallationAquabox::hasItsSignalsAndSlots()
+{
+    QCOMPARE(Window::ownSignals(module),
+             (QStringList{"validationCheckSignals(bool,QString)", "saveJsonValue(QString,QJsonValue)",
+                          "refreshInstallationPage()"}));
+    QCOMPARE(Window::ownSlots(module),
+             (QStringList{"initUi()",
+                          "refresh()",
+                          "parseJsonData(QString)",
+                          "loadJsonData()",
+                          "setLoadJsonValue()",
+                          "enableOilRecovery()",
+                          "setRadioTextOpacity(bool)",
+                          "on_radioStandbyNotuse_clicked()",
+                          "on_radioStandbyUse_clicked()",
+                          "on_radioHsmodeNotuse_clicked()",
+                          "on_radioHsmodeUse_clicked()",
+                          "on_comboKnightType_currentTextChanged(QString)",
+                          "on_comboWater_currentTextChanged(QString)",
+                          "on_radioRefrigerantNotuse_clicked()",
+                          "on_radioRefrigerantUse_clicked()",
+                          "on_radioOpt1_clicked()",
+                          "on_radioOpt2_clicked()",
+                          "on_radioCombinationNotuse_clicked()",
+                          "on_radioCombinationUse_clicked()",
+                          "validationCheck()"}));
+}
+
+void TestInstallationAquabox::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelModeStandby") << "Standby mode";
+    QTest::newRow("radioStandbyNotuse") << "Not use";
+    QTest::newRow("radioStandbyUse") << "ODU cycle priority";
+    QTest::newRow("labelHsMode") << "HS model";
+    QTest::newRow("radioHsmodeNotuse") << "Not use";
+    QTest::newRow("radioHsmodeUse") << "Use";
+    QTest::newRow("labelCombination") << "Cooling / Heating only mode";
+    QTest::newRow("radioCombinationNotuse") << "Not use";
+    QTest::newRow("radioCombinationUse") << "Use";
+    QTest::newRow("labelOilrecovery") << "Oil recovery";
+    QTest::newRow("radioOpt1") << "Type0";
+    QTest::newRow("radioOpt2") << "Type1";
+    QTest::newRow("labelNightTime") << "Night-time power";
+    QTest::newRow("labelWaterFlow") << "Pump frequency(LPM)";
+    QTest::newRow("labelRefrigerant") << "Refrigerant leak sensor";
+    QTest::newRow("radioRefrigerantNotuse") << "Not use";
+    QTest::newRow("radioRefrigerantUse") << "Use";
+}
+
+void TestInstallationAquabox::textsFollowTheLanguage()
+{
+    QFETCH(QString, text);
+    const QWidget *widget = Window::find(module, QTest::currentDataTag());
+    QCOMPARE(widget->property("text").toString(), text);
+    section->window.speak("~");
+    const QString marked = widget->property("text").toString();
+    section->window.speak();
+    QCOMPARE(marked, QString(text + QLatin1Char('~')));
+}
+
+void TestInstallationAquabox::languageKeepsPositions()
+{
+    load(aquabox({{nightType, "STEP2"}}));
+    open();
+    const QVariantMap changes = section->window.changes([this] { section->window.speak("~"); });
+    const QString shown = Window::shown(module, "comboKnightType");
+    section->window.speak();
+    QCOMPARE(changes, QVariantMap());
+    QCOMPARE(shown, QStringLiteral("STEP2~"));
+}
+
+void TestInstallationAquabox::listsAndTheirDefaults()
+{
+    load(aquabox());
+    QCOMPARE(Window::items(module, "comboWater"), range(15, 92, ""));
+    QCOMPARE(Window::shown(module, "comboWater"), QStringLiteral("92"));
+    QCOMPARE(Window::items(module, "comboKnightType"), (QStringList{"STEP0", "STEP1", "STEP2", "STEP3"}));
+    section->window.speak("~");
+    Window::invoke(module, "initUi");
+    const QStringList untranslated = Window::items(module, "comboKnightType");
+    section->window.speak();
+    QCOMPARE(untranslated, (QStringList{"STEP0", "STEP1", "STEP2", "STEP3"}));
+}
+
+void TestInstallationAquabox::writes_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QVariantMap>("before");
+    QTest::addColumn<QVariantMap>("after");
+    const auto row = [](const char *control, const char *item, const QVariantMap &before,
+                        const QVariantMap &after) {
+        QTest::addRow("%s %s", control, item) << QByteArray(control) << QString(item) << before << after;
+    };
+    const auto pair = [row](const char *first, const char *second, const QString &path) {
+        row(first, "", {{path, "SET"}}, {{path, "CLR"}});
+        row(second, "", {{path, "CLR"}}, {{path, "SET"}});
+    };
+    pair("radioStandbyNotuse", "radioStandbyUse", standby);
+    pair("radioHsmodeNotuse", "radioHsmodeUse", hsMode);
+    pair("radioCombinationNotuse", "radioCombinationUse", combination);
+    pair("radioRefrigerantNotuse", "radioRefrigerantUse", leakSensor);
+    row("radioOpt1", "", {{combination, "SET"}, {oilRecovery, "SET"}}, {{oilRecovery, "CLR"}});
+    row("radioOpt2", "", {{combination, "SET"}, {oilRecovery, "CLR"}}, {{oilRecovery, "SET"}});
+    row("comboKnightType", "STEP3", {}, {{nightType, "STEP3"}});
+    row("comboKnightType", "STEP0", {{nightType, "STEP1"}}, {{nightType, "STEP0"}});
+    row("comboWater", "15", {}, {{flowRate, 15}});
+    row("comboWater", "92", {{flowRate, 20}}, {{flowRate, 92}});
+}
+
+void TestInstallationAquabox::writes()
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QString, item);
+    QFETCH(QVariantMap, before);
+    QFETCH(QVariantMap, after);
+    load(aquabox(before));
+    open();
+    QCOMPARE(section->window.changes([&] {
+        if (item.isEmpty()) {
+            Window::click(module, control.constData());
+        } else {
+            Window::choose(module, control.constData(), item);
+        }
+    }),
+             after);
+}
+
+void TestInstallationAquabox::checksRadios_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QStringList>("radios");
+    QTest::addColumn<QString>("expected");
+    const auto pair = [](const QString &path, const QString &first, const QString &second,
+                         const QString &other) {
+        const QStringList radios{first, second};
+        QTest::addRow("%s clr", qPrintable(first)) << path << "clr" << radios << first;
+        QTest::addRow("%s set", qPrintable(first)) << path << "set" << radios << second;
+        QTest::addRow("%s other", qPrintable(first)) << path << "x" << radios << other;
+    };
+    pair(standby, "radioStandbyNotuse", "radioStandbyUse", "");
+    pair(hsMode, "radioHsmodeNotuse", "radioHsmodeUse", "");
+    pair(combination, "radioCombinationNotuse", "radioCombinationUse", "radioCombinationNotuse");
+    pair(leakSensor, "radioRefrigerantNotuse", "radioRefrigerantUse", "");
+}
+
+void TestInstallationAquabox::checksRadios()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, word);
+    QFETCH(QStringList, radios);
+    QFETCH(QString, expected);
+    load(aquabox({{path, expected == radios.first() ? "SET" : "CLR"}}));
+    load(aquabox({{path, word}}));
+    for (const QString &radio : qAsConst(radios)) {
+        QCOMPARE(checked(qPrintable(radio)), radio == expected);
+    }
+}
+
+void TestInstallationAquabox::showsValues_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char *name, const char *control, const QVariantMap &values, const char *shown) {
+        QTest::addRow("%s %s", control, name) << QByteArray(control) << values << QString(shown);
+    };
+    row("value", "comboKnightType", {{nightType, "STEP3"}}, "STEP3");
+    row("unknown", "comboKnightType", {{nightType, "STEP9"}}, "STEP0");
+    row("empty", "comboKnightType", {{nightType, ""}}, "STEP0");
+    row("value", "comboWater", {{flowRate, 50}}, "50");
+    row("too low", "comboWater", {{flowRate, 14}}, "15");
+}
+
+void TestInstallationAquabox::showsValues()
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QVariantMap, values);
+    QFETCH(QString, shown);
+    load(aquabox(values));
+    QCOMPARE(Window::shown(module, control.constData()), shown);
+    QCOMPARE(section->document(), documents::with(documents::standard("R32"), aquabox(values)));
+}
+
+void TestInstallationAquabox::showsGroups_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("groupBoxModeStandby") << flag("isModeStandby");
+    QTest::newRow("groupBoxCombination") << flag("is_200Combination");
+    QTest::newRow("groupBoxCombinationSub") << flag("is200CombinationOp2");
+    QTest::newRow("groupBoxTimerOfNight") << flag("isKnightModel");
+    QTest::newRow("groupBoxWaterFlow") << flag("isWaterFlowRate");
+    QTest::newRow("groupBoxRefrigerant") << flag("isLeakRefrigerant");
+}
+
+void TestInstallationAquabox::showsGroups()
+{
+    QFETCH(QString, name);
+    load(aquabox({{name, "CLR"}, {flag("isHsModel"), "CLR"}}));
+    QVERIFY(!Window::shownItself(module, QTest::currentDataTag()));
+    QVERIFY(Window::shownItself(module, "groupBoxHsMode"));
+    load(aquabox({{name, "set"}}));
+    QVERIFY(Window::shownItself(module, QTest::currentDataTag()));
+}
+
+void TestInstallationAquabox::valuesOfHiddenGroupsAreNotLoaded()
+{
+    load(aquabox());
+    load(aquabox({{flag("isModeStandby"), "CLR"},
+                  {flag("isHsModel"), "CLR"},
+                  {flag("isLeakRefrigerant"), "CLR"},
+                  {flag("is_200Combination"), "CLR"},
+                  {standby, "SET"},
+                  {hsMode, "SET"},
+                  {leakSensor, "SET"},
+                  {combination, "SET"}}));
+    for (const char *radio :
+         {"radioStandbyNotuse", "radioHsmodeNotuse", "radioRefrigerantNotuse", "radioCombinationNotuse"}) {
+        QVERIFY2(checked(radio), radio);
+    }
+}
+
+void TestInstallationAquabox::hsModeWithoutItsFlagNeedsAClick()
+{
+    renew();
+    load(aquabox({{flag("isHsModel"), "CLR"}, {hsMode, "SET"}}));
+    open();
+    QVERIFY(!checked("radioHsmodeNotuse") && !checked("radioHsmodeUse"));
+    QVERIFY(!section->members().systemSectionValid);
+    Window::click(module, "radioHsmodeNotuse");
+    QVERIFY(section->members().systemSectionValid);
+}
+
+void TestInstallationAquabox::oilRecoveryFollowsTheCombination()
+{
+    const QVariantList on{
+        true, true, true, "color : #555555;", radioStyle("rgba(33,33,33)"), radioStyle("rgba(33,33,33)")};
+    const QVariantList off{false,
+                           false,
+                           false,
+                           "color : rgba(55,55,55,30%)",
+                           radioStyle("rgba(33,33,33,30%)"),
+                           radioStyle("rgba(33,33,33,30%)")};
+    load(aquabox({{combination, "SET"}}));
+    QCOMPARE(oilRecoveryState(), on);
+    open();
+    Window::click(module, "radioCombinationNotuse");
+    QCOMPARE(oilRecoveryState(), off);
+    Window::click(module, "radioCombinationUse");
+    QCOMPARE(oilRecoveryState(), on);
+    load(aquabox());
+    QCOMPARE(oilRecoveryState(), off);
+}
+
+void TestInstallationAquabox::leavingTheCombinationClearsItsOptions()
+{
+    load(aquabox({{combination, "SET"}}));
+    QCOMPARE(checkedOptions(), QStringList{"radioOpt1"});
+    open();
+    Window::click(module, "radioCombinationNotuse");
+    QCOMPARE(checkedOptions(), QStringList());
+    QVERIFY(section->members().systemSectionValid);
+    Window::click(module, "radioCombinationUse");
+    QCOMPARE(checkedOptions(), QStringList());
+    QVERIFY(!section->members().systemSectionValid);
+    Window::click(module, "radioOpt1");
+    QVERIFY(section->members().systemSectionValid);
+}
+
+void TestInstallationAquabox::storedOilRecoveryHasToBeChosenAgain()
+{
+    load(aquabox());
+    const QVariantMap stored = aquabox({{combination, "SET"}, {oilRecovery, "SET"}});
+    load(stored);
+    QCOMPARE(checkedOptions(), QStringList());
+    open();
+    QVERIFY(!section->members().systemSectionValid);
+    QCOMPARE(section->window.changes([this] { Window::click(module, "radioOpt2"); }), QVariantMap());
+    QVERIFY(section->members().systemSectionValid);
+    // The next load asks again.
+    load(stored);
+    QVERIFY(!checked("radioOpt2"));
+}
+
+// The load names the second option alone.
+void TestInstallationAquabox::oilRecoveryKeepsItsFirstOption()
+{
+    load(aquabox({{combination, "SET"}, {oilRecovery, "CLR"}}));
+    load(aquabox({{combination, "SET"}, {oilRecovery, "SET"}}));
+    QCOMPARE(checkedOptions(), QStringList{"radioOpt1"});
+}
+
+void TestInstallationAquabox::withoutCombinationBothOptionsAreEmpty()
+{
+    load(aquabox({{combination, "SET"}, {oilRecovery, "CLR"}}));
+    load(aquabox());
+    QCOMPARE(checkedOptions(), QStringList());
+    QVERIFY(!enabled("radioOpt1") && !enabled("radioOpt2"));
+    open();
+    QVERIFY(section->members().systemSectionValid);
+}
+
+void TestInstallationAquabox::flowRateOutsideTheListIsKept()
+{
+    section->load(aquabox({{flowRate, 100}}));
+    open();
+    QVERIFY(messages::contain("# Error index setting"));
+    QCOMPARE(Window::shown(module, "comboWater"), QStringLiteral("15"));
+    QCOMPARE(section->document(), documents::with(documents::standard("R32"), aquabox({{flowRate, 100}})));
+}
+
+void TestInstallationAquabox::checksBeforeItSaves()
+{
+    load(aquabox({{combination, "SET"}}));
+    open();
+    QSignalSpy refreshed(module, &InstallationSystemAquabox::refreshInstallationPage);
+    QObject context;
+    connect(module, &InstallationSystemAquabox::validationCheckSignals, &context,
+            [this](bool, const QString &type) { order.append(type); });
+    connect(module, &InstallationSystemAquabox::saveJsonValue, &context, [this] { order.append("save"); });
+    for (const char *radio : {"radioStandbyNotuse", "radioStandbyUse", "radioHsmodeNotuse", "radioHsmodeUse",
+                              "radioRefrigerantNotuse", "radioRefrigerantUse", "radioOpt1", "radioOpt2",
+                              "radioCombinationNotuse", "radioCombinationUse"}) {
+        order.clear();
+        Window::click(module, radio);
+        QCOMPARE(order, (QStringList{"AQUABOX", "save"}));
+    }
+    for (const char *combo : {"comboKnightType", "comboWater"}) {
+        order.clear();
+        Window::choose(Window::find<QComboBox>(module, combo), 2);
+        QCOMPARE(order, (QStringList{"AQUABOX", "save"}));
+    }
+    QCOMPARE(refreshed.size(), 0);
+}
+
+void TestInstallationAquabox::closedSectionWritesNothing()
+{
+    load(aquabox());
+    QSignalSpy saved(module, &InstallationSystemAquabox::saveJsonValue);
+    const QVariantMap changes = section->window.changes([this] {
+        for (const char *radio : {"radioStandbyUse", "radioHsmodeUse", "radioCombinationUse", "radioOpt2",
+                                  "radioRefrigerantUse"}) {
+            Window::find<QRadioButton>(module, radio)->click();
+        }
+        Window::find<QComboBox>(module, "comboKnightType")->setCurrentIndex(1);
+        Window::find<QComboBox>(module, "comboWater")->setCurrentIndex(1);
+    });
+    QCOMPARE(changes, QVariantMap());
+    QCOMPARE(saved.size(), 7);
+}
+
+void TestInstallationAquabox::openSectionWritesItsNightType()
+{
+    load(aquabox({{nightType, "STEP1"}}));
+    open();
+    section->window.use(documents::with(section->document(), {{nightType, "STEP9"}, {flowRate, 100}}));
+    QCOMPARE(section->window.changes([this] { section->showAgain(); }), (QVariantMap{{nightType, "STEP0"}}));
+}
+
+void TestInstallationAquabox::requiresARadioOfEachPair_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("radioStandbyUse") << standby;
+    QTest::newRow("radioHsmodeUse") << hsMode;
+    QTest::newRow("radioRefrigerantNotuse") << leakSensor;
+}
+
+void TestInstallationAquabox::requiresARadioOfEachPair()
+{
+    QFETCH(QString, path);
+    load(aquabox());
+    load(aquabox({{path, "x"}}));
+    open();
+    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(messages::contain("InstallationSystemAquabox::validationCheck failed!!"));
+    messages::clear();
+    Window::click(module, QTest::currentDataTag());
+    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(messages::contain("InstallationSystemAquabox::validationCheck succeed!!"));
+}
+
+void TestInstallationAquabox::comesUpThroughItsOwnShowEvent()
+{
+    renew();
+    section->load(aquabox({{standby, "SET"}}));
+    QVERIFY(!checked("radioStandbyUse"));
+    QVERIFY(!section->members().systemSectionValid);
+    open();
+    QVERIFY(checked("radioStandbyUse"));
+    QVERIFY(section->members().systemSectionValid);
+}
+
+CALORA_TEST_MAIN(TestInstallationAquabox)
+#include "tst_installationaquabox.moc"

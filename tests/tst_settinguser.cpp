@@ -1,0 +1,588 @@
+#include "support/window.h"
+
+#include "pages/operation/settinguser.h"
+
+#include <QJsonObject>
+
+namespace {
+
+constexpr int unset = -9999;
+const QString user = QStringLiteral("SettingInfo.user.");
+const QString year = user + QStringLiteral("DateInfo.year");
+const QString month = user + QStringLiteral("DateInfo.month");
+const QString mday = user + QStringLiteral("DateInfo.mday");
+const QString summerTime = user + QStringLiteral("summerTime.enable");
+const QString startMonth = user + QStringLiteral("summerTime.start.mon");
+const QString startDay = user + QStringLiteral("summerTime.start.day");
+const QString endMonth = user + QStringLiteral("summerTime.end.mon");
+const QString endDay = user + QStringLiteral("summerTime.end.day");
+const QString brightness = user + QStringLiteral("backlightControl.brightness");
+const QString timer = user + QStringLiteral("backlightControl.dimmTimeSet");
+const QString theme = user + QStringLiteral("themeSet");
+const QString tempConversion = user + QStringLiteral("tempUnit.tempConversion");
+
+const QVariantMap dated{{year, 2024}, {month, 5}, {mday, 6}};
+
+QVariantMap merged(QVariantMap values, const QVariantMap &more)
+{
+    for (auto value = more.begin(); value != more.end(); ++value) {
+        values.insert(value.key(), value.value());
+    }
+    return values;
+}
+
+QStringList headed(const QString &first, int lower, int upper)
+{
+    return QStringList{first} + range(lower, upper, QString());
+}
+
+} // namespace
+
+// The User tab: temperature unit, backlight, date, summer time, theme.
+class TestSettingUser : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { messages::clear(); }
+    void cleanup() { window->speak(); }
+    void cleanupTestCase() { window.reset(); }
+
+    void writesNothingBeforeItIsShown();
+    void firstShowingLoads();
+    void startsWithTheTextsOfTheForm_data();
+    void startsWithTheTextsOfTheForm();
+    void slotsAreDeclaredInOrder();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void listsAtConstruction_data();
+    void listsAtConstruction();
+    void languageChangeKeepsPositions();
+    void languageChangeSelectsWhereNothingWas();
+    void otherLanguageLoadsAndSaves();
+    void defaultsShowAndStay_data();
+    void defaultsShowAndStay();
+    void showingLeavesTheStepMarks();
+    void radiosShow_data();
+    void radiosShow();
+    void radiosWrite_data();
+    void radiosWrite();
+    void unitDrivesTheTool();
+    void combosWrite_data();
+    void combosWrite();
+    void backlightShows_data();
+    void backlightShows();
+    void valuesThatAreNotListedPass();
+    void chainGoesInOrder();
+    void chainTakesRadiosFirst();
+    void everyChangeIsChecked();
+    void blocksAllLists();
+    void stylesOfEnabledAndDimmed();
+    void writesIntoAnEmptyDocument();
+
+private:
+    void show(const QVariantMap &values = {});
+    QComboBox *combo(const char *name) const { return Window::find<QComboBox>(page, name); }
+    QVariantMap changesOf(const char *name, const QString &item) const
+    {
+        return window->changes([&] { Window::choose(page, name, item); });
+    }
+    QVariant stored(const QString &path) const
+    {
+        QJsonValue value;
+        QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
+                                  Q_ARG(QString, path));
+        return value.toVariant();
+    }
+    bool valid() const { return window->dialog.members().userValid; }
+
+    std::unique_ptr<Window> window;
+    SettingUser *page = nullptr;
+};
+
+void TestSettingUser::initTestCase()
+{
+    window = std::make_unique<Window>();
+    page = window->page<SettingUser>();
+}
+
+void TestSettingUser::show(const QVariantMap &values)
+{
+    window->use(documents::with(documents::standard("R410"), values));
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+}
+
+// The first test: the page has not been shown yet.
+void TestSettingUser::writesNothingBeforeItIsShown()
+{
+    window->use(documents::standard("R410"));
+    combo("comboBrightness")->setCurrentIndex(2);
+    combo("comboDateYear")->setCurrentIndex(2);
+    Window::invoke(page, "on_radioBlack_clicked");
+    QCOMPARE(window->dialog.document(), documents::standard("R410"));
+}
+
+// The second test: the load itself writes already, and the day is disabled though the month hasn't changed.
+void TestSettingUser::firstShowingLoads()
+{
+    show({{brightness, "brightness30"}});
+    QCOMPARE(stored(brightness).toString(), QStringLiteral("BRIGHTNESS30"));
+    QCOMPARE(combo("comboDateMonth")->currentIndex(), 0);
+    QVERIFY(!Window::enabled(page, "comboDateDay"));
+}
+
+void TestSettingUser::startsWithTheTextsOfTheForm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelTempUnit") << "Temperature Unit";
+    QTest::newRow("radioCelicious") << "Celsius";
+    QTest::newRow("radioFahreheit") << "Fahrenheit";
+    QTest::newRow("labelRemoteController") << "Remote Controller\nBacklight Control";
+    QTest::newRow("labelScreenSaverTimer") << "Screen Saver Timer";
+    QTest::newRow("labelBrightness") << "Brightness";
+    QTest::newRow("labelDate") << "Date";
+    QTest::newRow("labelSummerTime") << "Summer Time";
+    QTest::newRow("radioSummerTimeNotuse") << "Not Use";
+    QTest::newRow("radioSummerTimeUse") << "Use";
+    QTest::newRow("labelStartDay") << "Start Day";
+    QTest::newRow("labelEndDay") << "End Day";
+    QTest::newRow("labelRemoteTheme") << "Remote Controller\nDisplay Theme";
+    QTest::newRow("radioWhite") << "White";
+    QTest::newRow("radioBlack") << "Black";
+}
+
+void TestSettingUser::startsWithTheTextsOfTheForm()
+{
+    QFETCH(QString, text);
+    const SettingUser fresh;
+    QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
+}
+
+void TestSettingUser::slotsAreDeclaredInOrder()
+{
+    QCOMPARE(Window::ownSignals(page), QStringList());
+    QCOMPARE(Window::ownSlots(page),
+             (QStringList{"initUi()",
+                          "blockComboBoxSignal(bool)",
+                          "saveJsonData(QString,QJsonValue)",
+                          "parseJsonData(QString)",
+                          "loadJsonData()",
+                          "setLoadJsonValue()",
+                          "setOpacity(bool)",
+                          "enableSummerTime()",
+                          "calcDay(QComboBox*,QComboBox*)",
+                          "calcDayInlanguage(QComboBox*,QComboBox*)",
+                          "validationCheck()",
+                          "changeLanguage()",
+                          "changeLanguageInCombobox()",
+                          "on_radioCelicious_clicked()",
+                          "on_radioFahreheit_clicked()",
+                          "on_comboScreenSaverTimer_currentTextChanged(QString)",
+                          "on_comboBrightness_currentTextChanged(QString)",
+                          "on_comboDateYear_currentTextChanged(QString)",
+                          "on_comboDateMonth_currentTextChanged(QString)",
+                          "on_comboDateDay_currentTextChanged(QString)",
+                          "on_radioSummerTimeNotuse_clicked()",
+                          "on_radioSummerTimeUse_clicked()",
+                          "on_comboStartMonth_currentTextChanged(QString)",
+                          "on_comboStartDay_currentTextChanged(QString)",
+                          "on_comboEndMonth_currentTextChanged(QString)",
+                          "on_comboEndDay_currentTextChanged(QString)",
+                          "on_radioWhite_clicked()",
+                          "on_radioBlack_clicked()"}));
+}
+
+void TestSettingUser::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("labelTempUnit") << "Temperature unit";
+    QTest::newRow("radioCelicious") << "Celsius";
+    QTest::newRow("radioFahreheit") << "Fahrenheit";
+    QTest::newRow("labelRemoteController") << "LCD brightness\nin standby mode";
+    QTest::newRow("labelScreenSaverTimer") << "Screen saver timer";
+    QTest::newRow("labelBrightness") << "Brightness";
+    QTest::newRow("labelDate") << "Date";
+    QTest::newRow("labelSummerTime") << "Summer time";
+    QTest::newRow("radioSummerTimeNotuse") << "Off";
+    QTest::newRow("radioSummerTimeUse") << "On";
+    QTest::newRow("labelStartDay") << "Start date";
+    QTest::newRow("labelEndDay") << "End date";
+    QTest::newRow("labelRemoteTheme") << "Display theme";
+    QTest::newRow("radioWhite") << "White";
+    QTest::newRow("radioBlack") << "Black";
+}
+
+void TestSettingUser::textsFollowTheLanguage()
+{
+    QFETCH(QString, text);
+    const QWidget *widget = Window::find(page, QTest::currentDataTag());
+    QCOMPARE(widget->property("text").toString(), text);
+    window->speak("~");
+    QCOMPARE(widget->property("text").toString(), text + "~");
+}
+
+void TestSettingUser::listsAtConstruction_data()
+{
+    QTest::addColumn<QStringList>("items");
+    QTest::newRow("comboBrightness") << QStringList{"0%", "10%", "20%", "30%"};
+    // The unit follows the language only with a language change.
+    QTest::newRow("comboScreenSaverTimer") << QStringList{"15s", "30s", "60s"};
+    QTest::newRow("comboDateYear") << headed("Year~", 2015, 2037);
+    QTest::newRow("comboDateMonth") << headed("Month~", 1, 12);
+    QTest::newRow("comboStartMonth") << headed("Month~", 1, 12);
+    QTest::newRow("comboEndMonth") << headed("Month~", 1, 12);
+    QTest::newRow("comboDateDay") << QStringList{"Day~"};
+    QTest::newRow("comboStartDay") << QStringList{"Day~"};
+    QTest::newRow("comboEndDay") << QStringList{"Day~"};
+}
+
+void TestSettingUser::listsAtConstruction()
+{
+    QFETCH(QStringList, items);
+    window->speak("~");
+    const SettingUser fresh;
+    QCOMPARE(messages::all(), QStringList());
+    QCOMPARE(Window::items(&fresh, QTest::currentDataTag()), items);
+    QCOMPARE(Window::find<QComboBox>(&fresh, QTest::currentDataTag())->currentIndex(), 0);
+}
+
+void TestSettingUser::languageChangeKeepsPositions()
+{
+    show(merged(dated, {{summerTime, "SET"}, {brightness, "BRIGHTNESS20"}, {timer, "BACKLIGHT60S"}}));
+    struct Expected {
+        const char *name;
+        QStringList items;
+        int index;
+    };
+    const std::vector<Expected> lists{{"comboScreenSaverTimer", {"15s~", "30s~", "60s~"}, 2},
+                                      {"comboBrightness", {"0%", "10%", "20%", "30%"}, 2},
+                                      {"comboDateYear", headed("Year~", 2015, 2037), 10},
+                                      {"comboDateMonth", headed("Month~", 1, 12), 5},
+                                      {"comboDateDay", headed("Day~", 1, 31), 6},
+                                      {"comboStartMonth", headed("Month~", 1, 12), 3},
+                                      {"comboStartDay", headed("Day~", 1, 31), 25},
+                                      {"comboEndMonth", headed("Month~", 1, 12), 10},
+                                      {"comboEndDay", headed("Day~", 1, 31), 28}};
+    messages::clear();
+    QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
+    QVERIFY(!messages::contain("SettingUser::"));
+    for (const Expected &list : lists) {
+        QCOMPARE(Window::items(page, list.name), list.items);
+        QCOMPARE(combo(list.name)->currentIndex(), list.index);
+    }
+}
+
+void TestSettingUser::languageChangeSelectsWhereNothingWas()
+{
+    show({{year, 2014}});
+    QCOMPARE(combo("comboDateYear")->currentIndex(), -1);
+    QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
+    QCOMPARE(combo("comboDateYear")->currentIndex(), 0);
+}
+
+void TestSettingUser::otherLanguageLoadsAndSaves()
+{
+    window->speak("~");
+    show(merged(dated, {{summerTime, "SET"}, {timer, "BACKLIGHT15S"}}));
+    QCOMPARE(Window::shown(page, "comboScreenSaverTimer"), QStringLiteral("15s~"));
+    QCOMPARE(changesOf("comboScreenSaverTimer", "60s~"), (QVariantMap{{timer, "BACKLIGHT60S"}}));
+    QCOMPARE(changesOf("comboDateDay", "Day~"), (QVariantMap{{mday, unset}}));
+    QCOMPARE(changesOf("comboDateYear", "Year~"), (QVariantMap{{year, unset}}));
+    QCOMPARE(changesOf("comboDateMonth", "7"), (QVariantMap{{month, 7}}));
+    QCOMPARE(Window::items(page, "comboDateDay"), headed("Day~", 1, 31));
+    QCOMPARE(changesOf("comboStartDay", "Day~"), (QVariantMap{{startDay, unset}}));
+    QCOMPARE(changesOf("comboEndMonth", "Month~"), (QVariantMap{{endMonth, unset}, {endDay, unset}}));
+    Window::choose(page, "comboDateDay", "8");
+    QCOMPARE(changesOf("comboDateMonth", "Month~"), (QVariantMap{{mday, unset}}));
+}
+
+void TestSettingUser::defaultsShowAndStay_data()
+{
+    QTest::addColumn<QString>("refrigerant");
+    QTest::newRow("R410") << "R410";
+    QTest::newRow("R32") << "R32";
+}
+
+void TestSettingUser::defaultsShowAndStay()
+{
+    QFETCH(QString, refrigerant);
+    window->use(documents::standard(refrigerant));
+    const auto showPage = [this] { window->showPage(MainDialog::SettingPage, MainDialog::UserTab); };
+    QCOMPARE(window->changes(showPage), QVariantMap());
+    QVERIFY(Window::checked(page, "radioCelicious"));
+    QVERIFY(Window::checked(page, "radioSummerTimeNotuse"));
+    QVERIFY(Window::checked(page, "radioWhite"));
+    const std::vector<std::pair<const char *, QString>> texts{
+        {"comboScreenSaverTimer", "30s"}, {"comboBrightness", "10%"}, {"comboDateYear", "Year"},
+        {"comboDateMonth", "Month"},      {"comboDateDay", "Day"},    {"comboStartMonth", "3"},
+        {"comboStartDay", "25"},          {"comboEndMonth", "10"},    {"comboEndDay", "28"}};
+    for (const auto &[name, text] : texts) {
+        QCOMPARE(Window::shown(page, name), text);
+    }
+    QVERIFY(Window::enabled(page, "comboDateMonth"));
+    QVERIFY(!Window::enabled(page, "comboDateDay"));
+    QVERIFY(!valid());
+    QVERIFY(Window::shownItself(&window->dialog, "userValidationIcon"));
+    QVERIFY(messages::contain("SettingUser::validationCheck failed!!"));
+}
+
+void TestSettingUser::showingLeavesTheStepMarks()
+{
+    window->dialog.setCurrentStep(1);
+    const auto style = [this](const char *name) { return Window::find(&window->dialog, name)->styleSheet(); };
+    const QString product = style("productSelectionButton");
+    QVERIFY(product.contains("btn_step_1_focus.png"));
+    show();
+    QCOMPARE(style("productSelectionButton"), product);
+}
+
+void TestSettingUser::radiosShow_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QByteArray>("checked");
+    QTest::addColumn<QByteArray>("unchecked");
+    const QByteArray celsius("radioCelicious");
+    const QByteArray fahrenheit("radioFahreheit");
+    const QByteArray off("radioSummerTimeNotuse");
+    const QByteArray on("radioSummerTimeUse");
+    const QByteArray white("radioWhite");
+    const QByteArray black("radioBlack");
+    QTest::newRow("fahrenheit") << tempConversion << QVariant("fahrenheit") << fahrenheit << celsius;
+    QTest::newRow("centigrade") << tempConversion << QVariant("centigrade") << celsius << fahrenheit;
+    QTest::newRow("summer time") << summerTime << QVariant("set") << on << off;
+    QTest::newRow("no summer time") << summerTime << QVariant("CLR") << off << on;
+    QTest::newRow("summer time again") << summerTime << QVariant("SET") << on << off;
+    QTest::newRow("unknown summer time") << summerTime << QVariant("x") << off << on;
+    QTest::newRow("summer time missing") << summerTime << QVariant() << off << on;
+    QTest::newRow("black") << theme << QVariant("BLACK") << black << white;
+    QTest::newRow("white") << theme << QVariant("White") << white << black;
+    QTest::newRow("black again") << theme << QVariant("black") << black << white;
+    QTest::newRow("unknown theme keeps black") << theme << QVariant("x") << black << white;
+    QTest::newRow("theme missing keeps black") << theme << QVariant() << black << white;
+    QTest::newRow("unknown unit") << tempConversion << QVariant("x") << QByteArray() << celsius;
+    QTest::newRow("unit missing") << tempConversion << QVariant() << QByteArray() << fahrenheit;
+}
+
+void TestSettingUser::radiosShow()
+{
+    QFETCH(QString, path);
+    QFETCH(QVariant, value);
+    QFETCH(QByteArray, checked);
+    QFETCH(QByteArray, unchecked);
+    show({{path, value}});
+    QVERIFY(!Window::checked(page, unchecked.constData()));
+    if (checked.isEmpty()) {
+        QVERIFY(!Window::checked(page, "radioCelicious"));
+        QVERIFY(!Window::checked(page, "radioFahreheit"));
+    } else {
+        QVERIFY(Window::checked(page, checked.constData()));
+    }
+    QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), {{path, value}}));
+}
+
+void TestSettingUser::radiosWrite_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<bool>("checks");
+    const auto row = [](const char *radio, const QString &path, const QString &before, const QString &word,
+                        bool checks = true) { QTest::newRow(radio) << path << before << word << checks; };
+    row("radioCelicious", tempConversion, "FAHRENHEIT", "CENTIGRADE");
+    row("radioFahreheit", tempConversion, "CENTIGRADE", "FAHRENHEIT");
+    row("radioSummerTimeNotuse", summerTime, "SET", "CLR");
+    row("radioSummerTimeUse", summerTime, "CLR", "SET", false);
+    row("radioWhite", theme, "black", "white");
+    row("radioBlack", theme, "white", "black");
+}
+
+void TestSettingUser::radiosWrite()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, before);
+    QFETCH(QString, word);
+    QFETCH(bool, checks);
+    show(merged(dated, {{path, before}}));
+    messages::clear();
+    const QVariantMap changes = window->changes([this] { Window::click(page, QTest::currentDataTag()); });
+    QCOMPARE(changes, (QVariantMap{{path, word}}));
+    QCOMPARE(messages::contain("SettingUser::SettingUser validation succeed!"), checks);
+}
+
+void TestSettingUser::unitDrivesTheTool()
+{
+    show();
+    Window::click(page, "radioFahreheit");
+    QCOMPARE(window->dialog.tempUnit(), QStringLiteral("FAHRENHEIT"));
+    QVERIFY(window->dialog.isFahrenheit());
+    Window::click(page, "radioCelicious");
+    QCOMPARE(window->dialog.tempUnit(), QStringLiteral("CENTIGRADE"));
+    // Loading the page leaves the tool's unit alone.
+    show({{tempConversion, "FAHRENHEIT"}});
+    QCOMPARE(window->dialog.tempUnit(), QStringLiteral("CENTIGRADE"));
+}
+
+void TestSettingUser::combosWrite_data()
+{
+    QTest::addColumn<QByteArray>("combo");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *combo, const QString &item, const QString &path, const QVariant &value) {
+        QTest::addRow("%s %s", combo, qPrintable(item)) << QByteArray(combo) << item << path << value;
+    };
+    row("comboBrightness", "0%", brightness, "BRIGHTNESS0");
+    row("comboBrightness", "20%", brightness, "BRIGHTNESS20");
+    row("comboBrightness", "30%", brightness, "BRIGHTNESS30");
+    row("comboScreenSaverTimer", "15s", timer, "BACKLIGHT15S");
+    row("comboScreenSaverTimer", "60s", timer, "BACKLIGHT60S");
+    row("comboDateYear", "2015", year, 2015);
+    row("comboDateYear", "2037", year, 2037);
+    row("comboDateYear", "Year", year, unset);
+    row("comboDateMonth", "12", month, 12);
+    row("comboDateDay", "31", mday, 31);
+    row("comboDateDay", "Day", mday, unset);
+    row("comboStartMonth", "1", startMonth, 1);
+    row("comboStartDay", "31", startDay, 31);
+    row("comboStartDay", "Day", startDay, unset);
+    row("comboEndMonth", "11", endMonth, 11);
+    row("comboEndDay", "1", endDay, 1);
+    row("comboEndDay", "Day", endDay, unset);
+}
+
+void TestSettingUser::combosWrite()
+{
+    QFETCH(QByteArray, combo);
+    QFETCH(QString, item);
+    QFETCH(QString, path);
+    QFETCH(QVariant, value);
+    show(merged(dated, {{summerTime, "SET"}}));
+    QCOMPARE(changesOf(combo.constData(), item), (QVariantMap{{path, value}}));
+}
+
+void TestSettingUser::backlightShows_data()
+{
+    QTest::addColumn<QByteArray>("combo");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("after");
+    const QByteArray light("comboBrightness");
+    const QByteArray saver("comboScreenSaverTimer");
+    QTest::newRow("0%") << light << brightness << QVariant("BRIGHTNESS0") << 0 << "BRIGHTNESS0";
+    QTest::newRow("any case") << light << brightness << QVariant("brightness30") << 3 << "BRIGHTNESS30";
+    QTest::newRow("empty") << light << brightness << QVariant("") << 3 << "";
+    QTest::newRow("unknown") << light << brightness << QVariant("BRIGHTNESS50") << -1 << "BRIGHTNESS";
+    QTest::newRow("15s") << saver << timer << QVariant("BACKLIGHT15S") << 0 << "BACKLIGHT15S";
+    QTest::newRow("60s") << saver << timer << QVariant("backlight60s") << 2 << "BACKLIGHT60S";
+    QTest::newRow("empty time") << saver << timer << QVariant("") << 2 << "";
+    QTest::newRow("unknown time") << saver << timer << QVariant("BACKLIGHT45S") << -1 << "BACKLIGHTS";
+}
+
+// Each row stands on what the row before has left.
+void TestSettingUser::backlightShows()
+{
+    QFETCH(QByteArray, combo);
+    QFETCH(QString, path);
+    QFETCH(QVariant, value);
+    show(merged(dated, {{path, value}}));
+    QTEST(this->combo(combo.constData())->currentIndex(), "index");
+    QTEST(stored(path).toString(), "after");
+    QVERIFY(valid());
+}
+
+void TestSettingUser::valuesThatAreNotListedPass()
+{
+    show(merged(dated, {{brightness, "BRIGHTNESS50"}, {year, 2014}}));
+    QCOMPARE(combo("comboBrightness")->currentIndex(), -1);
+    QCOMPARE(combo("comboDateYear")->currentIndex(), -1);
+    QVERIFY(valid());
+}
+
+void TestSettingUser::chainGoesInOrder()
+{
+    show({{summerTime, "SET"}, {startMonth, unset}, {startDay, unset}, {endMonth, unset}, {endDay, unset}});
+    const std::vector<const char *> order{"comboDateYear",   "comboDateMonth", "comboEndMonth",
+                                          "comboStartMonth", "comboDateDay",   "comboEndDay",
+                                          "comboStartDay"};
+    for (const char *name : order) {
+        QVERIFY(!valid());
+        messages::clear();
+        Window::invoke(page, "validationCheck");
+        QVERIFY2(messages::contain(QStringLiteral("Object Name: \"%1\" validation check failed").arg(name)),
+                 name);
+        QVERIFY(messages::contain("SettingUser::validationCheck failed!!"));
+        QCOMPARE(messages::all().filter("validation check failed").size(), 1);
+        Window::choose(combo(name), 1);
+    }
+    QVERIFY(valid());
+    QVERIFY(messages::contain("SettingUser::SettingUser validation succeed!"));
+}
+
+void TestSettingUser::chainTakesRadiosFirst()
+{
+    for (const auto &[first, second] :
+         std::vector<std::pair<const char *, const char *>>{{"radioCelicious", "radioFahreheit"},
+                                                            {"radioSummerTimeNotuse", "radioSummerTimeUse"},
+                                                            {"radioWhite", "radioBlack"}}) {
+        show(dated);
+        QVERIFY(valid());
+        for (const char *name : {first, second}) {
+            auto *radio = Window::find<QRadioButton>(page, name);
+            radio->setAutoExclusive(false);
+            radio->setChecked(false);
+            radio->setAutoExclusive(true);
+        }
+        Window::invoke(page, "validationCheck");
+        QVERIFY2(!valid(), first);
+        Window::find<QRadioButton>(page, first)->setChecked(true);
+    }
+}
+
+void TestSettingUser::everyChangeIsChecked()
+{
+    show(merged(dated, {{summerTime, "SET"}}));
+    for (const char *name :
+         {"comboScreenSaverTimer", "comboBrightness", "comboDateYear", "comboDateMonth", "comboDateDay",
+          "comboStartMonth", "comboStartDay", "comboEndMonth", "comboEndDay"}) {
+        messages::clear();
+        Window::choose(combo(name), 2);
+        QCOMPARE(messages::all().filter("SettingUser::").size(), 1);
+    }
+}
+
+void TestSettingUser::blocksAllLists()
+{
+    show(dated);
+    for (const bool block : {true, false}) {
+        QVERIFY(QMetaObject::invokeMethod(page, "blockComboBoxSignal", Q_ARG(bool, block)));
+        const auto combos = page->findChildren<QComboBox *>();
+        QCOMPARE(combos.size(), 9);
+        for (const QComboBox *each : combos) {
+            QCOMPARE(each->signalsBlocked(), block);
+        }
+    }
+}
+
+void TestSettingUser::stylesOfEnabledAndDimmed()
+{
+    QString style;
+    QVERIFY(QMetaObject::invokeMethod(page, "setOpacity", Q_RETURN_ARG(QString, style), Q_ARG(bool, true)));
+    QCOMPARE(style, QStringLiteral("color : #555555;"));
+    QVERIFY(QMetaObject::invokeMethod(page, "setOpacity", Q_RETURN_ARG(QString, style), Q_ARG(bool, false)));
+    QCOMPARE(style, QStringLiteral("color : rgba(55,55,55,30%)"));
+}
+
+// The guard alone counts: a page that has been shown writes into whatever there is.
+void TestSettingUser::writesIntoAnEmptyDocument()
+{
+    show();
+    window->dialog.setDocument({});
+    Window::click(page, "radioBlack");
+    QCOMPARE(window->dialog.document(), QJsonDocument(QJsonObject{{"SettingInfo", "black"}}));
+}
+
+CALORA_TEST_MAIN(TestSettingUser)
+#include "tst_settinguser.moc"

@@ -1,0 +1,356 @@
+#include "support/window.h"
+
+#include "pages/operation/settinguser.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+constexpr int unset = -9999;
+const QString user = QStringLiteral("SettingInfo.user.");
+const QString year = user + QStringLiteral("DateInfo.year");
+const QString month = user + QStringLiteral("DateInfo.month");
+const QString mday = user + QStringLiteral("DateInfo.mday");
+const QString summerTime = user + QStringLiteral("summerTime.enable");
+const QString startMonth = user + QStringLiteral("summerTime.start.mon");
+const QString startDay = user + QStringLiteral("summerTime.start.day");
+const QString endMonth = user + QStringLiteral("summerTime.end.mon");
+const QString endDay = user + QStringLiteral("summerTime.end.day");
+
+const QVariantMap dated{{year, 2024}, {month, 5}, {mday, 6}};
+
+QVariantMap merged(QVariantMap values, const QVariantMap &more)
+{
+    for (auto value = more.begin(); value != more.end(); ++value) {
+        values.insert(value.key(), value.value());
+    }
+    return values;
+}
+
+QStringList headed(const QString &first, int lower, int upper)
+{
+    return QStringList{first} + range(lower, upper, QString());
+}
+
+} // namespace
+
+// The User tab's date and summer time.
+class TestSettingUserDates : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { messages::clear(); }
+    void cleanupTestCase() { window.reset(); }
+
+    void summerTimeOnIsNotChecked();
+    void summerTimeEnablesItsDates();
+    void summerTimeOffPasses();
+    void daysFollowTheMonth_data();
+    void daysFollowTheMonth();
+    void changingTheMonthLosesTheDay();
+    void withoutMonthTheDayIsLost();
+    void withoutYearOrDay();
+    void summerMonthsWriteWhatIsUnset_data();
+    void summerMonthsWriteWhatIsUnset();
+    void dateShows_data();
+    void dateShows();
+    void summerDatesShow_data();
+    void summerDatesShow();
+    void datesAreSelectedInOrder();
+    void daysInLanguageKeepTheIndex();
+
+private:
+    void show(const QVariantMap &values = {});
+    QComboBox *combo(const char *name) const { return Window::find<QComboBox>(page, name); }
+    QVariantMap changesOf(const char *name, const QString &item) const
+    {
+        return window->changes([&] { Window::choose(page, name, item); });
+    }
+    QVariant stored(const QString &path) const
+    {
+        QJsonValue value;
+        QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
+                                  Q_ARG(QString, path));
+        return value.toVariant();
+    }
+    bool valid() const { return window->dialog.members().userValid; }
+
+    std::unique_ptr<Window> window;
+    SettingUser *page = nullptr;
+};
+
+void TestSettingUserDates::initTestCase()
+{
+    window = std::make_unique<Window>();
+    page = window->page<SettingUser>();
+}
+
+void TestSettingUserDates::show(const QVariantMap &values)
+{
+    window->use(documents::with(documents::standard("R410"), values));
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+}
+
+void TestSettingUserDates::summerTimeOnIsNotChecked()
+{
+    show(merged(dated, {{startMonth, unset}, {startDay, unset}}));
+    QVERIFY(valid());
+    Window::click(page, "radioSummerTimeUse");
+    QVERIFY(valid());
+    Window::click(page, "radioBlack");
+    QVERIFY(!valid());
+    Window::click(page, "radioSummerTimeNotuse");
+    QVERIFY(valid());
+}
+
+void TestSettingUserDates::summerTimeEnablesItsDates()
+{
+    const auto verify = [this](bool on) {
+        for (const char *name : {"comboStartMonth", "comboStartDay", "comboEndMonth", "comboEndDay"}) {
+            QVERIFY2(Window::enabled(page, name) == on, name);
+        }
+        const QString style = on ? "color : #555555;" : "color : rgba(55,55,55,30%)";
+        QCOMPARE(Window::find(page, "labelStartDay")->styleSheet(), style);
+        QCOMPARE(Window::find(page, "labelEndDay")->styleSheet(), style);
+    };
+    show();
+    verify(false);
+    Window::click(page, "radioSummerTimeUse");
+    verify(true);
+    Window::click(page, "radioSummerTimeNotuse");
+    verify(false);
+    show({{summerTime, "SET"}});
+    verify(true);
+}
+
+void TestSettingUserDates::summerTimeOffPasses()
+{
+    const QVariantMap undated{{startMonth, unset}, {startDay, unset}, {endMonth, unset}, {endDay, unset}};
+    show(merged(dated, merged(undated, {{summerTime, "SET"}})));
+    QVERIFY(!valid());
+    show(merged(dated, undated));
+    QVERIFY(valid());
+    QVERIFY(!Window::shownItself(&window->dialog, "userValidationIcon"));
+}
+
+void TestSettingUserDates::daysFollowTheMonth_data()
+{
+    QTest::addColumn<int>("days");
+    const std::vector<int> days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    for (std::size_t index = 0; index < days.size(); ++index) {
+        QTest::addRow("%d", static_cast<int>(index) + 1) << days.at(index);
+    }
+}
+
+void TestSettingUserDates::daysFollowTheMonth()
+{
+    QFETCH(int, days);
+    // 2024 is a leap year.
+    show(merged(dated, {{summerTime, "SET"}}));
+    const std::vector<std::pair<const char *, const char *>> pairs{{"comboDateMonth", "comboDateDay"},
+                                                                   {"comboStartMonth", "comboStartDay"},
+                                                                   {"comboEndMonth", "comboEndDay"}};
+    for (const auto &[months, list] : pairs) {
+        Window::choose(page, months, QTest::currentDataTag());
+        QCOMPARE(Window::items(page, list), headed("Day", 1, days));
+    }
+}
+
+void TestSettingUserDates::changingTheMonthLosesTheDay()
+{
+    show(dated);
+    QVERIFY(valid());
+    QCOMPARE(changesOf("comboDateMonth", "4"), (QVariantMap{{month, 4}}));
+    QCOMPARE(combo("comboDateDay")->currentIndex(), 0);
+    QCOMPARE(stored(mday).toInt(), 6);
+    QVERIFY(!valid());
+    QCOMPARE(changesOf("comboDateDay", "30"), (QVariantMap{{mday, 30}}));
+    QVERIFY(valid());
+}
+
+void TestSettingUserDates::withoutMonthTheDayIsLost()
+{
+    show(dated);
+    QCOMPARE(changesOf("comboDateMonth", "Month"), (QVariantMap{{mday, unset}}));
+    QCOMPARE(stored(month).toInt(), 5);
+    QVERIFY(!Window::enabled(page, "comboDateDay"));
+    // The list stays as it was.
+    QCOMPARE(Window::shown(page, "comboDateDay"), QStringLiteral("6"));
+    QVERIFY(!valid());
+    Window::choose(page, "comboDateMonth", "2");
+    QVERIFY(Window::enabled(page, "comboDateDay"));
+}
+
+void TestSettingUserDates::withoutYearOrDay()
+{
+    show(dated);
+    QCOMPARE(changesOf("comboDateYear", "Year"), (QVariantMap{{year, unset}}));
+    QVERIFY(!valid());
+    Window::choose(page, "comboDateYear", "2020");
+    QVERIFY(valid());
+    QCOMPARE(changesOf("comboDateDay", "Day"), (QVariantMap{{mday, unset}}));
+    QVERIFY(!valid());
+}
+
+void TestSettingUserDates::summerMonthsWriteWhatIsUnset_data()
+{
+    QTest::addColumn<QByteArray>("dayCombo");
+    QTest::addColumn<QString>("monthPath");
+    QTest::addColumn<QString>("dayPath");
+    QTest::newRow("comboStartMonth") << QByteArray("comboStartDay") << startMonth << startDay;
+    QTest::newRow("comboEndMonth") << QByteArray("comboEndDay") << endMonth << endDay;
+}
+
+void TestSettingUserDates::summerMonthsWriteWhatIsUnset()
+{
+    QFETCH(QByteArray, dayCombo);
+    QFETCH(QString, monthPath);
+    QFETCH(QString, dayPath);
+    show(merged(dated, {{summerTime, "SET"}}));
+    QVERIFY(valid());
+    QCOMPARE(changesOf(QTest::currentDataTag(), "Month"),
+             (QVariantMap{{monthPath, unset}, {dayPath, unset}}));
+    QVERIFY(Window::enabled(page, dayCombo.constData()));
+    QCOMPARE(Window::items(page, dayCombo.constData()), headed("Day", 1, 31));
+    QCOMPARE(combo(dayCombo.constData())->currentIndex(), 0);
+    QVERIFY(!valid());
+    // A month keeps the day of the document until a day is chosen.
+    QCOMPARE(changesOf(QTest::currentDataTag(), "6"), (QVariantMap{{monthPath, 6}}));
+    QCOMPARE(changesOf(dayCombo.constData(), "30"), (QVariantMap{{dayPath, 30}}));
+    QVERIFY(valid());
+}
+
+void TestSettingUserDates::dateShows_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<bool>("dayEnabled");
+    QTest::addColumn<QVariantMap>("rewritten");
+    const auto values = [](const QVariant &y, const QVariant &m, const QVariant &d) {
+        return QVariantMap{{year, y}, {month, m}, {mday, d}};
+    };
+    QTest::newRow("all set") << values(2015, 12, 31) << QStringList{"2015", "12", "31"} << true
+                             << QVariantMap();
+    QTest::newRow("no day") << values(2037, 1, unset) << QStringList{"2037", "1", "Day"} << true
+                            << QVariantMap();
+    QTest::newRow("no year") << values(unset, 4, 30) << QStringList{"Year", "4", "30"} << true
+                             << QVariantMap();
+    QTest::newRow("day not in the month")
+        << values(2020, 4, 31) << QStringList{"2020", "4", ""} << true << QVariantMap{{mday, 0}};
+    QTest::newRow("nothing set") << values(unset, unset, unset) << QStringList{"Year", "Month", "Day"}
+                                 << false << QVariantMap();
+    QTest::newRow("month and year not listed")
+        << values(2038, 13, 31) << QStringList{"", "", "31"} << true << QVariantMap{{year, 0}, {month, 0}};
+    // Falling back to "Month" unsets the day; the list stands on the day that was read already and writes
+    // nothing.
+    QTest::newRow("month lost") << values(2020, unset, 31) << QStringList{"2020", "Month", "31"} << false
+                                << QVariantMap{{mday, unset}};
+    // Without a month the number shows in the list that the month before has left.
+    QTest::newRow("day without month")
+        << values(2020, unset, 30) << QStringList{"2020", "Month", "30"} << false << QVariantMap();
+    QTest::newRow("missing") << values(QVariant(), QVariant(), QVariant()) << QStringList{"", "", ""} << true
+                             << QVariantMap{{year, 0}, {month, 0}, {mday, 0}};
+    QTest::newRow("listed again") << values(2020, 5, 6) << QStringList{"2020", "5", "6"} << true
+                                  << QVariantMap();
+    QTest::newRow("as texts") << values("2020", "5", "6") << QStringList{"", "", ""} << true
+                              << QVariantMap{{year, 0}, {month, 0}, {mday, 0}};
+}
+
+// Each row stands on the lists that the row before has left.
+void TestSettingUserDates::dateShows()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(QStringList, shown);
+    QFETCH(QVariantMap, rewritten);
+    show(values);
+    QCOMPARE((QStringList{Window::shown(page, "comboDateYear"), Window::shown(page, "comboDateMonth"),
+                          Window::shown(page, "comboDateDay")}),
+             shown);
+    QTEST(Window::enabled(page, "comboDateDay"), "dayEnabled");
+    QCOMPARE(window->dialog.document(),
+             documents::with(documents::standard("R410"), merged(values, rewritten)));
+    QCOMPARE(valid(), !shown.contains("Year") && !shown.contains("Month") && !shown.contains("Day"));
+}
+
+void TestSettingUserDates::summerDatesShow_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<QVariantMap>("rewritten");
+    const auto values = [](const QVariant &sm, const QVariant &sd, const QVariant &em, const QVariant &ed) {
+        return QVariantMap{{startMonth, sm}, {startDay, sd}, {endMonth, em}, {endDay, ed}};
+    };
+    QTest::newRow("all set") << values(4, 30, 2, 28) << QStringList{"4", "30", "2", "28"} << QVariantMap();
+    QTest::newRow("same months, other days")
+        << values(4, 1, 2, 2) << QStringList{"4", "1", "2", "2"} << QVariantMap();
+    // The day's list stands on "Day" already, so that nothing is written.
+    QTest::newRow("days not in the months")
+        << values(4, 31, 2, 29) << QStringList{"4", "Day", "2", "Day"} << QVariantMap();
+    // Months that fall to "Month" unset their day; the day that was read comes back.
+    QTest::newRow("months not listed") << values(13, 31, 0, 5) << QStringList{"Month", "31", "Month", "5"}
+                                       << QVariantMap{{startMonth, unset}, {endMonth, unset}};
+    QTest::newRow("on the first item already")
+        << values(14, 32, QVariant(), QVariant()) << QStringList{"Month", "Day", "Month", "Day"}
+        << QVariantMap();
+    QTest::newRow("listed again") << values(3, 25, 10, 28) << QStringList{"3", "25", "10", "28"}
+                                  << QVariantMap();
+    QTest::newRow("unset") << values(unset, 40, unset, unset) << QStringList{"Month", "Day", "Month", "Day"}
+                           << QVariantMap{{startDay, unset}};
+}
+
+// Each row stands on the lists that the row before has left.
+void TestSettingUserDates::summerDatesShow()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(QStringList, shown);
+    QFETCH(QVariantMap, rewritten);
+    const QVariantMap set = merged(values, merged(dated, {{summerTime, "SET"}}));
+    show(set);
+    QCOMPARE((QStringList{Window::shown(page, "comboStartMonth"), Window::shown(page, "comboStartDay"),
+                          Window::shown(page, "comboEndMonth"), Window::shown(page, "comboEndDay")}),
+             shown);
+    QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), merged(set, rewritten)));
+    QCOMPARE(valid(), !shown.contains("Month") && !shown.contains("Day"));
+}
+
+void TestSettingUserDates::datesAreSelectedInOrder()
+{
+    show();
+    const QObject scope;
+    const QStringList order{"comboBrightness", "comboScreenSaverTimer", "comboDateYear",
+                            "comboDateMonth",  "comboDateDay",          "comboStartMonth",
+                            "comboStartDay",   "comboEndMonth",         "comboEndDay"};
+    QStringList selected;
+    for (const QString &name : order) {
+        QObject::connect(combo(qPrintable(name)), &QComboBox::currentTextChanged, &scope,
+                         [&selected, name] { selected.append(name); });
+    }
+    show(merged(dated,
+                {{user + "backlightControl.brightness", "BRIGHTNESS30"},
+                 {user + "backlightControl.dimmTimeSet", "BACKLIGHT60S"},
+                 {startMonth, 1},
+                 {startDay, 2},
+                 {endMonth, 3},
+                 {endDay, 4}}));
+    QCOMPARE(selected, order);
+}
+
+void TestSettingUserDates::daysInLanguageKeepTheIndex()
+{
+    show(dated);
+    QComboBox *list = combo("comboDateDay");
+    const QSignalSpy changed(list, &QComboBox::currentTextChanged);
+    QVERIFY(QMetaObject::invokeMethod(page, "calcDayInlanguage", Q_ARG(QComboBox *, combo("comboDateMonth")),
+                                      Q_ARG(QComboBox *, list)));
+    QCOMPARE(list->currentIndex(), 6);
+    QVERIFY(QMetaObject::invokeMethod(page, "calcDay", Q_ARG(QComboBox *, combo("comboDateMonth")),
+                                      Q_ARG(QComboBox *, list)));
+    QCOMPARE(list->currentIndex(), 0);
+    QCOMPARE(Window::items(list), headed("Day", 1, 31));
+    QCOMPARE(changed.size(), 0);
+}
+
+CALORA_TEST_MAIN(TestSettingUserDates)
+#include "tst_settinguserdates.moc"

@@ -1,0 +1,531 @@
+#include "document/temperature.h"
+#include "support/window.h"
+
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+// The °C/°F table, value lists and the shared checks.
+
+class TestValueLists : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { window = std::make_unique<Window>(); }
+    void init();
+    void cleanup() { host.reset(); }
+    void cleanupTestCase() { window.reset(); }
+
+    void tableHoldsEvenFahrenheit();
+    void tableDoublesEighteenValues();
+    void tableValues_data();
+    void tableValues();
+    void tableStaysNearTheFormula();
+    void tableIsFilledAnew();
+    void backToTheLowestCelsius();
+    void unitIsAnyText();
+    void fillsARange_data();
+    void fillsARange();
+    void fillsInSilence();
+    void crossedRangeLeavesTheList();
+    void selectsAValue_data();
+    void selectsAValue();
+    void selectsInSilence();
+    void selectsByKey_data();
+    void selectsByKey();
+    void selectingByKeyRunsTheSlots();
+    void fillsTexts_data();
+    void fillsTexts();
+    void readsNumbersFromTexts_data();
+    void readsNumbersFromTexts();
+    void checksALine_data();
+    void checksALine();
+    void checksAList_data();
+    void checksAList();
+    void checksRadios();
+    void checksRadiosOfAHiddenPage();
+    void tellsAFailedCheck();
+    void emptySlotDoesNothing();
+
+private:
+    MainDialog &dialog() const { return window->dialog; }
+
+    std::unique_ptr<Window> window;
+    std::unique_ptr<QWidget> host;
+    QComboBox *combo = nullptr;
+    QLineEdit *line = nullptr;
+    std::array<QRadioButton *, 3> radios{};
+};
+
+void TestValueLists::init()
+{
+    dialog().setTempUnit("CENTIGRADE");
+    host = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(host.get());
+    combo = new QComboBox;
+    combo->setObjectName("list");
+    line = new QLineEdit;
+    layout->addWidget(combo);
+    layout->addWidget(line);
+    int number = 0;
+    for (QRadioButton *&radio : radios) {
+        radio = new QRadioButton;
+        radio->setObjectName(QStringLiteral("radio%1").arg(++number));
+        radio->setAutoExclusive(false);
+        layout->addWidget(radio);
+    }
+    host->show();
+    messages::clear();
+}
+
+void TestValueLists::tableHoldsEvenFahrenheit()
+{
+    const QMap<int, int> table = temperature::makeTable();
+    QCOMPARE(table.size(), 171);
+    QCOMPARE(table.firstKey(), -50);
+    QCOMPARE(table.lastKey(), 120);
+    for (const int fahrenheit : table) {
+        QCOMPARE(fahrenheit % 2, 0);
+    }
+}
+
+void TestValueLists::tableDoublesEighteenValues()
+{
+    const QVector<int> doubled{-47, -32, -27, -19, -16, -6, 4, 14, 24, 34, 44, 54, 64, 74, 84, 94, 104, 114};
+    const QMap<int, int> table = temperature::makeTable();
+    int before = 0;
+    for (int celsius = -50; celsius <= 120; ++celsius) {
+        // Two degrees for each °C from -50, less two for each value that came twice on the way.
+        QCOMPARE(table.value(celsius), -56 + 2 * (celsius + 50) - 2 * before);
+        before += doubled.contains(celsius) ? 1 : 0;
+    }
+    QCOMPARE(before, 18);
+}
+
+void TestValueLists::tableValues_data()
+{
+    QTest::addColumn<int>("celsius");
+    QTest::addColumn<int>("fahrenheit");
+    const QVector<std::pair<int, int>> values{
+        {-51, 0},   {-50, -56}, {-49, -54}, {-48, -52}, {-47, -50}, {-46, -50}, {-45, -48}, {-40, -38},
+        {-32, -22}, {-31, -22}, {-30, -20}, {-27, -14}, {-26, -14}, {-20, -2},  {-19, 0},   {-18, 0},
+        {-17, 2},   {-16, 4},   {-15, 4},   {-10, 14},  {-6, 22},   {-5, 22},   {-1, 30},   {0, 32},
+        {4, 40},    {5, 40},    {10, 50},   {14, 58},   {15, 58},   {16, 60},   {20, 68},   {24, 76},
+        {25, 76},   {30, 86},   {35, 94},   {50, 122},  {55, 130},  {65, 148},  {75, 166},  {80, 176},
+        {100, 212}, {114, 238}, {115, 238}, {120, 248}, {121, 0}};
+    for (const auto &[celsius, fahrenheit] : values) {
+        QTest::addRow("%d", celsius) << celsius << fahrenheit;
+    }
+}
+
+void TestValueLists::tableValues()
+{
+    QFETCH(int, celsius);
+    QFETCH(int, fahrenheit);
+    QCOMPARE(dialog().celsiusToFahrenheit(celsius), fahrenheit);
+}
+
+void TestValueLists::tableStaysNearTheFormula()
+{
+    for (int celsius = -50; celsius <= 120; ++celsius) {
+        const double off = dialog().celsiusToFahrenheit(celsius) - (celsius * 1.8 + 32);
+        QVERIFY2(qAbs(off) < (celsius < -18 ? 3.61 : 1.01), qPrintable(QString::number(celsius)));
+    }
+}
+
+void TestValueLists::tableIsFilledAnew()
+{
+    const QMap<int, int> before = dialog().members().cfTable;
+    QVERIFY(Window::invoke(&dialog(), "initCFTable"));
+    QCOMPARE(dialog().members().cfTable, before);
+    QCOMPARE(before, temperature::makeTable());
+}
+
+void TestValueLists::backToTheLowestCelsius()
+{
+    for (int celsius = -50; celsius <= 120; ++celsius) {
+        const int fahrenheit = dialog().celsiusToFahrenheit(celsius);
+        int lowest = -50;
+        while (dialog().celsiusToFahrenheit(lowest) != fahrenheit) {
+            ++lowest;
+        }
+        QCOMPARE(dialog().fahrenheitToCelsius(fahrenheit), lowest);
+        QCOMPARE(dialog().fahrenheitToCelsius(fahrenheit + 1), 0);
+    }
+    QCOMPARE(dialog().fahrenheitToCelsius(40), 4);
+    QCOMPARE(dialog().fahrenheitToCelsius(41), 0);
+    QCOMPARE(dialog().fahrenheitToCelsius(0), -19);
+    QCOMPARE(dialog().fahrenheitToCelsius(-58), 0);
+    QCOMPARE(dialog().fahrenheitToCelsius(250), 0);
+}
+
+void TestValueLists::unitIsAnyText()
+{
+    for (const char *unit : {"CENTIGRADE", "", "fahrenheit", "FAHRENHEIT ", "F"}) {
+        dialog().setTempUnit(unit);
+        QCOMPARE(dialog().tempUnit(), QString(unit));
+        QVERIFY2(!dialog().isFahrenheit(), unit);
+        dialog().setRangeValueInComboBox(combo, 4, 4, MainDialog::Temperature, 1);
+        QCOMPARE(Window::items(combo), QStringList{"4°C"});
+    }
+    dialog().setTempUnit("FAHRENHEIT");
+    QVERIFY(dialog().isFahrenheit());
+}
+
+void TestValueLists::fillsARange_data()
+{
+    QTest::addColumn<bool>("fahrenheit");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QStringList>("items");
+    QTest::newRow("°C") << false << 35 << 55 << 1 << 1 << range(35, 55, "°C");
+    QTest::newRow("°F") << true << 35 << 55 << 1 << 1 << range(94, 130, "°F", 2);
+    QTest::newRow("°F whatever the step") << true << 35 << 55 << 1 << 5 << range(94, 130, "°F", 2);
+    QTest::newRow("°C in steps") << false << 10 << 31 << 1 << 10 << QStringList{"10°C", "20°C", "30°C"};
+    QTest::newRow("°C below zero") << false << -2 << 1 << 1 << 1 << QStringList{"-2°C", "-1°C", "0°C", "1°C"};
+    QTest::newRow("°F below zero") << true << -20 << -17 << 1 << 1 << QStringList{"-2°F", "0°F", "2°F"};
+    QTest::newRow("one °C") << false << 5 << 5 << 1 << 1 << QStringList{"5°C"};
+    QTest::newRow("two °C that share a °F") << true << 4 << 5 << 1 << 1 << QStringList{"40°F"};
+    QTest::newRow("K") << false << 1 << 3 << 2 << 1 << QStringList{"1K", "2K", "3K"};
+    QTest::newRow("K under °F") << true << 1 << 5 << 2 << 2 << QStringList{"1K", "3K", "5K"};
+    QTest::newRow("plain") << false << -1 << 1 << 0 << 1 << QStringList{"-1", "0", "1"};
+    QTest::newRow("plain under °F") << true << 0 << 20 << 0 << 10 << QStringList{"0", "10", "20"};
+    QTest::newRow("unknown unit") << true << 0 << 2 << 3 << 1 << QStringList{"0", "1", "2"};
+    // What the table doesn't hold counts as 0 °F.
+    QTest::newRow("past the table") << true << 119 << 121 << 1 << 1 << QStringList();
+    QTest::newRow("before the table") << true << -60 << -18 << 1 << 1 << QStringList{"0°F"};
+}
+
+void TestValueLists::fillsARange()
+{
+    QFETCH(bool, fahrenheit);
+    QFETCH(int, lower);
+    QFETCH(int, upper);
+    QFETCH(int, unit);
+    QFETCH(int, step);
+    QFETCH(QStringList, items);
+    dialog().setTempUnit(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE");
+    combo->addItems({"old", "older"});
+    combo->setCurrentIndex(1);
+    dialog().setRangeValueInComboBox(combo, lower, upper, unit, step);
+    QCOMPARE(Window::items(combo), items);
+    QCOMPARE(combo->currentIndex(), items.isEmpty() ? -1 : 0);
+    for (int index = 0; index < combo->count(); ++index) {
+        QVERIFY(combo->itemData(index).isNull());
+        QVERIFY(combo->itemIcon(index).isNull());
+    }
+}
+
+void TestValueLists::fillsInSilence()
+{
+    QSignalSpy texts(combo, &QComboBox::currentTextChanged);
+    QSignalSpy indices(combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
+    dialog().setRangeValueInComboBox(combo, 1, 3, MainDialog::Kelvin, 1);
+    dialog().setComboItems(combo, {"a", "b"}, 1);
+    dialog().refillComboItems(combo, {"c", "d"}, -1);
+    QCOMPARE(texts.size() + indices.size(), 0);
+    QVERIFY(!combo->signalsBlocked());
+    combo->setCurrentIndex(1);
+    QCOMPARE(texts.size(), 1);
+    // Blocked before, the list speaks again after.
+    combo->blockSignals(true);
+    dialog().setRangeValueInComboBox(combo, 1, 3, MainDialog::Kelvin, 1);
+    QVERIFY(!combo->signalsBlocked());
+}
+
+void TestValueLists::crossedRangeLeavesTheList()
+{
+    combo->addItems({"old", "older"});
+    combo->setCurrentIndex(1);
+    combo->blockSignals(true);
+    dialog().setRangeValueInComboBox(combo, 30, 20, MainDialog::Temperature, 1);
+    QCOMPARE(Window::items(combo), (QStringList{"old", "older"}));
+    QCOMPARE(combo->currentIndex(), 1);
+    QVERIFY(combo->signalsBlocked());
+    QCOMPARE(messages::all(),
+             QStringList{"MainDialog::setRangeValueInComboBox ComboBox: \"list\" lower: 30  > "
+                         "upper: 20"});
+}
+
+void TestValueLists::selectsAValue_data()
+{
+    QTest::addColumn<bool>("fahrenheit");
+    QTest::addColumn<QStringList>("items");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("missing");
+    const auto row = [](const char *name, bool fahrenheit, const QStringList &items, int value, int unit,
+                        int index, const char *missing = "") {
+        QTest::newRow(name) << fahrenheit << items << value << unit << index << QString(missing);
+    };
+    const QStringList warm = range(35, 65, "°C");
+    const QStringList cold = range(-4, 4, "°C");
+    row("°C", false, warm, 40, 1, 5);
+    row("°C first", false, warm, 35, 1, 0);
+    row("°C last", false, warm, 65, 1, 30);
+    row("°C below zero", false, cold, -3, 1, 1);
+    row("°C above", false, warm, 70, 1, 30, "70°C");
+    row("°C below, though positive", false, warm, 20, 1, 30, "20°C");
+    row("°C zero", false, warm, 0, 1, 0, "0°C");
+    row("°C negative", false, warm, -5, 1, 0, "-5°C");
+    row("°F", true, range(94, 148, "°F", 2), 65, 1, 27);
+    row("°F that two °C share", true, range(32, 60, "°F", 2), 5, 1, 4);
+    row("°F above", true, range(94, 130, "°F", 2), 65, 1, 18, "148°F");
+    row("°F by the °C, not by the °F", true, range(94, 130, "°F", 2), -1, 1, 0, "30°F");
+    row("°F beyond the table", true, range(94, 130, "°F", 2), 130, 1, 18, "0°F");
+    row("°F in a list of °C", true, warm, 40, 1, 30, "104°F");
+    row("K", false, {"1K", "2K", "3K"}, 3, 2, 2);
+    row("K under °F", true, {"1K", "2K", "3K"}, 2, 2, 1);
+    row("K above", false, {"1K", "2K", "3K"}, 9, 2, 2, "9K");
+    row("K zero", false, {"1K", "2K", "3K"}, 0, 2, 0, "0K");
+    row("plain", false, {"10", "20", "30"}, 20, 0, 1);
+    row("plain under °F", true, {"10", "20", "30"}, 30, 0, 2);
+    row("plain above", false, {"10", "20", "30"}, 90, 0, 0, "90");
+    row("plain below", false, {"10", "20", "30"}, 5, 0, 0, "5");
+    // A first item that is a number is compared by that number.
+    row("K in plain numbers, above the first", false, {"10", "20", "30"}, 11, 2, 2, "11K");
+    row("K in plain numbers, at the first", false, {"10", "20", "30"}, 10, 2, 0, "10K");
+    row("the whole text", false, {"Select", "15°C", "5°C"}, 5, 1, 2);
+    row("no items", false, {}, 5, 1, -1, "5°C");
+    row("no items, plain", false, {}, 5, 0, -1, "5");
+}
+
+void TestValueLists::selectsAValue()
+{
+    QFETCH(bool, fahrenheit);
+    QFETCH(QStringList, items);
+    QFETCH(int, value);
+    QFETCH(int, unit);
+    QFETCH(int, index);
+    QFETCH(QString, missing);
+    dialog().setTempUnit(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE");
+    combo->addItems(items);
+    combo->setCurrentIndex(items.size() / 2);
+    dialog().setComboByValue(combo, value, unit);
+    QCOMPARE(combo->currentIndex(), index);
+    QCOMPARE(Window::items(combo), items);
+    const QStringList told{"# Error index setting \"list\"  #",
+                           QStringLiteral("%1 \"%2\"").arg(value).arg(missing)};
+    QCOMPARE(messages::all(), missing.isEmpty() ? QStringList() : told);
+}
+
+void TestValueLists::selectsInSilence()
+{
+    combo->addItems({"1K", "2K"});
+    QSignalSpy texts(combo, &QComboBox::currentTextChanged);
+    dialog().setComboByValue(combo, 2, MainDialog::Kelvin);
+    dialog().setComboByValue(combo, -2, MainDialog::Kelvin);
+    QVERIFY(texts.isEmpty());
+    QVERIFY(!combo->signalsBlocked());
+}
+
+void TestValueLists::selectsByKey_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("index");
+    QTest::newRow("text of the key") << "Select" << 1;
+    QTest::newRow("key without a text") << "no key" << 3;
+    QTest::newRow("text isn't listed") << "Save" << 0;
+    QTest::newRow("other case") << "No Key" << 0;
+    QTest::newRow("part of an item") << "no" << 0;
+    QTest::newRow("empty") << "" << 0;
+}
+
+void TestValueLists::selectsByKey()
+{
+    QFETCH(QString, key);
+    QFETCH(int, index);
+    combo->addItems({"SELECT", "Select", "", "no key", "x"});
+    combo->setCurrentIndex(4);
+    dialog().setComboByKey(combo, key);
+    QCOMPARE(combo->currentIndex(), index);
+    QVERIFY(messages::all().isEmpty());
+}
+
+void TestValueLists::selectingByKeyRunsTheSlots()
+{
+    combo->addItems({"a", "b"});
+    QSignalSpy texts(combo, &QComboBox::currentTextChanged);
+    dialog().setComboByKey(combo, "b");
+    QCOMPARE(texts.size(), 1);
+    dialog().setComboByKey(combo, "b");
+    QCOMPARE(texts.size(), 1);
+    dialog().setComboByKey(combo, "c");
+    QCOMPARE(texts.size(), 2);
+    QCOMPARE(texts.last().first().toString(), QString("a"));
+}
+
+void TestValueLists::fillsTexts_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("set");
+    QTest::addColumn<int>("refilled");
+    QTest::newRow("first") << 0 << 0 << 0;
+    QTest::newRow("last") << 2 << 2 << 2;
+    QTest::newRow("none") << -1 << 0 << 0;
+    QTest::newRow("past the end") << 7 << -1 << -1;
+}
+
+void TestValueLists::fillsTexts()
+{
+    QFETCH(int, index);
+    QFETCH(int, set);
+    QFETCH(int, refilled);
+    const QStringList items{"x", "y", "z"};
+    combo->addItems({"old", "older"});
+    combo->setCurrentIndex(1);
+    dialog().setComboItems(combo, items, index);
+    QCOMPARE(Window::items(combo), items);
+    QCOMPARE(combo->currentIndex(), set);
+    dialog().refillComboItems(combo, items, index);
+    QCOMPARE(Window::items(combo), items);
+    QCOMPARE(combo->currentIndex(), refilled);
+    dialog().refillComboItems(combo, {}, index);
+    QCOMPARE(combo->currentIndex(), -1);
+}
+
+void TestValueLists::readsNumbersFromTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("withoutTwo");
+    QTest::addColumn<int>("withoutOne");
+    const auto row = [](const char *text, int withoutTwo, int withoutOne) {
+        QTest::newRow(*text == '\0' ? "(empty)" : text) << QString(text) << withoutTwo << withoutOne;
+    };
+    row("35°C", 35, 0);
+    row("-5°C", -5, 0);
+    row("148°F", 148, 0);
+    row("12K", 1, 12);
+    row("-3K", 0, -3);
+    row("1234", 12, 123);
+    row("010K", 1, 10);
+    row("Select", 0, 0);
+    row("°C", 0, 0);
+    row("C", 0, 0);
+    row("5", 0, 0);
+    row("", 0, 0);
+}
+
+void TestValueLists::readsNumbersFromTexts()
+{
+    QFETCH(QString, text);
+    QFETCH(int, withoutTwo);
+    QFETCH(int, withoutOne);
+    QCOMPARE(dialog().textWithoutTwoChars(text), withoutTwo);
+    QCOMPARE(dialog().textWithoutOneChar(text), withoutOne);
+}
+
+void TestValueLists::checksALine_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("passes");
+    QTest::newRow("empty") << true << true << "" << false;
+    QTest::newRow("blank") << true << true << " " << true;
+    QTest::newRow("text") << true << true << "7" << true;
+    QTest::newRow("empty, disabled") << true << false << "" << true;
+    QTest::newRow("empty, hidden") << false << true << "" << true;
+    QTest::newRow("text, hidden") << false << true << "7" << true;
+}
+
+void TestValueLists::checksALine()
+{
+    QFETCH(bool, shown);
+    QFETCH(bool, enabled);
+    QFETCH(QString, text);
+    line->setVisible(shown);
+    line->setEnabled(enabled);
+    line->setText(text);
+    QTEST(dialog().checkValidationLineEdit(line), "passes");
+}
+
+void TestValueLists::checksAList_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("passes");
+    QTest::newRow("no choice") << true << true << 0 << false;
+    QTest::newRow("choice") << true << true << 1 << true;
+    QTest::newRow("no item") << true << true << -1 << true;
+    QTest::newRow("no choice, disabled") << true << false << 0 << true;
+    QTest::newRow("no choice, hidden") << false << true << 0 << true;
+    QTest::newRow("choice, hidden") << false << true << 1 << true;
+}
+
+void TestValueLists::checksAList()
+{
+    QFETCH(bool, shown);
+    QFETCH(bool, enabled);
+    QFETCH(int, index);
+    combo->addItems({"Select", "a"});
+    combo->setCurrentIndex(index);
+    combo->setVisible(shown);
+    combo->setEnabled(enabled);
+    QTEST(dialog().checkValidationComboBox(combo), "passes");
+}
+
+void TestValueLists::checksRadios()
+{
+    const auto &[first, second, third] = radios;
+    // Each bit is a state of a radio; what is hidden, disabled or checked in the pair passes, and so does a
+    // checked third.
+    for (int bits = 0; bits < 512; ++bits) {
+        const auto bit = [bits](int number) { return (bits & (1 << number)) != 0; };
+        int number = 0;
+        for (QRadioButton *radio : radios) {
+            radio->setVisible(!bit(number++));
+            radio->setEnabled(!bit(number++));
+            radio->setChecked(bit(number++));
+        }
+        const bool pairPasses = bit(0) || bit(1) || bit(2) || bit(3) || bit(4) || bit(5);
+        QCOMPARE(dialog().checkValidationRadio(first, second, nullptr), pairPasses);
+        QCOMPARE(dialog().checkValidationRadio(first, second, third), pairPasses || bit(8));
+    }
+}
+
+void TestValueLists::checksRadiosOfAHiddenPage()
+{
+    QVERIFY(!dialog().checkValidationRadio(radios[0], radios[1], nullptr));
+    host->hide();
+    QVERIFY(dialog().checkValidationRadio(radios[0], radios[1], nullptr));
+    QVERIFY(dialog().checkValidationLineEdit(line));
+    combo->addItem("Select");
+    QVERIFY(dialog().checkValidationComboBox(combo));
+}
+
+void TestValueLists::tellsAFailedCheck()
+{
+    combo->addItem("Select");
+    QVERIFY(!dialog().checkValidationComboBox(combo));
+    QVERIFY(!dialog().checkValidationRadio(radios[0], radios[1], radios[2]));
+    QVERIFY(!dialog().checkValidationLineEdit(line));
+    QCOMPARE(messages::all(),
+             (QStringList{
+                 "MainDialog::checkValidationComboBox Object Name: \"list\" validation check failed",
+                 " MainDialog::checkValidationRadio Object Name: \"radio1\" \"radio2\" validataion check: "
+                 "false"}));
+    messages::clear();
+    combo->hide();
+    line->hide();
+    radios[0]->hide();
+    QVERIFY(dialog().checkValidationComboBox(combo));
+    QVERIFY(dialog().checkValidationRadio(radios[0], radios[1], radios[2]));
+    QVERIFY(dialog().checkValidationLineEdit(line));
+    QVERIFY(messages::all().isEmpty());
+}
+
+void TestValueLists::emptySlotDoesNothing()
+{
+    const QString before = dialog().members().selectText;
+    QVERIFY(Window::invoke(&dialog(), "changeSelectTextInCombobox"));
+    QCOMPARE(dialog().members().selectText, before);
+    QVERIFY(messages::all().isEmpty());
+}
+
+CALORA_TEST_MAIN(TestValueLists)
+#include "tst_valuelists.moc"
