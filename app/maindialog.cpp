@@ -1,5 +1,6 @@
 #include "app/maindialog.h"
 
+#include "app/frameless.h"
 #include "app/windowshadow.h"
 #include "languages/languagemenu.h"
 #include "pages/installation/installationaauto.h"
@@ -42,6 +43,7 @@ MainDialog::MainDialog(QWidget *parent)
     // An effect belongs to one widget: this takes it from the path bar.
     setGraphicsEffect(shadow);
 
+    frameLess = std::make_unique<FrameLess>(this, true);
     ui->languageCombobox->installEventFilter(this);
     updateMaximumButtonUi(isMaximized());
     initCFTable();

@@ -7,6 +7,7 @@
 #include <memory>
 
 class DipSwitchSettingStatus;
+class FrameLess;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -181,6 +182,7 @@ private:
 
     std::unique_ptr<Ui::MainDialog> ui;
     DialogState state;
+    std::unique_ptr<FrameLess> frameLess;
 };
 
 /// The one dialog; set by its constructor as soon as the form is built.

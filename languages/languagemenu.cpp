@@ -1,8 +1,88 @@
 #include "languages/languagemenu.h"
 
+#include "app/maindialog.h"
+#include "document/files.h"
+#include "languages/languageitem.h"
+#include "languages/userlanguageeditpopup.h"
+#include "ui_languagemenu.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileDialog>
+
 LanguageMenu::LanguageMenu(QWidget *parent)
     : QWidget(parent)
+    , ui(std::make_unique<Ui::LanguageMenu>())
 {
+    ui->setupUi(this);
+    // Its scroll bar measured itself before it had a style sheet, and a list that isn't polished doesn't tell
+    // it.
+    ui->listWidget->ensurePolished();
+    ui->listWidget->setStyleSheet(ui->listWidget->styleSheet());
 }
 
-void LanguageMenu::setLanguageList(const QStringList &) {}
+LanguageMenu::~LanguageMenu() = default;
+
+void LanguageMenu::setLanguageList(const QStringList &names)
+{
+    for (const QString &name : names) {
+        auto *item = new QListWidgetItem(ui->listWidget);
+        auto *row = new LanguageItem(ui->listWidget);
+        row->setLanguage(name);
+        item->setSizeHint(row->size());
+        ui->listWidget->setItemWidget(item, row);
+        connect(row, &LanguageItem::clickedModifyButton, this, &LanguageMenu::clickedModifyButton);
+    }
+}
+
+// The name is read back from the file that has just been written.
+void LanguageMenu::on_listWidget_itemClicked(QListWidgetItem *item)
+{
+    const auto *row = static_cast<LanguageItem *>(ui->listWidget->itemWidget(item));
+    mainDialog->saveLanguageName(row->language());
+    mainDialog->loadLanguageData(mainDialog->languageIniPath());
+    mainDialog->setLanguageMenuOpen(false);
+    close();
+}
+
+void LanguageMenu::on_newButton_clicked()
+{
+    mainDialog->setLanguageSnapshot(mainDialog->languageDocument());
+    closeMenu();
+    UserLanguageEditPopup editor;
+    editor.setNewLanguage(true);
+    editor.setLanguageFilePath(QString());
+    editor.exec();
+}
+
+void LanguageMenu::on_loadButton_clicked()
+{
+    closeMenu();
+    mainDialog->loadLanguageAnotherPath(QFileDialog::getOpenFileName());
+}
+
+// The path isn't that of the row's file, on purpose: the button reaches only a file put there by hand.
+void LanguageMenu::clickedModifyButton(const QString &language)
+{
+    closeMenu();
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/languages/language")
+        + language + QStringLiteral(".json");
+    qDebug() << "LanguageMenu::clickedModifyButton" << path;
+    loadLanguageJson(path);
+}
+
+void LanguageMenu::loadLanguageJson(const QString &filePath)
+{
+    const auto content = files::read(filePath);
+    if (!content) {
+        qWarning() << "LanguageMenu::loadLanguageJson failed to open file:" << filePath;
+        return;
+    }
+    mainDialog->setLanguageDocument(QJsonDocument::fromJson(*content));
+}
+
+void LanguageMenu::closeMenu()
+{
+    close();
+    mainDialog->setLanguageMenuOpen(false);
+}

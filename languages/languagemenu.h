@@ -2,14 +2,36 @@
 
 #include <QWidget>
 
-/// The popup below the tool bar that lists the languages.
+#include <memory>
+
+class QListWidgetItem;
+namespace Ui {
+class LanguageMenu;
+}
+
+/// The popup below the tool bar that lists the languages. It is a child of the main dialog, shown above the
+/// dialog's content; each of its actions closes it.
 class LanguageMenu : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit LanguageMenu(QWidget *parent);
+    ~LanguageMenu() override;
 
     /// Adds one row per language, in the order of `names`.
     void setLanguageList(const QStringList &names);
+
+private slots:
+    void on_listWidget_itemClicked(QListWidgetItem *item);
+    void on_newButton_clicked();
+    void on_loadButton_clicked();
+    void clickedModifyButton(const QString &language);
+    /// Makes a file the language in force and tells no page.
+    void loadLanguageJson(const QString &filePath);
+
+private:
+    void closeMenu();
+
+    std::unique_ptr<Ui::LanguageMenu> ui;
 };

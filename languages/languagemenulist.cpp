@@ -1,0 +1,6 @@
+#include "languages/languagemenulist.h"
+
+LanguageMenuList::LanguageMenuList(QWidget *parent)
+    : QListWidget(parent)
+{
+}

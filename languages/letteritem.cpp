@@ -1,0 +1,33 @@
+#include "languages/letteritem.h"
+
+#include "app/maindialog.h"
+#include "ui_letteritem.h"
+
+LetterItem::LetterItem(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::LetterItem>())
+{
+    ui->setupUi(this);
+    // A pixmap comes from the cache; a file name in the form would be looked up for each of the many rows.
+    ui->ButtonRemove->setIcon(QPixmap(QStringLiteral(":/images/btn_language_popup_edit_delete.png")));
+}
+
+LetterItem::~LetterItem() = default;
+
+void LetterItem::setData(const QString &reference, const QString &editText)
+{
+    ui->labelReference->setText(reference);
+    ui->lineEdit->setText(editText);
+}
+
+QString LetterItem::editText() const { return ui->lineEdit->text(); }
+
+// Empties the row on the screen only: setting the text is no edit, so the key keeps its old text.
+void LetterItem::on_ButtonRemove_clicked() { ui->lineEdit->setText(QString()); }
+
+// Keys with equal texts share the first of them in sorted order: a row knows its text, not its key. A text
+// that the language in force has lost since goes to the empty key.
+void LetterItem::on_lineEdit_textEdited(const QString &arg1)
+{
+    mainDialog->setLanguageSnapshotText(mainDialog->languageKey(ui->labelReference->text()), arg1);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class LetterItem;
+}
+
+/// A row of the language editor: the text of the language in force and the new text beside it.
+class LetterItem : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LetterItem(QWidget *parent);
+    ~LetterItem() override;
+
+    void setData(const QString &reference, const QString &editText);
+    QString editText() const;
+
+signals:
+    /// Nothing emits it.
+    void editTextFinished(const QString &reference, const QString &editText);
+
+private slots:
+    void on_ButtonRemove_clicked();
+    void on_lineEdit_textEdited(const QString &arg1);
+
+private:
+    std::unique_ptr<Ui::LetterItem> ui;
+};

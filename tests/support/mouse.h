@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QPoint>
+#include <QStringList>
+
+/// The pointer of the X server, moved and pressed from outside as a hand does it. Events are served
+/// meanwhile.
+namespace mouse {
+
+/// Moves the pointer; returns once it is there.
+void moveTo(const QPoint &globalPos);
+
+/// Presses or releases a button: 1 left, 3 right.
+void press(int button = 1);
+void release(int button = 1);
+
+/// Presses the left button at `from`, moves by `distance` in one step, and releases it there.
+void drag(const QPoint &from, const QPoint &distance);
+
+} // namespace mouse

@@ -1,0 +1,579 @@
+#include "support/languagefolder.h"
+#include "support/modal.h"
+#include "support/mouse.h"
+#include "support/window.h"
+
+#include "languages/languageitem.h"
+#include "languages/languagemenu.h"
+#include "languages/userlanguageeditpopup.h"
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+// The popup that lists the languages.
+
+namespace {
+
+using testfiles::content;
+using testfiles::put;
+using testfiles::quoted;
+
+void addLanguage(const QString &name, const QByteArray &text = languagefolder::english())
+{
+    put(languagefolder::file(name + QStringLiteral(".json")), text);
+}
+
+} // namespace
+
+class TestLanguageMenu : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { mouse::moveTo(QPoint(2, 2)); }
+    void init() { restart(); }
+    void cleanup()
+    {
+        window.reset();
+        QDir(unreachableFolder()).removeRecursively();
+        languagefolder::restore();
+    }
+
+    void declaresItsOperations();
+    void formIsAsSettled();
+    void rowIsAsSettled();
+    void buttonsHaveThreePictures();
+    void rowTellsItsLanguage();
+    void listsLanguageFiles();
+    void listsNothingInAnEmptyFolder();
+    void opensAndCloses();
+    void anyButtonOpens();
+    void openPressIsEaten();
+    void pressOnTheDialogCloses();
+    void minimizingCloses();
+    void languageMenuToggles();
+    void rowSwitchesTheLanguage();
+    void languageInForceIsReloaded();
+    void switchLeavesTheDocumentAlone();
+    void rowOfAnUnusableFile_data();
+    void rowOfAnUnusableFile();
+    void upperCaseExtensionIsNotFound();
+    void nameThatCantBeSaved();
+    void tenLanguagesScroll();
+    void newOpensTheEditor();
+    void loadTakesAFileIn();
+    void loadIsCancelled();
+    void loadOfAFileOfTheFolder();
+    void modifyReachesNoFile();
+    void modifyReachesAFilePutThere();
+    void replacedPopupStaysHidden();
+
+private:
+    static QString unreachableFolder()
+    {
+        return QCoreApplication::applicationDirPath() + QStringLiteral("/languages");
+    }
+    void restart()
+    {
+        window.reset();
+        window = std::make_unique<Window>();
+        messages::clear();
+    }
+    MainDialog &dialog() const { return window->dialog; }
+    LanguageMenu *menu() const { return dialog().members().languageMenuWidget; }
+    bool isOpen() const { return dialog().members().languageMenuOpen; }
+    QListWidget *list() const { return Window::find<QListWidget>(menu(), "listWidget"); }
+    LanguageItem *row(int index) const
+    {
+        return qobject_cast<LanguageItem *>(list()->itemWidget(list()->item(index)));
+    }
+    QStringList names() const
+    {
+        QStringList result;
+        for (int index = 0; index < list()->count(); ++index) {
+            result.append(row(index)->language());
+        }
+        return result;
+    }
+    void open() const { Window::click(&dialog(), "languageCombobox"); }
+    void choose(const QString &name) const
+    {
+        open();
+        Window::click(row(names().indexOf(name)), "labelLanguage");
+    }
+    QString text(const char *name) const
+    {
+        return Window::find(&dialog(), name)->property("text").toString();
+    }
+    void verifyClosed() const
+    {
+        QVERIFY(!isOpen());
+        QVERIFY(!menu()->isVisible());
+    }
+
+    std::unique_ptr<Window> window;
+};
+
+void TestLanguageMenu::declaresItsOperations()
+{
+    QCOMPARE(Window::ownSlots(menu()),
+             (QStringList{"on_listWidget_itemClicked(QListWidgetItem*)", "on_newButton_clicked()",
+                          "on_loadButton_clicked()", "clickedModifyButton(QString)",
+                          "loadLanguageJson(QString)"}));
+    QVERIFY(Window::ownSignals(menu()).isEmpty());
+    QCOMPARE(Window::ownSlots(row(0)), QStringList{"on_buttonModify_clicked()"});
+    QCOMPARE(Window::ownSignals(row(0)), QStringList{"clickedModifyButton(QString)"});
+    QCOMPARE(list()->metaObject()->superClass()->className(), "QListWidget");
+    QVERIFY(Window::ownSlots(list()).isEmpty());
+}
+
+void TestLanguageMenu::formIsAsSettled()
+{
+    QCOMPARE(menu()->size(), QSize(176, 255));
+    QCOMPARE(menu()->minimumSize(), QSize(176, 255));
+    QCOMPARE(menu()->maximumSize(), QSize(176, 16777215));
+    QCOMPARE(menu()->styleSheet(),
+             QString("QWidget#LanguageMenu{\n\tborder : 1px solid #000000;\nbackground-color: white;\n}"));
+    const auto *outer = menu()->findChild<QVBoxLayout *>("verticalLayout_2");
+    QCOMPARE(menu()->layout(), outer);
+    QCOMPARE(outer->spacing(), 0);
+    QCOMPARE(outer->contentsMargins(), QMargins());
+    const auto *frame = Window::find<QFrame>(menu(), "frame");
+    QCOMPARE(frame->minimumWidth(), 176);
+    QCOMPARE(frame->maximumWidth(), 176);
+    QCOMPARE(frame->frameShape(), QFrame::StyledPanel);
+    QCOMPARE(frame->styleSheet(),
+             QString("QFrame#frame {\n\tborder: 2px solid #ECECEC;\n\tbackground-color: white;\n}"));
+    QCOMPARE(frame->layout()->objectName(), QString("verticalLayout"));
+    QCOMPARE(frame->layout()->contentsMargins(), QMargins());
+    QCOMPARE(list()->maximumWidth(), 176);
+    QCOMPARE(list()->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(list()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    QCOMPARE(list()->sizeAdjustPolicy(), QAbstractScrollArea::AdjustToContents);
+    QVERIFY(list()->hasAutoScroll());
+    QVERIFY(list()->styleSheet().contains("rgb(158, 158, 158)"));
+    QCOMPARE(Window::find<QFrame>(menu(), "line")->frameShape(), QFrame::HLine);
+    const auto *box = Window::find<QGroupBox>(menu(), "groupBox");
+    QVERIFY(box->title().isEmpty());
+    QCOMPARE(box->font().family(), QString("Noto Sans"));
+    QCOMPARE(box->font().pointSize(), 11);
+    QCOMPARE(box->styleSheet(),
+             QString("border-top : 1px solid #ffffff;\nbackground-color: rgb(255, 255, 255);"));
+    QCOMPARE(box->layout()->objectName(), QString("horizontalLayout"));
+    QCOMPARE(box->layout()->contentsMargins(), QMargins());
+}
+
+void TestLanguageMenu::rowIsAsSettled()
+{
+    LanguageItem item(nullptr);
+    QCOMPARE(item.size(), QSize(176, 51));
+    QCOMPARE(item.maximumSize(), QSize(176, 51));
+    QCOMPARE(item.styleSheet(),
+             QString("QWidget {\n\toutline: none;\n\tborder: none;\n\tborder-bottom: "
+                     "1px solid #D2D2D2;\n}\n\n"));
+    const auto *layout = qobject_cast<QHBoxLayout *>(item.layout());
+    QCOMPARE(layout->objectName(), QString("horizontalLayout"));
+    const auto *label = Window::find<QLabel>(&item, "labelLanguage");
+    const auto *button = Window::find<QPushButton>(&item, "buttonModify");
+    QCOMPARE(layout->count(), 3);
+    QCOMPARE(layout->itemAt(0)->widget(), label);
+    QCOMPARE(layout->itemAt(1)->spacerItem()->sizeHint(), QSize(140, 20));
+    QCOMPARE(layout->itemAt(2)->widget(), button);
+    QCOMPARE(label->font().family(), QString("Noto Sans"));
+    QCOMPARE(label->font().pointSize(), 10);
+    QCOMPARE(label->styleSheet(), QString("border:none;"));
+    QCOMPARE(button->minimumSize(), QSize(16, 16));
+    QCOMPARE(button->maximumSize(), QSize(16, 16));
+    QCOMPARE(button->styleSheet(),
+             QString("QPushButton {\nborder : none;\noutline : none;\nimage: "
+                     "url(:/images/ic_language_edit.png);\n}\n"));
+}
+
+void TestLanguageMenu::buttonsHaveThreePictures()
+{
+    for (const char *name : {"newButton", "loadButton"}) {
+        const auto *button = Window::find<QPushButton>(menu(), name);
+        QCOMPARE(button->minimumSize(), QSize(77, 26));
+        QCOMPARE(button->maximumSize(), QSize(77, 26));
+        QVERIFY(!button->autoDefault());
+        for (const char *picture : {"normal", "over", "press"}) {
+            const QString path = QStringLiteral(":/images/btn_language_%1.png").arg(QLatin1String(picture));
+            QVERIFY2(button->styleSheet().contains(path), picture);
+            QVERIFY2(QFile::exists(path), picture);
+        }
+    }
+    QCOMPARE(Window::find<QPushButton>(menu(), "newButton")->styleSheet(),
+             Window::find<QPushButton>(menu(), "loadButton")->styleSheet());
+    window->speak("~");
+    QCOMPARE(Window::find<QPushButton>(menu(), "newButton")->text(), QString("New"));
+    QCOMPARE(Window::find<QPushButton>(menu(), "loadButton")->text(), QString("Load"));
+}
+
+void TestLanguageMenu::rowTellsItsLanguage()
+{
+    LanguageItem item(nullptr);
+    QSignalSpy clicked(&item, &LanguageItem::clickedModifyButton);
+    item.setLanguage("Česky <b>1</b>");
+    QCOMPARE(item.language(), QString("Česky <b>1</b>"));
+    QCOMPARE(Window::find<QLabel>(&item, "labelLanguage")->text(), QString("Česky <b>1</b>"));
+    item.show();
+    Window::click(&item, "buttonModify");
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(clicked.at(0).at(0).toString(), QString("Česky <b>1</b>"));
+}
+
+void TestLanguageMenu::listsLanguageFiles()
+{
+    for (const char *file : {"Upper.JSON", "two.json.json", "Deutsch.json", "notes.txt",
+                             "my.jsonlanguage.json", "日本 語.json"}) {
+        put(languagefolder::file(QString::fromUtf8(file)), "{}");
+    }
+    QDir(languagefolder::path()).mkdir("folder.json");
+    dialog().rebuildLanguageMenu();
+    QCOMPARE(names(), (QStringList{"Deutsch", "English", "mylanguage", "two", "Upper.JSON", "日本 語"}));
+    for (int index = 0; index < list()->count(); ++index) {
+        QCOMPARE(list()->item(index)->sizeHint(), QSize(176, 51));
+    }
+    menu()->setLanguageList({});
+    QCOMPARE(list()->count(), 6);
+    menu()->setLanguageList({"second", "first"});
+    QCOMPARE(names().mid(6), (QStringList{"second", "first"}));
+}
+
+void TestLanguageMenu::listsNothingInAnEmptyFolder()
+{
+    QDir(languagefolder::path()).removeRecursively();
+    restart();
+    QCOMPARE(list()->count(), 0);
+    open();
+    QVERIFY(menu()->isVisible());
+    QVERIFY(modal::drive<UserLanguageEditPopup>(
+        [this] { Window::click(menu(), "newButton"); },
+        [](UserLanguageEditPopup *editor) { Window::click(editor, "closeButton"); }));
+    verifyClosed();
+}
+
+void TestLanguageMenu::opensAndCloses()
+{
+    verifyClosed();
+    QCOMPARE(menu()->parentWidget(), &dialog());
+    open();
+    QVERIFY(isOpen());
+    QVERIFY(menu()->isVisible());
+    QCOMPARE(menu()->pos(),
+             QPoint(Window::find(&dialog(), "labelLanguage")->x() - 10,
+                    Window::find(&dialog(), "toolbarGroupBox")->height()
+                        + Window::find(&dialog(), "titleFrame")->height()));
+    const QPoint inside = menu()->geometry().center();
+    QVERIFY(menu()->isAncestorOf(dialog().childAt(inside)));
+    open();
+    verifyClosed();
+    open();
+    QVERIFY(isOpen() && menu()->isVisible());
+    QVERIFY(Window::find(&dialog(), "languageCombobox")->minimumWidth() >= 100);
+}
+
+void TestLanguageMenu::anyButtonOpens()
+{
+    auto *box = Window::find(&dialog(), "languageCombobox");
+    QTest::mouseClick(box, Qt::RightButton);
+    QVERIFY(isOpen() && menu()->isVisible());
+    QTest::mouseClick(box, Qt::MiddleButton);
+    verifyClosed();
+    // The texts in the box are no other place.
+    Window::click(&dialog(), "labelCurrentLanguage");
+    QVERIFY(isOpen() && menu()->isVisible());
+}
+
+void TestLanguageMenu::openPressIsEaten()
+{
+    auto *box = Window::find(&dialog(), "languageCombobox");
+    QTest::mousePress(box, Qt::LeftButton);
+    QVERIFY(isOpen());
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QTest::mouseRelease(box, Qt::LeftButton);
+    QTest::mousePress(box, Qt::LeftButton);
+    verifyClosed();
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QTest::mouseRelease(box, Qt::LeftButton);
+}
+
+// Whether a press closes the popup depends on whether it reaches the dialog: a control keeps it.
+void TestLanguageMenu::pressOnTheDialogCloses()
+{
+    open();
+    const auto middle = [this](const char *name) {
+        const QWidget *widget = Window::find(&dialog(), name);
+        return widget->mapToGlobal(widget->rect().center());
+    };
+    mouse::moveTo(middle("saveButton"));
+    mouse::press();
+    mouse::release();
+    QVERIFY(isOpen() && menu()->isVisible());
+    mouse::moveTo(middle("pathLabel"));
+    mouse::press();
+    mouse::release();
+    verifyClosed();
+    mouse::moveTo(QPoint(2, 2));
+}
+
+void TestLanguageMenu::minimizingCloses()
+{
+    open();
+    Window::click(&dialog(), "minimizeButton");
+    verifyClosed();
+}
+
+void TestLanguageMenu::languageMenuToggles()
+{
+    const auto *label = Window::find(&dialog(), "labelLanguage");
+    QVERIFY(Window::invoke(&dialog(), "languageMenu"));
+    QVERIFY(isOpen() && menu()->isVisible());
+    QCOMPARE(menu()->pos(), QPoint(label->x() - 10, 100));
+    QCOMPARE(messages::all(),
+             QStringList{QStringLiteral("MainDialog::languageMenu open :  100 %1 %2 %3")
+                             .arg(Window::find(&dialog(), "pathLabel")->y())
+                             .arg(label->y())
+                             .arg(Window::find(&dialog(), "toolbarGroupBox")->height())});
+    messages::clear();
+    QVERIFY(Window::invoke(&dialog(), "languageMenu"));
+    verifyClosed();
+    QVERIFY(messages::all().isEmpty());
+}
+
+void TestLanguageMenu::rowSwitchesTheLanguage()
+{
+    addLanguage("Other", languagefolder::marked("+"));
+    restart();
+    choose("Other");
+    verifyClosed();
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("Other"));
+    QCOMPARE(text("labelCurrentLanguage"), QString("Other"));
+    QCOMPARE(text("newButton"), QString("New+"));
+    QCOMPARE(text("labelSlide4"), QString("Validation+"));
+    QCOMPARE(text("labelProductType"), QString("Product type+"));
+    restart();
+    QCOMPARE(text("labelCurrentLanguage"), QString("Other"));
+    QCOMPARE(text("newButton"), QString("New+"));
+}
+
+void TestLanguageMenu::languageInForceIsReloaded()
+{
+    QSignalSpy changed(&dialog(), &MainDialog::changeInstallationLanguage);
+    addLanguage("English", languagefolder::marked("!"));
+    choose("English");
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(text("newButton"), QString("New!"));
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
+    verifyClosed();
+}
+
+void TestLanguageMenu::switchLeavesTheDocumentAlone()
+{
+    addLanguage("Other", languagefolder::marked("+"));
+    restart();
+    for (const char *refrigerant : {"R32", "R410"}) {
+        window->use(documents::standard(refrigerant));
+        for (int tab = 0; tab < 4; ++tab) {
+            window->showPage(MainDialog::SettingPage, tab);
+            const QByteArray before = dialog().document().toJson(QJsonDocument::Compact);
+            choose("Other");
+            QCOMPARE(dialog().document().toJson(QJsonDocument::Compact), before);
+            choose("English");
+            QCOMPARE(dialog().document().toJson(QJsonDocument::Compact), before);
+        }
+    }
+}
+
+void TestLanguageMenu::rowOfAnUnusableFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no JSON") << QByteArray("New = Neu\n");
+    QTest::newRow("array") << QByteArray("[\"New\"]");
+    QTest::newRow("cut off") << languagefolder::english().left(500);
+    QTest::newRow("no texts") << QByteArray(R"({"New": 5, "Open": [], "Save": null, "Language": {}})");
+    QTest::newRow("unknown keys") << QByteArray(R"({"a.b c": "x", "ä": "y"})");
+}
+
+void TestLanguageMenu::rowOfAnUnusableFile()
+{
+    QFETCH(QByteArray, bytes);
+    addLanguage("Broken", bytes);
+    restart();
+    choose("Broken");
+    verifyClosed();
+    QCOMPARE(text("labelCurrentLanguage"), QString("Broken"));
+    QCOMPARE(text("openButton"), QString());
+    QVERIFY(messages::contain("MainDialog::languageValue language value is empty"));
+    choose("English");
+    QCOMPARE(text("openButton"), QString("Open"));
+}
+
+void TestLanguageMenu::upperCaseExtensionIsNotFound()
+{
+    put(languagefolder::file("Upper.JSON"), languagefolder::marked("+"));
+    restart();
+    choose("Upper.JSON");
+    QVERIFY(messages::contain("MainDialog::loadLanguageData failed to open file: "
+                              + quoted(languagefolder::file("Upper.JSON.json"))));
+    QCOMPARE(text("labelCurrentLanguage"), QString("Upper.JSON"));
+    QCOMPARE(text("newButton"), QString("New"));
+    verifyClosed();
+}
+
+void TestLanguageMenu::nameThatCantBeSaved()
+{
+    addLanguage("Other", languagefolder::marked("+"));
+    restart();
+    QVERIFY(QFile::remove(languagefolder::iniPath()));
+    QVERIFY(QDir().mkpath(languagefolder::iniPath()));
+    choose("Other");
+    QCOMPARE(messages::all(),
+             (QStringList{"LanguageMenu::on_listWidget_itemClicked failed to open file:",
+                          "MainDialog::loadLanguageData failed to open file:"}));
+    verifyClosed();
+    QCOMPARE(text("labelCurrentLanguage"), QString("English"));
+    QCOMPARE(text("newButton"), QString("New"));
+}
+
+void TestLanguageMenu::tenLanguagesScroll()
+{
+    for (int number = 1; number < 10; ++number) {
+        addLanguage(QStringLiteral("Tongue %1").arg(number));
+    }
+    restart();
+    open();
+    QTest::qWait(50);
+    QCOMPARE(list()->count(), 10);
+    QCOMPARE(menu()->size(), QSize(176, 255));
+    QScrollBar *bar = list()->verticalScrollBar();
+    QVERIFY(bar->isVisible());
+    QCOMPARE(bar->width(), 6);
+    QVERIFY(bar->maximum() > 0);
+    QVERIFY(!list()->horizontalScrollBar()->isVisible());
+    const QWidget *last = row(9);
+    const auto inView = [this, last] {
+        return list()->viewport()->rect().contains(last->geometry().center());
+    };
+    QVERIFY(!inView());
+    bar->setValue(bar->maximum());
+    QTRY_VERIFY(inView());
+    // Nothing of a row lies behind the scroll bar.
+    const auto *button = Window::find(last, "buttonModify");
+    QVERIFY(last->x() + button->geometry().right() < list()->viewport()->width());
+    Window::click(last, "labelLanguage");
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("Tongue 9"));
+}
+
+void TestLanguageMenu::newOpensTheEditor()
+{
+    const QJsonDocument english = dialog().languageDocument();
+    open();
+    const auto look = [&](UserLanguageEditPopup *editor) {
+        verifyClosed();
+        QVERIFY(editor->isModal());
+        QCOMPARE(editor->parentWidget(), nullptr);
+        QCOMPARE(dialog().members().languageSnapshot, english);
+        QCOMPARE(dialog().languageSnapshotMap(), dialog().languageMap());
+        QCOMPARE(dialog().languageDocument(), english);
+        // A new language: Save asks for a name.
+        QCOMPARE(filedialogs::answer([editor] { Window::click(editor, "saveButton"); }, QString()).title,
+                 QString("Save"));
+        QVERIFY(editor->isVisible());
+        Window::click(editor, "closeButton");
+    };
+    QVERIFY(modal::drive<UserLanguageEditPopup>([this] { Window::click(menu(), "newButton"); }, look));
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets) {
+        QVERIFY(qobject_cast<const UserLanguageEditPopup *>(widget) == nullptr);
+    }
+    QCOMPARE(dialog().languageDocument(), english);
+}
+
+void TestLanguageMenu::loadTakesAFileIn()
+{
+    QTemporaryDir elsewhere;
+    const QString path = elsewhere.filePath("Italiano.json");
+    put(path, languagefolder::marked("?"));
+    open();
+    filedialogs::answer([this] { Window::click(menu(), "loadButton"); }, path);
+    verifyClosed();
+    QCOMPARE(content(languagefolder::file("Italiano.json")), languagefolder::marked("?"));
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("Italiano"));
+    QCOMPARE(names(), (QStringList{"English", "Italiano"}));
+    QCOMPARE(text("labelCurrentLanguage"), QString("Italiano"));
+    QCOMPARE(text("newButton"), QString("New?"));
+    restart();
+    QCOMPARE(text("newButton"), QString("New?"));
+}
+
+void TestLanguageMenu::loadIsCancelled()
+{
+    open();
+    const LanguageMenu *popup = menu();
+    QVERIFY(!filedialogs::answer([this] { Window::click(menu(), "loadButton"); }, QString()).title.isEmpty());
+    QCOMPARE(messages::all(), QStringList{"MainDialog::loadLanguageAnotherPath failed to open file: \"\""});
+    verifyClosed();
+    QCOMPARE(menu(), popup);
+    QCOMPARE(text("newButton"), QString("New"));
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
+}
+
+void TestLanguageMenu::loadOfAFileOfTheFolder()
+{
+    addLanguage("Other", languagefolder::marked("+"));
+    restart();
+    open();
+    filedialogs::answer([this] { Window::click(menu(), "loadButton"); }, languagefolder::file("Other.json"));
+    QCOMPARE(content(languagefolder::file("Other.json")), languagefolder::marked("+"));
+    QCOMPARE(text("newButton"), QString("New+"));
+    QCOMPARE(names(), (QStringList{"English", "Other"}));
+}
+
+void TestLanguageMenu::modifyReachesNoFile()
+{
+    open();
+    const QJsonDocument before = dialog().languageDocument();
+    Window::click(row(0), "buttonModify");
+    const QString path = quoted(unreachableFolder() + "/languageEnglish.json");
+    QCOMPARE(messages::all(),
+             (QStringList{"LanguageMenu::clickedModifyButton " + path,
+                          "LanguageMenu::loadLanguageJson failed to open file: " + path}));
+    verifyClosed();
+    QCOMPARE(dialog().languageDocument(), before);
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
+}
+
+void TestLanguageMenu::modifyReachesAFilePutThere()
+{
+    QDir().mkpath(unreachableFolder());
+    put(unreachableFolder() + "/languageEnglish.json", languagefolder::marked("+"));
+    QSignalSpy changed(&dialog(), &MainDialog::changeInstallationLanguage);
+    open();
+    Window::click(row(0), "buttonModify");
+    QCOMPARE(dialog().languageDocument(), QJsonDocument::fromJson(languagefolder::marked("+")));
+    QCOMPARE(text("newButton"), QString("New"));
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
+    QCOMPARE(dialog().languageValue("New"), QString("New+"));
+}
+
+void TestLanguageMenu::replacedPopupStaysHidden()
+{
+    open();
+    LanguageMenu *former = menu();
+    dialog().rebuildLanguageMenu();
+    QVERIFY(menu() != former);
+    QVERIFY(!isOpen());
+    QCOMPARE(former->parentWidget(), &dialog());
+    QCOMPARE(dialog().findChildren<LanguageMenu *>().size(), 2);
+    QVERIFY(!menu()->isVisible());
+}
+
+CALORA_TEST_MAIN(TestLanguageMenu)
+#include "tst_languagemenu.moc"
