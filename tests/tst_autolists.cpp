@@ -162,6 +162,18 @@ void TestAutoLists::limitsFollowTheFlags_data()
     const QVariantMap noHeatBasis{{"IduFuncList.is_heatwatercontrolbasis", "CLR"}};
     const QVariantMap noCoolBasis{{"IduFuncList.is_coolwatercontrolbasis", "CLR"}};
     row("R32", {}, "-25 46", "20 65", "16 27", "16 30");
+    row("R32, written small",
+        {{"IduFuncList.isR32", "set"},
+         {"IduFuncList.isCoolAir16", "set"},
+         {"IduFuncList.is_heatwatercontrolbasis", "set"},
+         {root + "heatWaterControlBasis", "entrance"},
+         {root + "UFH_stop.FCU_disable", "set"}},
+        "-25 46", "20 55", "16 27", "16 30");
+    row("no fan coil rule, written small",
+        join({fan,
+              coolIn,
+              {{"IduFuncList.isCoolTempMin5", "set"}, {"IduFuncList.is_coolwatercontrolbasis", "set"}}}),
+        "-25 46", "20 65", "10 27", "16 30");
     row("R410, expand", expand, "-15 43", "20 57", "16 27", "16 30");
     row("no 16 °C", {{"IduFuncList.isCoolAir16", "CLR"}}, "-25 46", "20 65", "16 27", "18 30");
     row("heater", {{"IduFuncList.is_installed_heater", "Set"}}, "-25 46", "15 65", "16 27", "16 30");
@@ -302,7 +314,12 @@ void TestAutoLists::valueChangedRefreshesOnlyWhenAsked()
     // Left out, the last argument is false.
     QMetaObject::invokeMethod(section->page, "valueChanged", Q_ARG(int, 5), Q_ARG(int, 44));
     QCOMPARE(section->items("comboHeatingWaterMin"), range(25, 43, "°C"));
+    // No group but its own.
+    section->valueChanged(13, 27, false);
+    section->valueChanged(5, 42, true);
+    QCOMPARE(section->ends("comboHeatingIndoorMin"), QString("20°C 29°C"));
     QCOMPARE(section->window.changes([this] { section->valueChanged(13, 28, true); }), QVariantMap());
+    QCOMPARE(section->ends("comboHeatingIndoorMin"), QString("20°C 28°C"));
 }
 
 void TestAutoLists::unknownBoxesAndTypesChangeNothing()

@@ -82,6 +82,7 @@ private slots:
     void rowsFollowTheFlags();
     void unknownSensingChangesNoRow();
     void viewOfAValue();
+    void rowsLieInTheirBoxes();
     void otherSectionsRefresh();
     void alwaysValid();
 
@@ -483,6 +484,38 @@ void TestInstallationaAuto::viewOfAValue()
     QCOMPARE(view("water"), QString("0011"));
     QCOMPARE(view(""), QString("0011"));
     QCOMPARE(view("AIR_WATER"), QString("1111"));
+}
+
+void TestInstallationaAuto::rowsLieInTheirBoxes()
+{
+    const QList<QPair<const char *, const char *>> nesting{
+        {"groupBoxSeasonalAutoMode", "radioHeatingOnly"},
+        {"groupBoxSeasonalAutoMode", "groupBoxHeatOutTemp"},
+        {"groupBoxSeasonalAutoMode", "groupBoxCoolOutTemp"},
+        {"groupBoxSeasonalAutoMode", "groupBoxMainZoneIndoor"},
+        {"groupBoxSeasonalAutoMode", "groupBoxSeasonalIndoor"},
+        {"groupBoxSeasonalAutoMode", "groupBoxMainZoneWater"},
+        {"groupBoxSeasonalAutoMode", "groupBoxSeasonalWater"},
+        {"groupBoxSeasonalIndoor", "groupBoxHeatAirTemp"},
+        {"groupBoxSeasonalIndoor", "groupBoxCoolAirTemp"},
+        {"groupBoxMainZoneWater", "groupBoxHeatWaterTempMainZone"},
+        {"groupBoxMainZoneWater", "groupBoxCoolWaterTempMainZone"},
+        {"groupBoxSeasonalWater", "groupBoxHeatWaterTemp"},
+        {"groupBoxSeasonalWater", "groupBoxCoolWaterTemp"},
+        {"groupBoxHeatOutTemp", "comboHeatingOutdoorMin"},
+        {"groupBoxCoolOutTemp", "comboCoolingOutdoorMax"},
+        {"groupBoxMainZoneIndoor", "comboMainZoneHeatingIndoorMax"},
+        {"groupBoxMainZoneIndoor", "comboMainZoneIndoorMin"},
+        {"groupBoxHeatAirTemp", "comboHeatingIndoorMax"},
+        {"groupBoxCoolAirTemp", "comboCoolingIndoorMin"},
+        {"groupBoxHeatWaterTempMainZone", "comboMainZoneHeatingWaterMax"},
+        {"groupBoxCoolWaterTempMainZone", "comboMainZoneWaterMin"},
+        {"groupBoxHeatWaterTemp", "comboHeatingWaterMin"},
+        {"groupBoxCoolWaterTemp", "comboCoolingWaterMax"},
+        {"groupBoxOutdoorMode", "comboOutdoorWaterMin"}};
+    for (const auto &[outer, inner] : nesting) {
+        QVERIFY2(Window::find(section->page, outer)->isAncestorOf(Window::find(section->page, inner)), inner);
+    }
 }
 
 void TestInstallationaAuto::otherSectionsRefresh()

@@ -22,6 +22,16 @@ inline const char *const seasonalBoxes[] = {
     "comboCoolingIndoorMin",        "comboMainZoneHeatingIndoorMax", "comboMainZoneHeatingIndoorMin",
     "comboMainZoneIndoorMax",       "comboMainZoneIndoorMin"};
 
+/// Where their values are kept, below seasonalRoot.
+inline const char *const seasonalPaths[] = {
+    "heatOutTemp.min",           "heatOutTemp.max",           "coolOutTemp.min",
+    "coolOutTemp.max",           "heatWaterTemp.max",         "heatWaterTemp.min",
+    "coolWaterTemp.max",         "coolWaterTemp.min",         "heatWaterTempMainZone.max",
+    "heatWaterTempMainZone.min", "coolWaterTempMainZone.max", "coolWaterTempMainZone.min",
+    "heatAirTemp.max",           "heatAirTemp.min",           "coolAirTemp.max",
+    "coolAirTemp.min",           "heatAirTempMainZone.max",   "heatAirTempMainZone.min",
+    "coolAirTempMainZone.max",   "coolAirTempMainZone.min"};
+
 inline QVariantMap mainZone(const QString &use) { return {{root + "circuitMainZone.enableMainZone", use}}; }
 
 inline QVariantMap sensing(const QString &select, const QString &both)
@@ -79,6 +89,16 @@ public:
         Window::expand(page);
         page->refresh();
         messages::clear();
+    }
+
+    /// The same, and leaves for another page: the boxes work the same there, and sooner. The document then
+    /// in force.
+    QJsonDocument loadAside(const QVariantMap &values, const char *refrigerant = "R32",
+                            const char *unit = "CENTIGRADE")
+    {
+        load(values, refrigerant, unit);
+        window.showPage(MainDialog::SelectPage);
+        return window.dialog.document();
     }
 
     QComboBox *box(const char *name) const { return Window::find<QComboBox>(page, name); }
