@@ -5,7 +5,6 @@ using automode::limits;
 using automode::root;
 using automode::seasonalPlant;
 using automode::seasonalRoot;
-using automode::sensing;
 
 // The lists of the Auto mode section: their limits on the page, and how they narrow one another.
 class TestAutoLists : public QObject

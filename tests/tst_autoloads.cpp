@@ -256,14 +256,23 @@ void TestAutoLoads::listsAreFilledInOrder()
                         limits("coolWaterTempMainZone", 16, 20)}));
     QStringList filled;
     QObject scope;
-    for (const QComboBox *combo : section->page->findChildren<QComboBox *>()) {
+    for (QComboBox *combo : section->page->findChildren<QComboBox *>()) {
+        section->window.dialog.setComboItems(combo, {"another list"}, 0);
         connect(combo->model(), &QAbstractItemModel::rowsInserted, &scope,
                 [&filled, combo] { filled.append(combo->objectName()); });
     }
     section->page->refresh();
-    QCOMPARE(filled,
-             named("1 2 3 4 5 6 9 10 8 7 11 12 13 14 17 18 15 16 19 20") + outdoorNames({0, 1, 2, 3, 4, 5})
-                 + named(narrowed));
+    const QStringList whole = named("1 2 3 4 5 6 9 10 8 7 11 12 13 14 17 18 15 16 19 20")
+        + outdoorNames({0, 1, 2, 3, 4, 5});
+    QCOMPARE(filled.mid(0, whole.size()), whole);
+    // Of the narrowed lists those are filled that change by it.
+    QStringList order = named(narrowed);
+    for (const QString &name : filled.mid(whole.size())) {
+        const int place = order.indexOf(name);
+        QVERIFY2(place >= 0, qPrintable(name));
+        order.erase(order.begin(), order.begin() + place + 1);
+    }
+    QVERIFY(filled.size() > whole.size());
 }
 
 void TestAutoLoads::valuesAreShownInOrder()

@@ -224,11 +224,11 @@ void TestDocumentFiles::opensAFile()
 {
     QFETCH(bool, toolBar);
     put(window->path("a.json"), unsorted);
-    const auto *button = toolBar ? Window::find(&window->dialog, "openButton")
-                                 : Window::find(window->page<Select>(), "openButton");
+    auto *button = toolBar ? Window::find(&window->dialog, "openButton")
+                           : Window::find(window->page<Select>(), "openButton");
     window->dialog.setStepCompleted(false, 1);
     messages::clear();
-    filedialogs::answer([&] { Window::click(const_cast<QWidget *>(button)); }, window->path("a.json"));
+    filedialogs::answer([&] { Window::click(button); }, window->path("a.json"));
     QCOMPARE(window->dialog.document(), QJsonDocument::fromJson(unsorted));
     QCOMPARE(window->members().filePath, window->path("a.json"));
     QVERIFY(!window->members().isNewFile);
@@ -330,8 +330,7 @@ void TestDocumentFiles::opensWhatIsNoObject_data()
     QTest::newRow("null") << QByteArray("null") << QByteArray();
     QTest::newRow("zeros") << QByteArray(100, '\0') << QByteArray();
     QTest::newRow("UTF-16") << QByteArray("\xFF\xFE{\0}\0", 6) << QByteArray();
-    QTest::newRow("array") << QByteArray("[{\"product\":\"awhp\"}]")
-                           << QByteArray("[{\"product\":\"awhp\"}]");
+    QTest::newRow("array") << QByteArray(R"([{"product":"awhp"}])") << QByteArray(R"([{"product":"awhp"}])");
     QTest::newRow("empty array") << QByteArray("[]") << QByteArray("[]");
     QTest::newRow("empty object") << QByteArray("{}") << QByteArray("{}");
     QTest::newRow("byte-order mark") << "\xEF\xBB\xBF" + unsorted << sorted;

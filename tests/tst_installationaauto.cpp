@@ -87,6 +87,8 @@ private slots:
     void alwaysValid();
 
 private:
+    static void addWrite(const Case &each, const char *use, bool fahrenheit);
+
     std::unique_ptr<automode::Section> section;
 };
 
@@ -255,6 +257,21 @@ void TestInstallationaAuto::endCaptions()
     section->window.speak();
 }
 
+void TestInstallationaAuto::addWrite(const Case &each, const char *use, bool fahrenheit)
+{
+    const QString path = (QString(each.path).startsWith("autoOp") ? root : seasonalRoot) + each.path;
+    const bool outdoorMode = QString(each.box).startsWith("Outdoor");
+    const int value = fahrenheit ? each.celsiusOfFahrenheit : each.celsius;
+    QVariantMap written{{path, value}};
+    if (*each.mainZonePath != '\0' && qstrcmp(use, "CLR") == 0) {
+        written.insert(seasonalRoot + each.mainZonePath, value);
+    }
+    QTest::newRow(qPrintable(QString("%1, %2, %3").arg(each.box, use, fahrenheit ? "°F" : "°C")))
+        << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonalPlant(use))
+        << QByteArray(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE")
+        << (fahrenheit ? QString("%1°F").arg(each.fahrenheit) : QString("%1°C").arg(each.celsius)) << written;
+}
+
 void TestInstallationaAuto::boxesWrite_data()
 {
     QTest::addColumn<QString>("box");
@@ -263,25 +280,14 @@ void TestInstallationaAuto::boxesWrite_data()
     QTest::addColumn<QString>("item");
     QTest::addColumn<QVariantMap>("written");
     for (const Case &each : cases) {
-        const QString path = (QString(each.path).startsWith("autoOp") ? root : seasonalRoot) + each.path;
-        const bool outdoorMode = QString(each.box).startsWith("Outdoor");
-        // Any text but "CLR" as it stands counts as the main zone in use.
-        for (const char *use : {"SET", "CLR", "clr"}) {
-            if (*each.mainZonePath == '\0' && qstrcmp(use, "SET") != 0) {
-                continue;
-            }
-            for (const bool fahrenheit : {false, true}) {
-                const int value = fahrenheit ? each.celsiusOfFahrenheit : each.celsius;
-                QVariantMap written{{path, value}};
-                if (*each.mainZonePath != '\0' && qstrcmp(use, "CLR") == 0) {
-                    written.insert(seasonalRoot + each.mainZonePath, value);
-                }
-                QTest::newRow(qPrintable(QString("%1, %2, %3").arg(each.box, use, fahrenheit ? "°F" : "°C")))
-                    << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonalPlant(use))
-                    << QByteArray(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE")
-                    << (fahrenheit ? QString("%1°F").arg(each.fahrenheit) : QString("%1°C").arg(each.celsius))
-                    << written;
-            }
+        addWrite(each, "SET", false);
+        addWrite(each, "SET", true);
+        if (*each.mainZonePath != '\0') {
+            addWrite(each, "CLR", false);
+            addWrite(each, "CLR", true);
+            // Any text but "CLR" as it stands counts as the main zone in use.
+            addWrite(each, "clr", false);
+            addWrite(each, "clr", true);
         }
     }
 }

@@ -222,7 +222,7 @@ void TestLookup::fileHoldsNoTexts_data()
     QTest::newRow("empty file") << QByteArray();
     QTest::newRow("no JSON") << QByteArray("New=Neu\n");
     QTest::newRow("cut off") << languagefolder::english().chopped(5);
-    QTest::newRow("array") << QByteArray("[{\"New\":\"Neu\"}]");
+    QTest::newRow("array") << QByteArray(R"([{"New":"Neu"}])");
     QTest::newRow("text") << QByteArray("\"New\"");
     QTest::newRow("number") << QByteArray("5");
     QTest::newRow("empty object") << QByteArray("{}");
@@ -248,7 +248,7 @@ void TestLookup::fileHoldsNoTexts()
 
 void TestLookup::missingKeysLogAPairEach()
 {
-    put(languagefolder::file("Part.json"), "{\"Open\":\"Auf\",\"Language\":\"\",\"R32\":7}");
+    put(languagefolder::file("Part.json"), R"({"Open":"Auf","Language":"","R32":7})");
     put(languagefolder::iniPath(), "Part");
     dialog().loadLanguageData(languagefolder::iniPath());
     // What is asked for in the window and on the pages that are called first, in this order.

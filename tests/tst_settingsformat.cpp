@@ -45,8 +45,9 @@ QVector<QList<QByteArray>> tableRows(const QString &name)
     QVector<QList<QByteArray>> rows;
     const QString path = QStringLiteral(TEST_DATA_DIR) + QLatin1Char('/') + name;
     for (const QByteArray &line : fileBytes(path).split('\n')) {
-        if (!line.isEmpty())
+        if (!line.isEmpty()) {
             rows.append(line.split('\t'));
+        }
     }
     return rows;
 }
@@ -59,24 +60,27 @@ QJsonValue jsonValue(const QByteArray &json)
 QVector<Leaf> expectedLeaves()
 {
     QVector<Leaf> leaves;
-    for (const QList<QByteArray> &row : tableRows(QStringLiteral("default_document.tsv")))
+    for (const QList<QByteArray> &row : tableRows(QStringLiteral("default_document.tsv"))) {
         leaves.append({QString::fromUtf8(row.value(0)), jsonValue(row.value(1)), jsonValue(row.value(2))});
+    }
     return leaves;
 }
 
 QVector<Text> expectedTexts()
 {
     QVector<Text> texts;
-    for (const QList<QByteArray> &row : tableRows(QStringLiteral("english.tsv")))
+    for (const QList<QByteArray> &row : tableRows(QStringLiteral("english.tsv"))) {
         texts.append({QString::fromUtf8(row.value(0)), row.value(1)});
+    }
     return texts;
 }
 
 QJsonValue valueAt(const QJsonObject &root, const QString &path)
 {
     QJsonValue value = root;
-    for (const QString &key : path.split(QLatin1Char('.')))
+    for (const QString &key : path.split(QLatin1Char('.'))) {
         value = value.toObject().value(key);
+    }
     return value;
 }
 
@@ -84,10 +88,11 @@ void collectLeaves(const QJsonObject &object, const QString &prefix, Leaves &lea
 {
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QString path = prefix + member.key();
-        if (member.value().isObject())
+        if (member.value().isObject()) {
             collectLeaves(member.value().toObject(), path + QLatin1Char('.'), leaves);
-        else
+        } else {
             leaves.append({path, member.value()});
+        }
     }
 }
 
@@ -98,15 +103,18 @@ QStringList pathsInTextOrder(const QByteArray &text)
     QStringList groups;
     for (const QByteArray &line : text.split('\n')) {
         const QByteArray trimmed = line.trimmed();
-        if (trimmed.startsWith('}') && !groups.isEmpty())
+        if (trimmed.startsWith('}') && !groups.isEmpty()) {
             groups.removeLast();
-        if (!trimmed.startsWith('"') || !trimmed.contains("\": "))
+        }
+        if (!trimmed.startsWith('"') || !trimmed.contains("\": ")) {
             continue;
+        }
         const QString key = QString::fromUtf8(trimmed.mid(1, trimmed.indexOf('"', 1) - 1));
-        if (trimmed.endsWith('{'))
+        if (trimmed.endsWith('{')) {
             groups.append(key);
-        else
+        } else {
             paths.append((groups + QStringList{key}).join(QLatin1Char('.')));
+        }
     }
     return paths;
 }
@@ -117,17 +125,22 @@ QByteArray firstBadLine(const QByteArray &text)
 {
     int level = 0;
     for (QByteArray line : text.split('\n')) {
-        if (line.endsWith('\r'))
+        if (line.endsWith('\r')) {
             line.chop(1);
-        if (line.isEmpty())
+        }
+        if (line.isEmpty()) {
             continue;
+        }
         const QByteArray trimmed = line.trimmed();
-        if (trimmed.startsWith('}') || trimmed.startsWith(']'))
+        if (trimmed.startsWith('}') || trimmed.startsWith(']')) {
             --level;
-        if (line != QByteArray(2 * level, ' ') + trimmed)
+        }
+        if (line != QByteArray(2 * level, ' ') + trimmed) {
             return line;
-        if (trimmed.endsWith('{') || trimmed.endsWith('['))
+        }
+        if (trimmed.endsWith('{') || trimmed.endsWith('[')) {
             ++level;
+        }
     }
     return level == 0 ? QByteArray() : QByteArray("unbalanced");
 }
@@ -142,8 +155,9 @@ QByteArray laidOut(const QByteArray &key, const QJsonValue &value, int level)
         return start + json.mid(1, json.size() - 2);
     }
     QList<QByteArray> lines;
-    for (const auto &element : value.toArray())
+    for (const auto &element : value.toArray()) {
         lines.append(QByteArray(2 * level + 2, ' ') + QByteArray::number(element.toInt()));
+    }
     return start + "[\r\n" + lines.join(",\r\n") + "\r\n" + QByteArray(2 * level, ' ') + ']';
 }
 
@@ -197,12 +211,14 @@ void SettingsFormatTest::tablesAreWhole()
 {
     const QVector<QList<QByteArray>> leaves = tableRows(QStringLiteral("default_document.tsv"));
     QCOMPARE(leaves.size(), leafCount);
-    for (const QList<QByteArray> &row : leaves)
+    for (const QList<QByteArray> &row : leaves) {
         QCOMPARE(row.size(), 3);
+    }
     const QVector<QList<QByteArray>> texts = tableRows(QStringLiteral("english.tsv"));
     QCOMPARE(texts.size(), textCount);
-    for (const QList<QByteArray> &row : texts)
+    for (const QList<QByteArray> &row : texts) {
         QCOMPARE(row.size(), 2);
+    }
 }
 
 void SettingsFormatTest::documentBytes_data() { addRefrigerants(); }
@@ -212,8 +228,9 @@ void SettingsFormatTest::documentBytes()
     QFETCH(QString, refrigerant);
     const QByteArray bytes = fileBytes(documentPath(refrigerant));
     checkByteForm(bytes);
-    for (const char byte : bytes)
+    for (const char byte : bytes) {
         QVERIFY(byte > 0 && byte < 127);
+    }
 }
 
 void SettingsFormatTest::documentLeaves_data() { addRefrigerants(); }
@@ -233,8 +250,9 @@ void SettingsFormatTest::documentLeaves()
     Leaves actualLeaves;
     collectLeaves(document, QString(), actualLeaves);
     QCOMPARE(actualLeaves.size(), leafCount);
-    for (const auto &leaf : qAsConst(actualLeaves))
+    for (const auto &leaf : qAsConst(actualLeaves)) {
         QVERIFY2(expectedPaths.contains(leaf.first), qPrintable(leaf.first));
+    }
 }
 
 void SettingsFormatTest::documentOrder_data() { addRefrigerants(); }
@@ -243,8 +261,9 @@ void SettingsFormatTest::documentOrder()
 {
     QFETCH(QString, refrigerant);
     QStringList expectedPaths;
-    for (const Leaf &leaf : expectedLeaves())
+    for (const Leaf &leaf : expectedLeaves()) {
         expectedPaths.append(leaf.path);
+    }
     QCOMPARE(pathsInTextOrder(fileBytes(documentPath(refrigerant))), expectedPaths);
 }
 
@@ -283,8 +302,9 @@ void SettingsFormatTest::documentsDifferWhereTheyShould()
 void SettingsFormatTest::englishBytes()
 {
     QList<QByteArray> lines;
-    for (const Text &text : expectedTexts())
+    for (const Text &text : expectedTexts()) {
         lines.append("  \"" + text.key.toUtf8() + "\": " + text.json);
+    }
     const QByteArray bytes = fileBytes(englishPath());
     checkByteForm(bytes);
     QCOMPARE(bytes, "{\r\n" + lines.join(",\r\n") + "\r\n}\r\n");

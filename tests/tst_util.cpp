@@ -80,7 +80,7 @@ QJsonValue referenceRead(QJsonValue at, const QVector<Part> &path)
 
 QJsonValue referenceWrite(const QJsonValue &at, const QVector<Part> &path, const QJsonValue &written)
 {
-    const Part part = path.first();
+    const Part &part = path.first();
     const QVector<Part> rest = path.mid(1);
     QJsonArray array = at.toArray();
     QJsonObject object = at.toObject();
@@ -468,7 +468,7 @@ void TestUtil::agreesWithTheSlowRules()
         QVERIFY2(Util::readJsonValue(before, path) == referenceRead(before.object(), parts(path)),
                  qPrintable(path));
 
-        const QJsonValue written = values.at(dice.bounded(values.size()));
+        const QJsonValue &written = values.at(dice.bounded(values.size()));
         QJsonDocument after = before;
         Util::modifyJsonValue(after, path, written);
         root = referenceWrite(root, parts(path), written);

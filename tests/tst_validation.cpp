@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QMouseEvent>
 
+#include <utility>
+
 // The result page, and the data save page that nobody sees.
 
 namespace {
@@ -25,10 +27,10 @@ struct Shown {
         , image(Window::find<QLabel>(page, "imgLabel")->styleSheet())
     {
     }
-    Shown(const QString &first, const QString &second, const QString &picture)
-        : message(first)
-        , subMessage(second)
-        , image(picture)
+    Shown(QString first, QString second, QString picture)
+        : message(std::move(first))
+        , subMessage(std::move(second))
+        , image(std::move(picture))
     {
     }
     bool operator==(const Shown &other) const

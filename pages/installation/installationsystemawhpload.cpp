@@ -175,7 +175,8 @@ void InstallationSystemAWHP::setloadJsonValue()
     const int boilerHysteresis = number(installation("boilerOfThirdParty.thirdPartyHysterisis"));
     mainDialog->setComboByValue(ui->comboHeaterOnTemperature, heaterOn, MainDialog::Temperature);
     const int step = antiFreeze.remove(QStringLiteral("STEP")).toInt();
-    ui->comboAntiFreezingTemp->setCurrentIndex(indexOf(firstAntiFreezeStep, step));
+    // The list runs against the steps: its first item is the last step.
+    ui->comboAntiFreezingTemp->setCurrentIndex(indexOf(/*value=*/firstAntiFreezeStep, /*first=*/step));
     mainDialog->setComboByValue(ui->comboControlTemp, controlTemp, MainDialog::Temperature);
     mainDialog->setComboByValue(ui->combo3rdHysterisis, boilerHysteresis, MainDialog::Kelvin);
 
