@@ -25,6 +25,7 @@ private slots:
     void newR32InFahrenheit();
     void incompleteSetupIsNotSaved();
     void openedAquabox();
+    void languageChangesOnEveryPage();
 
 private:
     static void equipR32(const QWidget *page);
@@ -334,6 +335,56 @@ void TestJourneys::openedAquabox()
     QCOMPARE(installer.message(), QStringLiteral("Complete!"));
     QVERIFY(!installer.save());
     QCOMPARE(Installer::content(path), Installer::expected(plant, "aquabox.tsv"));
+}
+
+void TestJourneys::languageChangesOnEveryPage()
+{
+    Installer installer;
+    Window &window = installer.window;
+    installer.startNew("R32");
+    installer.goToDipSwitches();
+    equipR32(window.page<DipSwitchSettingStatus>());
+    window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    setSystem(window.page<InstallationSystemSetting>());
+    setHeatPump(window.page<InstallationSystemAWHP>());
+    setCooling(window.page<InstallationCool>());
+    setHeating(window.page<InstallationHeat>());
+    setSeasonalAuto(window.page<InstallationaAuto>());
+    setHotWater(window.page<InstallationDWH>());
+
+    const auto combos = window.dialog.findChildren<QComboBox *>();
+    const auto radios = window.dialog.findChildren<QRadioButton *>();
+    const auto positions = [&] {
+        QVector<int> result;
+        for (const QComboBox *combo : combos) {
+            result.append(combo->currentIndex());
+        }
+        for (const QRadioButton *radio : radios) {
+            result.append(radio->isChecked() ? 1 : 0);
+        }
+        return result;
+    };
+    const auto change = [&] {
+        const QByteArray document = window.dialog.document().toJson();
+        const QVector<int> before = positions();
+        window.speak("~");
+        QCOMPARE(positions(), before);
+        QCOMPARE(window.dialog.document().toJson(), document);
+        QCOMPARE(Window::find<QLabel>(&window.dialog, "labelLanguage")->text(), QStringLiteral("Language~"));
+        window.speak();
+        QCOMPARE(positions(), before);
+        QCOMPARE(window.dialog.document().toJson(), document);
+    };
+    for (const int step : {MainDialog::SelectPage, MainDialog::ProductPage, MainDialog::DipSwitchPage,
+                           MainDialog::ValidationPage}) {
+        window.showPage(step);
+        change();
+    }
+    for (const int tab : {MainDialog::FunctionTab, MainDialog::UserTab, MainDialog::ServiceTab,
+                          MainDialog::InstallationTab}) {
+        window.showPage(MainDialog::SettingPage, tab);
+        change();
+    }
 }
 
 CALORA_TEST_MAIN(TestJourneys)
