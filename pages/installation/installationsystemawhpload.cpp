@@ -9,7 +9,7 @@ namespace {
 constexpr int lastClosingTime = 999;
 constexpr int lastRun = 10;
 /// The anti-freeze step of the first item; the steps fall along the list.
-constexpr int firstAntiFreezeStep = 4;
+constexpr int highestAntiFreezeStep = 4;
 
 /// The delays of the boost heater: minutes, each followed by `suffix`.
 QStringList delays(const QString &suffix)
@@ -176,7 +176,7 @@ void InstallationSystemAWHP::setloadJsonValue()
     mainDialog->setComboByValue(ui->comboHeaterOnTemperature, heaterOn, MainDialog::Temperature);
     const int step = antiFreeze.remove(QStringLiteral("STEP")).toInt();
     // The list runs against the steps: its first item is the last step.
-    ui->comboAntiFreezingTemp->setCurrentIndex(indexOf(/*value=*/firstAntiFreezeStep, /*first=*/step));
+    ui->comboAntiFreezingTemp->setCurrentIndex(indexOf(highestAntiFreezeStep, step));
     mainDialog->setComboByValue(ui->comboControlTemp, controlTemp, MainDialog::Temperature);
     mainDialog->setComboByValue(ui->combo3rdHysterisis, boilerHysteresis, MainDialog::Kelvin);
 
