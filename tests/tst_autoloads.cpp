@@ -6,7 +6,6 @@
 
 using automode::join;
 using automode::limits;
-using automode::mainZone;
 using automode::root;
 using automode::seasonalBoxes;
 using automode::seasonalPaths;
@@ -449,12 +448,12 @@ void TestAutoLoads::oddArgumentsAreSurvived()
 {
     section->load(seasonalPlant("SET"));
     for (int number = 1; number <= 20; ++number) {
-        for (const int value : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
-            section->valueChanged(number, value, false);
+        for (const int absurd : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+            section->valueChanged(number, absurd, false);
             QCOMPARE(section->shown(seasonalBoxes[number - 1]), QString());
-            section->valueChanged(number, value, true);
-            section->valueChanged(value, number, true);
-            section->refreshTempRange(value);
+            section->valueChanged(number, absurd, true);
+            section->valueChanged(absurd, number, true);
+            section->refreshTempRange(absurd);
         }
         section->page->refresh();
     }
