@@ -177,7 +177,7 @@ void WaterSection::saveTemperature(const QString &path, const QString &shown)
 
 void WaterSection::saveControlBasis(const QString &shown)
 {
-    QString basis = QStringLiteral("");
+    QString basis = QLatin1String("");
     if (shown == mainDialog->languageValue(QStringLiteral("Outlet"))) {
         basis = QStringLiteral("EXIT");
     } else if (shown == mainDialog->languageValue(QStringLiteral("Inlet"))) {
