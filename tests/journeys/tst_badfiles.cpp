@@ -97,7 +97,7 @@ void TestBadFiles::leavesNoTrace_data()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("no JSON") << QByteArray("Heat pump, cellar");
-    QTest::newRow("array") << QByteArray("[1,{\"product\":\"awhp\"}]");
+    QTest::newRow("array") << QByteArray(R"([1,{"product":"awhp"}])");
     QTest::newRow("empty array") << QByteArray("[]");
     QTest::newRow("empty object") << QByteArray("{}");
     QTest::newRow("number") << QByteArray("12");
@@ -114,7 +114,7 @@ void TestBadFiles::leavesNoTrace_data()
     QTest::newRow("arrays for all") << withLeaves(QJsonArray{1, QStringLiteral("SET")});
     QTest::newRow("objects for all") << withLeaves(QJsonObject{{"SET", "SET"}});
     QTest::newRow("groups that are texts")
-        << QByteArray("{\"product\":\"awhp\",\"IduFuncList\":\"SET\",\"SettingInfo\":\"SET\"}");
+        << QByteArray(R"({"product":"awhp","IduFuncList":"SET","SettingInfo":"SET"})");
     const QByteArray whole = standardText();
     for (const int part : {1, 10, 25, 50, 75, 90, 99}) {
         QTest::newRow(qPrintable(QString("cut off at %1 %").arg(part)))
