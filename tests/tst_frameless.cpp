@@ -307,6 +307,10 @@ void TestFrameLess::leftAndTopStopAtTheMinimum()
     QCOMPARE(pane->geometry(), QRect(QPoint(250, 210), QPoint(499, 399)));
     pane->moveTo(QPoint(450, 350));
     QCOMPARE(pane->geometry(), QRect(QPoint(250, 210), QPoint(499, 399)));
+    // A window that was moved meanwhile keeps its own left side, not that of the rubber band.
+    pane->move(260, 220);
+    pane->moveTo(QPoint(450, 350));
+    QCOMPARE(pane->geometry(), QRect(QPoint(260, 220), QPoint(499, 399)));
     pane->release();
 }
 
@@ -358,6 +362,11 @@ void TestFrameLess::dragsOnAndOn()
     pane->release();
     pane->moveTo(QPoint(500, 500));
     QCOMPARE(pane->pos(), QPoint(300, 200));
+    // The drag is over: the next press may resize.
+    pane->press(QPoint(0, 150));
+    pane->moveTo(QPoint(290, 400));
+    QCOMPARE(pane->geometry(), QRect(QPoint(290, 200), QPoint(699, 499)));
+    pane->release();
 }
 
 void TestFrameLess::onlyTheLeftButtonCounts()
@@ -505,7 +514,12 @@ void TestFrameLess::maximizedKeepsWhatStood()
 
 void TestFrameLess::withoutEdges()
 {
+    QEvent any(QEvent::User);
+    QApplication::sendEvent(pane->probe(), &any);
+    QVERIFY(!pane->seen.contains(QEvent::User));
     pane = std::make_unique<Pane>(false);
+    QApplication::sendEvent(pane->probe(), &any);
+    QVERIFY(pane->seen.contains(QEvent::User));
     pane->hover(QPoint(0, 150));
     QCOMPARE(pane->shape(), arrow);
     QVERIFY(!pane->probe()->isVisible());
