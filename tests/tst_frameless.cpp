@@ -130,6 +130,7 @@ private slots:
     void dragRestoresAMaximizedWindow();
     void maximizedHasNoEdges();
     void fullScreenHasNoEdges();
+    void maximizedKeepsWhatStood();
     void withoutEdges();
     void targetFiltersToo();
     void edgesKeepEventsFromTheTarget();
@@ -298,11 +299,18 @@ void TestFrameLess::leftAndTopStopAtTheMinimum()
     QCOMPARE(pane->geometry(), start);
     pane->moveTo(QPoint(250, 200));
     QCOMPARE(pane->geometry(), QRect(QPoint(250, 200), QPoint(499, 399)));
+    pane->moveTo(QPoint(300, 250));
+    QCOMPARE(pane->geometry(), QRect(QPoint(300, 250), QSize(200, 150)));
+    pane->moveTo(QPoint(250, 200));
     // Past the minimum the sides stay where they were; the others are those that the rubber band had.
     pane->moveTo(QPoint(320, 210));
     QCOMPARE(pane->geometry(), QRect(QPoint(250, 210), QPoint(499, 399)));
     pane->moveTo(QPoint(450, 350));
     QCOMPARE(pane->geometry(), QRect(QPoint(250, 210), QPoint(499, 399)));
+    // A window that was moved meanwhile keeps its own left side, not that of the rubber band.
+    pane->move(260, 220);
+    pane->moveTo(QPoint(450, 350));
+    QCOMPARE(pane->geometry(), QRect(QPoint(260, 220), QPoint(499, 399)));
     pane->release();
 }
 
@@ -354,6 +362,11 @@ void TestFrameLess::dragsOnAndOn()
     pane->release();
     pane->moveTo(QPoint(500, 500));
     QCOMPARE(pane->pos(), QPoint(300, 200));
+    // The drag is over: the next press may resize.
+    pane->press(QPoint(0, 150));
+    pane->moveTo(QPoint(290, 400));
+    QCOMPARE(pane->geometry(), QRect(QPoint(290, 200), QPoint(699, 499)));
+    pane->release();
 }
 
 void TestFrameLess::onlyTheLeftButtonCounts()
@@ -473,9 +486,40 @@ void TestFrameLess::fullScreenHasNoEdges()
     pane->release();
 }
 
+// The cursor is taken off only where an edge had set it; the edge that was under the pointer stays in mind.
+void TestFrameLess::maximizedKeepsWhatStood()
+{
+    pane->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    pane->showMaximized();
+    QTRY_VERIFY(pane->isMaximized() && pane->width() > 1000);
+    pane->setCursor(Qt::CrossCursor);
+    pane->hover(QPoint(0, 150));
+    QCOMPARE(pane->shape(), Qt::CrossCursor);
+    pane->showNormal();
+    QTRY_COMPARE(pane->geometry(), start);
+    pane->press(QPoint(0, 150));
+    pane->release();
+    pane->hover(QPoint(0, 150));
+    QCOMPARE(pane->shape(), horizontal);
+    pane->showMaximized();
+    QTRY_VERIFY(pane->isMaximized() && pane->width() > 1000);
+    for (int count = 0; count < 2; ++count) {
+        pane->setCursor(Qt::CrossCursor);
+        pane->seen.clear();
+        pane->hover(QPoint(500, 150));
+        QCOMPARE(pane->shape(), arrow);
+        QVERIFY(!pane->seen.contains(QEvent::HoverMove));
+    }
+}
+
 void TestFrameLess::withoutEdges()
 {
+    QEvent any(QEvent::User);
+    QApplication::sendEvent(pane->probe(), &any);
+    QVERIFY(!pane->seen.contains(QEvent::User));
     pane = std::make_unique<Pane>(false);
+    QApplication::sendEvent(pane->probe(), &any);
+    QVERIFY(pane->seen.contains(QEvent::User));
     pane->hover(QPoint(0, 150));
     QCOMPARE(pane->shape(), arrow);
     QVERIFY(!pane->probe()->isVisible());
@@ -526,6 +570,10 @@ void TestFrameLess::edgesKeepEventsFromTheTarget()
     QEvent any(QEvent::User);
     pane->frameLess->eventFilter(pane.get(), &any);
     QVERIFY(pane->seen.contains(QEvent::User));
+    // The same holds for the other buttons, which change no code.
+    pane->press(QPoint(200, 150), Qt::RightButton);
+    pane->release(Qt::RightButton);
+    QVERIFY(!pane->seen.contains(QEvent::MouseButtonPress));
     // The code of the press outlives the release: on an edge the target still sees nothing, off it it does.
     pane->seen.clear();
     pane->hover(QPoint(200, 0));

@@ -230,6 +230,11 @@ void TestLanguageEditor::searchesOnReturnAndOnTheButton()
     search()->clear();
     QVERIFY(Window::invoke(editor.get(), "returnSearchText"));
     QCOMPARE(shownTexts().size(), 236);
+    // Rows that are built anew are all shown, whatever stands in the field.
+    Window::type(search(), "xyz");
+    QVERIFY(Window::invoke(editor.get(), "addLanguageData"));
+    QCOMPARE(shownTexts().size(), 236);
+    QCOMPARE(search()->text(), QString("xyz"));
 }
 
 void TestLanguageEditor::editGoesToTheSnapshot()

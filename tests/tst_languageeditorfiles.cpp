@@ -44,6 +44,8 @@ private slots:
     void nameLosesItsExtension();
     void savesWhatWasEditedNotWhatWasOpened();
     void savesOverAFile();
+    void savesOverTheOpenedFile();
+    void cancelledSaveLosesReferences();
     void fileCantBeSavedOver();
     void savesNoFile();
     void languageOutlivesTheRun();
@@ -272,6 +274,35 @@ void TestLanguageEditorFiles::savesOverAFile()
     QVERIFY(!editor->isVisible());
     QCOMPARE(messages::all(),
              QStringList{"MainDialog::loadLanguageData path: " + quoted(languagefolder::file("Other.json"))});
+}
+
+// The file opened last is the one; one that can't be opened doesn't take its place.
+void TestLanguageEditorFiles::savesOverTheOpenedFile()
+{
+    start(false);
+    for (const char *name : {"First.json", "Second.json"}) {
+        put(languagefolder::file(name), languagefolder::marked("+"));
+        press("openButton", languagefolder::file(name));
+    }
+    const QString missing = languagefolder::file("Third.json");
+    QVERIFY(QMetaObject::invokeMethod(editor.get(), "loadLanguageFile", Q_ARG(QString, missing)));
+    Window::click(editor.get(), "saveButton");
+    QCOMPARE(content(languagefolder::file("First.json")), languagefolder::marked("+"));
+    QCOMPARE(content(languagefolder::file("Second.json")), asFile(english()));
+    QVERIFY(!QFile::exists(missing));
+    QCOMPARE(ini(), QByteArray("Second"));
+}
+
+// The edited texts are in force then, and a row whose reference is no text any more has no key.
+void TestLanguageEditorFiles::cancelledSaveLosesReferences()
+{
+    edit("Always", "Immer");
+    press("saveButton", QString());
+    edit("Always", "Stets");
+    Texts expected = english();
+    expected.insert("Always", "Immer");
+    expected.insert("", "Stets");
+    QCOMPARE(dialog().languageSnapshotMap(), expected);
 }
 
 void TestLanguageEditorFiles::fileCantBeSavedOver()

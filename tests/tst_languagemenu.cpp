@@ -8,6 +8,7 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include <QBoxLayout>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QScrollBar>
@@ -51,6 +52,7 @@ private slots:
     void listsLanguageFiles();
     void listsNothingInAnEmptyFolder();
     void opensAndCloses();
+    void boxLeavesRoomForThePopup();
     void anyButtonOpens();
     void openPressIsEaten();
     void pressOnTheDialogCloses();
@@ -274,7 +276,20 @@ void TestLanguageMenu::opensAndCloses()
     verifyClosed();
     open();
     QVERIFY(isOpen() && menu()->isVisible());
-    QVERIFY(Window::find(&dialog(), "languageCombobox")->minimumWidth() >= 100);
+}
+
+// However short the caption beside it: the box gives its room away only down to 100.
+void TestLanguageMenu::boxLeavesRoomForThePopup()
+{
+    const auto *box = Window::find(&dialog(), "languageCombobox");
+    QCOMPARE(box->minimumWidth(), 100);
+    Window::find<QLabel>(&dialog(), "labelLanguage")->setText("L");
+    dialog().resize(dialog().minimumSize());
+    QTRY_COMPARE(dialog().width(), 974);
+    QTest::qWait(50);
+    QCOMPARE(box->width(), 160);
+    open();
+    QVERIFY(dialog().rect().contains(menu()->geometry()));
 }
 
 void TestLanguageMenu::anyButtonOpens()
@@ -356,6 +371,7 @@ void TestLanguageMenu::rowSwitchesTheLanguage()
     QCOMPARE(text("newButton"), QString("New+"));
     QCOMPARE(text("labelSlide4"), QString("Validation+"));
     QCOMPARE(text("labelProductType"), QString("Product type+"));
+    QCOMPARE(Window::find<QLabel>(&dialog(), "labelCurrentLanguage")->textFormat(), Qt::PlainText);
     restart();
     QCOMPARE(text("labelCurrentLanguage"), QString("Other"));
     QCOMPARE(text("newButton"), QString("New+"));
@@ -493,6 +509,7 @@ void TestLanguageMenu::newOpensTheEditor()
         QVERIFY(qobject_cast<const UserLanguageEditPopup *>(widget) == nullptr);
     }
     QCOMPARE(dialog().languageDocument(), english);
+    QVERIFY(messages::contain("FrameLess::~FrameLess()...2"));
 }
 
 void TestLanguageMenu::loadTakesAFileIn()
@@ -516,7 +533,9 @@ void TestLanguageMenu::loadIsCancelled()
 {
     open();
     const LanguageMenu *popup = menu();
-    QVERIFY(!filedialogs::answer([this] { Window::click(menu(), "loadButton"); }, QString()).title.isEmpty());
+    const auto seen = filedialogs::answer([this] { Window::click(menu(), "loadButton"); }, QString());
+    QVERIFY(!seen.title.isEmpty());
+    QCOMPARE(seen.filter, QFileDialog().nameFilters().join('|'));
     QCOMPARE(messages::all(), QStringList{"MainDialog::loadLanguageAnotherPath failed to open file: \"\""});
     verifyClosed();
     QCOMPARE(menu(), popup);
