@@ -1,10 +1,7 @@
+#include "support/mouse.h"
 #include "support/window.h"
 
-#include "pages/installation/installationcool.h"
-#include "pages/installation/installationheat.h"
 #include "pages/installation/installationsystemsetting.h"
-#include "pages/operation/settingfunction.h"
-#include "pages/operation/settinguser.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -86,8 +83,11 @@ void TestWheel::scrollsThePage()
     }
     const QJsonDocument document = window->dialog.document();
     const int index = combo->currentIndex();
-    turnDown(combo);
-    QVERIFY(bar->value() > 0);
+    constexpr int wheelDown = 5;
+    mouse::moveTo(combo->mapToGlobal(combo->rect().center()));
+    mouse::press(wheelDown);
+    mouse::release(wheelDown);
+    QTRY_VERIFY(bar->value() > 0);
     QCOMPARE(combo->currentIndex(), index);
     QCOMPARE(window->dialog.document(), document);
 }

@@ -10,7 +10,7 @@ namespace mouse {
 /// Moves the pointer; returns once it is there.
 void moveTo(const QPoint &globalPos);
 
-/// Presses or releases a button: 1 left, 3 right.
+/// Presses or releases a button: 1 left, 3 right, 5 the wheel turned down.
 void press(int button = 1);
 void release(int button = 1);
 
