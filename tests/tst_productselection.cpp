@@ -392,7 +392,7 @@ void TestProductSelection::aquaboxWritesAndThenLoadsR410()
     QVERIFY(checked("radioButtonR410"));
 }
 
-// The refrigerant click comes behind the writes of the spec and takes them away.
+// The refrigerant click follows the writes of High temperature and takes them away.
 void TestProductSelection::aquaboxTakesR410WithEachSpec()
 {
     for (const char *slot : {"on_radioButtonMiddleTemp_clicked", "on_radioButtonHighTemp_clicked"}) {
