@@ -343,6 +343,7 @@ void TestLanguageEditor::closeClearsTheSnapshot()
 
 void TestLanguageEditor::isDragged()
 {
+    mouse::place(*editor, QPoint(500, 300));
     const QRect before = editor->geometry();
     const auto *title = Window::find(editor.get(), "label_3");
     mouse::drag(title->mapToGlobal(title->rect().center()), QPoint(-60, 40));

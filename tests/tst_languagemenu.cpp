@@ -320,6 +320,7 @@ void TestLanguageMenu::openPressIsEaten()
 // Whether a press closes the popup depends on whether it reaches the dialog: a control keeps it.
 void TestLanguageMenu::pressOnTheDialogCloses()
 {
+    mouse::place(dialog(), QPoint(200, 100));
     open();
     const auto middle = [this](const char *name) {
         const QWidget *widget = Window::find(&dialog(), name);

@@ -41,6 +41,7 @@ void TestWheel::initTestCase()
     window = std::make_unique<Window>();
     window->use(documents::standard("R32"));
     window->speak();
+    mouse::place(window->dialog, QPoint(200, 100));
 }
 
 void TestWheel::everyComboBoxIsGuarded()

@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QProcess>
 #include <QTest>
+#include <QWidget>
 
 namespace {
 
@@ -24,6 +25,15 @@ void xdotool(const QStringList &arguments)
 }
 
 } // namespace
+
+void mouse::place(QWidget &window, const QPoint &topLeft)
+{
+    window.move(topLeft);
+    if (!QTest::qWaitFor([&window, topLeft] { return window.pos() == topLeft; })) {
+        qFatal("The window doesn't go to %d, %d", topLeft.x(), topLeft.y());
+    }
+    QTest::qWait(50);
+}
 
 void mouse::moveTo(const QPoint &globalPos)
 {

@@ -3,9 +3,15 @@
 #include <QPoint>
 #include <QStringList>
 
+class QWidget;
+
 /// The pointer of the X server, moved and pressed from outside as a hand does it. Events are served
 /// meanwhile.
 namespace mouse {
+
+/// Puts a window where the test wants it, so that the places of its widgets are those on the screen: until
+/// the window manager has told where it put a window, they needn't be.
+void place(QWidget &window, const QPoint &topLeft);
 
 /// Moves the pointer; returns once it is there.
 void moveTo(const QPoint &globalPos);
