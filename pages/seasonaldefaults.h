@@ -10,7 +10,7 @@ namespace seasonal {
 
 using Save = std::function<void(const QString &path, const QJsonValue &value)>;
 
-/// °C whatever is displayed; the same for the water outlet and the main zone.
+/// °C whatever is displayed; the same for both circuits.
 struct WaterDefaults {
     int coolMin;
     int coolMax;
