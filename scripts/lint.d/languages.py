@@ -1,13 +1,12 @@
 #!/usr/bin/env python3
-"""Holds the language keys that the code asks for against those of the delivered English file."""
-import json
+"""Holds the language keys that the code asks for against those of the English file, and checks each delivered file."""
 import re
 from pathlib import Path
 
+from languagefile import ENGLISH, FOLDER, PLACES, english, findings_in, places
 from tree import ROOT, allowed, finish, own_files
 
-ENGLISH = ROOT / "resources/language/English.json"
-RESERVED = ROOT / "resources/language/reserved-keys.txt"  # in the file, but not asked for
+RESERVED = FOLDER / "reserved-keys.txt"  # in the file, but not asked for
 UNANSWERED = Path(__file__).with_name("languages-unanswered.txt")  # asked for, but not in the file
 
 LITERAL = re.compile(r'"((?:\\.|[^"\\\n])*)"')
@@ -28,7 +27,7 @@ def asked(text):
 
 
 def main():
-    keys = set(json.loads(ENGLISH.read_text(encoding="utf-8")))
+    keys = set(english())
     reserved, unanswered = allowed(RESERVED), allowed(UNANSWERED)
     mentioned, findings = set(), []
     for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*"):
@@ -41,6 +40,10 @@ def main():
     findings += [f"nobody asks for the key {key!r} of {ENGLISH.name}" for key in sorted(keys - mentioned - reserved)]
     findings += [f"{RESERVED.name}: {key!r} is not a key" for key in sorted(reserved - keys)]
     findings += [f"{UNANSWERED.name}: {key!r} is a key by now" for key in sorted(unanswered & keys)]
+    findings += [f"{PLACES.name}: {key!r} is there or in {ENGLISH.name}, not in both" for key in sorted(keys ^ set(places()))]
+    if set(places()) == keys:
+        findings += [f"{path.name}: {finding}" for path in sorted(FOLDER.glob("*.json"))
+                     for finding in findings_in(path, delivered=True)]
     finish("languages", findings)
 
 
