@@ -91,31 +91,9 @@ private:
         take("9-validation-complete");
     }
 
-    /// The pages with all that they can offer: an R32 heat pump with two circuits, or an R410 hydronic
-    /// module.
     void takeEverything()
     {
-        QVariantMap plant;
-        for (const char *flag :
-             {"is_hotwater", "is_timer_hotwater", "is_cool", "isSeasonalAuto", "is_heater1", "isAntiFreeze",
-              "isModbusAddress", "isIduAirTempSW", "is_waterthermoonoff", "isDefrostMode", "isSilentPriority",
-              "isOduFunctionMS", "is_200Combination", "is200CombinationOp2", "isModeStandby", "isHsModel",
-              "isKnightModel", "isWaterFlowRate", "isLeakRefrigerant"}) {
-            plant.insert(QStringLiteral("IduFuncList.") + QLatin1String(flag), "SET");
-        }
-        const QString installation = QStringLiteral("SettingInfo.installation.");
-        plant.insert(installation + "sensorDefine.settemp_select", "AIR");
-        plant.insert(installation + "sensorDefine.airAndWaterUse", "SET");
-        plant.insert(installation + "circuitMainZone.enableMainZone", "SET");
-        plant.insert(installation + "meterInterface.interfaceAdd", 176);
-        plant.insert(installation + "disinfect_time.enable", "SET");
-        plant.insert(installation + "OduFunctionMS", "MASTER");
-        // The dip switch page reads the key in this spelling.
-        plant.insert(installation + "OduFunctionMs", "MASTER");
-        plant.insert("SettingInfo.func.silentTimer.set", "SET");
-        plant.insert("SettingInfo.user.summerTime.enable", "SET");
-        plant.insert("product", refrigerant == QLatin1String("R32") ? "awhp" : "aquabox");
-        window.use(documents::with(documents::standard(refrigerant), plant));
+        window.use(documents::everything(refrigerant));
         window.speak();
         window.showPage(MainDialog::DipSwitchPage);
         take("everything-2-dip-switch");

@@ -311,7 +311,7 @@ void TestExecutable::runsWithoutItsFiles()
 {
     QFETCH(QStringList, missing);
     for (const QString &name : missing) {
-        QVERIFY(QFile::remove(folder() + '/' + name) || QDir(folder()).rmdir(name));
+        QVERIFY(QFile::remove(folder() + '/' + name) || QDir(folder() + '/' + name).removeRecursively());
     }
     Run run(folder(), {});
     QVERIFY(run.isShown());

@@ -48,6 +48,35 @@ QJsonDocument documents::standard(const QString &refrigerant)
     return QJsonDocument::fromJson(file.readAll());
 }
 
+QJsonDocument documents::everything(const QString &refrigerant)
+{
+    QVariantMap plant;
+    for (const char *flag : {"is_hotwater",        "is_timer_hotwater", "is_cool",
+                             "isSeasonalAuto",     "is_heater1",        "isAntiFreeze",
+                             "isModbusAddress",    "isIduAirTempSW",    "is_waterthermoonoff",
+                             "isDefrostMode",      "isSilentPriority",  "isOduFunctionMS",
+                             "isEmergencyAllStop", "is_200Combination", "is200CombinationOp2",
+                             "isModeStandby",      "isHsModel",         "isKnightModel",
+                             "isWaterFlowRate",    "isLeakRefrigerant"}) {
+        plant.insert(QStringLiteral("IduFuncList.") + QLatin1String(flag), "SET");
+    }
+    const QString installation = QStringLiteral("SettingInfo.installation.");
+    plant.insert(installation + "sensorDefine.settemp_select", "AIR");
+    plant.insert(installation + "sensorDefine.airAndWaterUse", "SET");
+    plant.insert(installation + "circuitMainZone.enableMainZone", "SET");
+    plant.insert(installation + "smartGrid.smartGridUse", "SET");
+    plant.insert(installation + "boilerOfThirdParty.thirdPartyUse", "SET");
+    plant.insert(installation + "meterInterface.interfaceAdd", 176);
+    plant.insert(installation + "disinfect_time.enable", "SET");
+    plant.insert(installation + "OduFunctionMS", "MASTER");
+    // The dip switch page reads the key in this spelling.
+    plant.insert(installation + "OduFunctionMs", "MASTER");
+    plant.insert("SettingInfo.func.silentTimer.set", "SET");
+    plant.insert("SettingInfo.user.summerTime.enable", "SET");
+    plant.insert("product", refrigerant == QLatin1String("R32") ? "awhp" : "aquabox");
+    return with(standard(refrigerant), plant);
+}
+
 QJsonDocument documents::with(QJsonDocument document, const QVariantMap &values)
 {
     QJsonObject root = document.object();
