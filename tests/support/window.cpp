@@ -24,13 +24,18 @@ void Window::use(const QJsonDocument &document, const QString &unit)
 
 void Window::speak(const QString &mark)
 {
+    speak([&mark](const QString &text) { return text + mark; });
+}
+
+void Window::speak(const std::function<QString(const QString &)> &translate)
+{
     QFile file(QStringLiteral(":/language/English.json"));
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("No English");
     }
     QJsonObject texts = QJsonDocument::fromJson(file.readAll()).object();
     for (auto text = texts.begin(); text != texts.end(); ++text) {
-        text.value() = text.value().toString() + mark;
+        text.value() = translate(text.value().toString());
     }
     dialog.setLanguageDocument(QJsonDocument(texts));
     dialog.changeLanguage();

@@ -55,6 +55,9 @@ public:
     /// `mark`.
     void speak(const QString &mark = QString());
 
+    /// Puts a language in force whose every text is what `translate` makes of the English one.
+    void speak(const std::function<QString(const QString &)> &translate);
+
     /// Shows a page anew, so that its show event loads it: the step's index, and the tab's for the Setting
     /// step.
     void showPage(int step, int tab = -1);
