@@ -5,6 +5,7 @@
 #include "pages/wheelguard.h"
 #include "ui_dipswitchsettingstatus.h"
 
+#include <QEvent>
 #include <QRegExpValidator>
 
 #include <algorithm>
@@ -19,6 +20,27 @@ DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
 }
 
 DipSwitchSettingStatus::~DipSwitchSettingStatus() = default;
+
+bool DipSwitchSettingStatus::event(QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+        placeColumns();
+    }
+    return Page::event(event);
+}
+
+// The guide stands beside the options, or below them where long texts leave it no room.
+void DipSwitchSettingStatus::placeColumns()
+{
+    const int options = ui->groupBoxOptions->minimumSizeHint().width();
+    const int guide = ui->guide->minimumSizeHint().width();
+    const QMargins margins = layout()->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    ui->columns->setMinimumWidth(std::max(options, guide));
+    ui->layout_columns->setDirection(options + ui->layout_columns->spacing() + guide > room
+                                         ? QBoxLayout::TopToBottom
+                                         : QBoxLayout::LeftToRight);
+}
 
 void DipSwitchSettingStatus::showEvent(QShowEvent *event)
 {

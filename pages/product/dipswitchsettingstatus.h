@@ -25,6 +25,7 @@ public:
     ~DipSwitchSettingStatus() override;
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private slots:
@@ -90,6 +91,7 @@ private:
     using Switch = std::pair<QPushButton *, bool>;
     using Flag = std::pair<const char *, const char *>;
 
+    void placeColumns();
     static void offer(QWidget *group, bool offered);
     void turn(std::initializer_list<Switch> switches);
     void saveFlags(std::initializer_list<Flag> flags);

@@ -36,7 +36,7 @@ QString shown(const QSize &size) { return QStringLiteral("%1 x %2").arg(size.wid
 void compare(QStringList &faults, const QWidget *widget, const QString &text, const QSize &needed,
              const QSize &room)
 {
-    if (needed.width() > room.width() || needed.height() > room.height()) {
+    if (!text.isEmpty() && (needed.width() > room.width() || needed.height() > room.height())) {
         faults.append(QStringLiteral("%1: \"%2\" needs %3 and has %4")
                           .arg(place(widget), QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')),
                                shown(needed), shown(room)));
@@ -50,8 +50,8 @@ QSize sizeOf(const QWidget *widget, const QString &text)
 
 void measureLabel(QStringList &faults, const QLabel *label)
 {
-    const QRect room =
-        label->contentsRect().marginsRemoved({label->margin(), label->margin(), label->margin(), label->margin()});
+    const QRect room = label->contentsRect().marginsRemoved(
+        {label->margin(), label->margin(), label->margin(), label->margin()});
     const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
     const QSize needed =
         label->fontMetrics().boundingRect(QRect(0, 0, room.width(), 10000), wrap, label->text()).size();
@@ -96,11 +96,12 @@ void measureCombo(QStringList &faults, const QComboBox *combo)
     compare(faults, combo, widest, sizeOf(combo, widest), room.size());
 }
 
+// A line scrolls, so its text may be wider than the line; it has one row whatever it holds.
 void measureLine(QStringList &faults, const QLineEdit *line)
 {
-    // Qt keeps two pixels free on each side of the text and one above and below it.
-    const QRect room = line->contentsRect().marginsRemoved(line->textMargins()).adjusted(2, 1, -2, -1);
-    compare(faults, line, line->text(), sizeOf(line, line->text()), room.size());
+    // Qt keeps a pixel free above and below the text.
+    const QRect room = line->contentsRect().marginsRemoved(line->textMargins()).adjusted(0, 1, 0, -1);
+    compare(faults, line, line->text(), QSize(0, line->fontMetrics().height()), room.size());
 }
 
 void measurePainted(QStringList &faults, const PaintedButton *button)
@@ -117,8 +118,7 @@ void measurePainted(QStringList &faults, const PaintedButton *button)
 
 void measureText(QStringList &faults, const QWidget *widget)
 {
-    const auto *label = qobject_cast<const QLabel *>(widget);
-    if (label != nullptr && !label->text().isEmpty()) {
+    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
         measureLabel(faults, label);
     } else if (const auto *radio = qobject_cast<const QRadioButton *>(widget)) {
         measureButton(faults, radio, QStyle::SE_RadioButtonContents);
@@ -136,8 +136,8 @@ void measureText(QStringList &faults, const QWidget *widget)
     }
 }
 
-/// Children that have a place of their own: what a control is made of places itself, what scrolls may reach out
-/// of its viewport, and what floats above the window has no name or is the language menu.
+/// Children that have a place of their own: what a control is made of places itself, what scrolls may reach
+/// out of its viewport, and what floats above the window has no name or is the language menu.
 QList<const QWidget *> placedChildren(const QWidget *parent)
 {
     QList<const QWidget *> placed;
@@ -209,10 +209,10 @@ QStringList measure::misplaced(const QWidget *window)
             }
             for (int other = index + 1; other < children.size(); ++other) {
                 if (child->geometry().intersects(children.at(other)->geometry())) {
-                    faults.append(
-                        QStringLiteral("%1 at %2 and %3 at %4 overlap")
-                            .arg(place(child), corners(child->geometry()), place(children.at(other)),
-                                 corners(children.at(other)->geometry())));
+                    faults.append(QStringLiteral("%1 at %2 and %3 at %4 overlap")
+                                      .arg(place(child), corners(child->geometry()),
+                                           place(children.at(other)),
+                                           corners(children.at(other)->geometry())));
                 }
             }
         }

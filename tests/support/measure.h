@@ -8,8 +8,8 @@ class QWidget;
 /// Measures whether what a window shows has room. Each function returns a line for each fault it finds.
 namespace measure {
 
-/// Labels, buttons, lists and lines whose text is wider or higher than its place. A list box must have room for
-/// each of its items.
+/// Labels and buttons whose text is wider or higher than its place, lists without room for one of their
+/// items, and lines that are too low for their text.
 QStringList cutTexts(const QWidget *window);
 
 /// Widgets that reach out of their parent or lie over a sibling.

@@ -11,8 +11,8 @@ namespace {
 const QFrame *bodyBeside(const QWidget *button)
 {
     for (const QWidget *widget = button; widget != nullptr; widget = widget->parentWidget()) {
-        if (const auto *body =
-                widget->findChild<QFrame *>(QStringLiteral("frame"), Qt::FindDirectChildrenOnly)) {
+        if (const auto *body = widget->findChild<QFrame *>(QStringLiteral("frame"),
+                                                           Qt::FindDirectChildrenOnly)) {
             return body;
         }
     }

@@ -20,7 +20,8 @@ public:
     /// In the order in which they are to be shown: a stop builds on those before it.
     std::vector<Stop> stops();
 
-    /// Lets the layouts settle: parts that a page hides while it is shown leave their places layout by layout.
+    /// Lets the layouts settle: parts that a page hides while it is shown leave their places layout by
+    /// layout.
     static void settle();
 
     /// Opens every section that can be opened and isn't.
