@@ -17,6 +17,8 @@ PLACEHOLDER = re.compile(r"%\d")  # of QString::arg
 # Another release of the renderer may round an edge otherwise: levels of 255.
 TOLERANCE = 8
 
+CHANNELS = {0: 1, 2: 3, 4: 2, 6: 4}  # of a PNG's colour types
+
 
 def check_names():
     """A name with a placeholder stands for a family: at least one picture of it is there."""
@@ -33,9 +35,11 @@ def check_names():
 
 
 def png_pixels(data):
-    """Width, height and RGBA bytes of a PNG with 8 bits a channel, neither interlaced nor with a palette."""
-    width, height, _, colour = struct.unpack(">IIBB", data[16:26])
-    channels = {0: 1, 2: 3, 4: 2, 6: 4}[colour]
+    """Width, height and RGBA bytes; of a kind that the renderer doesn't write, the file as it is."""
+    width, height, bits, colour, _, _, interlaced = struct.unpack(">IIBBBBB", data[16:29])
+    if bits != 8 or colour not in CHANNELS or interlaced:
+        return width, height, data
+    channels = CHANNELS[colour]
     packed, at = b"", 8
     while at < len(data):
         length, kind = struct.unpack(">I4s", data[at:at + 8])
@@ -80,9 +84,10 @@ def frames(data):
 def alike(first, second):
     if first == second:
         return True
-    pairs = list(zip(frames(first), frames(second)))
-    return len(frames(first)) == len(frames(second)) and all(
-        one[:2] == other[:2] and all(abs(a - b) <= TOLERANCE for a, b in zip(one[2], other[2])) for one, other in pairs)
+    ours, others = frames(first), frames(second)
+    return len(ours) == len(others) and all(
+        one[:2] == other[:2] and len(one[2]) == len(other[2])
+        and all(abs(a - b) <= TOLERANCE for a, b in zip(one[2], other[2])) for one, other in zip(ours, others))
 
 
 def check_drawings():
