@@ -55,6 +55,10 @@ void UserLanguageEditPopup::addLanguageData()
         ui->listWidget->addRow(text, new LetterItem(parent), text);
     }
     ui->listWidget->show();
+    // New rows stand last; Tab comes to them before the buttons.
+    for (QWidget *button : {ui->openButton, ui->closeButton, ui->saveButton}) {
+        setTabOrder(previousInFocusChain(), button);
+    }
 }
 
 // The message names another class. The snapshot, which Save writes, stays as it is.

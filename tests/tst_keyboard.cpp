@@ -1,0 +1,232 @@
+#include "support/languagefolder.h"
+#include "support/tour.h"
+
+#include "languages/languagemenu.h"
+#include "languages/userlanguageeditpopup.h"
+
+#include <QAbstractButton>
+#include <QSet>
+
+namespace {
+
+/// The part of the window that the widget lies in; null elsewhere.
+const QWidget *regionOf(const QWidget *widget)
+{
+    static const QStringList regions{"titleFrame", "toolbarGroupBox", "sideGroupBox", "stackedWidget"};
+    while (widget != nullptr && !regions.contains(widget->objectName())) {
+        widget = widget->parentWidget();
+    }
+    return widget;
+}
+
+QRect onScreen(const QWidget *widget) { return {widget->mapToGlobal(QPoint()), widget->size()}; }
+
+/// In the same row from left to right, else from top to bottom.
+bool readsBefore(const QWidget *first, const QWidget *second)
+{
+    const QRect one = onScreen(first);
+    const QRect other = onScreen(second);
+    const bool sameRow = one.center().y() >= other.top() && one.center().y() <= other.bottom();
+    return sameRow ? one.left() < other.left() : one.top() < other.top();
+}
+
+bool takesKeys(const QWidget *widget)
+{
+    return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
+}
+
+/// The radios beside this one that can be chosen, itself among them; alone when it is no radio.
+QList<QWidget *> groupOf(QWidget *widget)
+{
+    QList<QWidget *> group;
+    if (qobject_cast<QRadioButton *>(widget) != nullptr) {
+        const auto radios =
+            widget->parentWidget()->findChildren<QRadioButton *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QRadioButton *radio : radios) {
+            if (takesKeys(radio)) {
+                group.append(radio);
+            }
+        }
+    }
+    return group.isEmpty() ? QList<QWidget *>{widget} : group;
+}
+
+/// What Tab visits, from the widget that has the focus until it comes back to one that it has been to.
+QList<QWidget *> tabThrough()
+{
+    QList<QWidget *> visited;
+    for (QWidget *at = QApplication::focusWidget(); !visited.contains(at); at = QApplication::focusWidget()) {
+        visited.append(at);
+        QTest::keyClick(at, Qt::Key_Tab);
+    }
+    return visited;
+}
+
+QImage look(QWidget *widget) { return widget->grab().toImage(); }
+
+bool showsFocus(QWidget *widget)
+{
+    widget->setFocus(Qt::TabFocusReason);
+    const QImage with = look(widget);
+    widget->clearFocus();
+    return with != look(widget);
+}
+
+QStringList namesOf(const QList<QWidget *> &widgets)
+{
+    QStringList names;
+    for (const QWidget *widget : widgets) {
+        names.append(widget->objectName());
+    }
+    return names;
+}
+
+} // namespace
+
+// The tool by keys: Tab goes through each page in reading order and shows where it is, and arrows choose within a group
+// of radios.
+class TestKeyboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tabReadsThePage_data() { refrigerants(); }
+    void tabReadsThePage();
+    void tabReadsTheEditor();
+    void menuShowsItsFocus();
+    void arrowsChooseAsClicksDo_data() { refrigerants(); }
+    void arrowsChooseAsClicksDo();
+
+private:
+    static void refrigerants();
+    void readPage(const Window &window, const QString &stop);
+    void compareChoices(Window &window, QRadioButton *radio, const std::function<void()> &show);
+};
+
+void TestKeyboard::refrigerants()
+{
+    QTest::addColumn<QString>("refrigerant");
+    QTest::newRow("R32") << "R32";
+    QTest::newRow("R410") << "R410";
+}
+
+void TestKeyboard::tabReadsThePage()
+{
+    QFETCH(QString, refrigerant);
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+        stop.show();
+        Tour::settle();
+        Window::find(&window.dialog, "newButton")->setFocus();
+        readPage(window, stop.name);
+        if (QTest::currentTestFailed()) {
+            return;
+        }
+    }
+}
+
+void TestKeyboard::readPage(const Window &window, const QString &stop)
+{
+    const QList<QWidget *> visited = tabThrough();
+    QSet<const QWidget *> reached;
+    for (int index = 0; index < visited.size(); ++index) {
+        QWidget *widget = visited.at(index);
+        const QString where = stop + ": " + widget->objectName();
+        const auto group = groupOf(widget);
+        reached.unite(QSet<const QWidget *>(group.begin(), group.end()));
+        QVERIFY2(showsFocus(widget), qPrintable(where + " hides its focus"));
+        if (index > 0 && regionOf(widget) == regionOf(visited.at(index - 1))) {
+            QVERIFY2(readsBefore(visited.at(index - 1), widget), qPrintable(where + " comes late"));
+        }
+    }
+    const auto widgets = window.dialog.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        QVERIFY2(!takesKeys(widget) || reached.contains(widget) || regionOf(widget) == nullptr,
+                 qPrintable(stop + ": " + widget->objectName() + " isn't reached"));
+    }
+}
+
+void TestKeyboard::tabReadsTheEditor()
+{
+    Window window;
+    UserLanguageEditPopup editor;
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    Window::find(&editor, "searchLineEdit")->setFocus();
+    const QList<QWidget *> visited = tabThrough();
+    QCOMPARE(namesOf(visited.mid(0, 6)),
+             (QStringList{"searchLineEdit", "pushButtonSearch", "lineEdit", "ButtonRemove", "lineEdit", "ButtonRemove"}));
+    QCOMPARE(namesOf(visited.mid(visited.size() - 3)), (QStringList{"openButton", "closeButton", "saveButton"}));
+    for (QWidget *widget : visited.mid(0, 6) + visited.mid(visited.size() - 3)) {
+        QVERIFY2(showsFocus(widget), qPrintable(widget->objectName()));
+    }
+}
+
+void TestKeyboard::menuShowsItsFocus()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    Window::click(&window.dialog, "languageCombobox");
+    const auto *menu = window.dialog.findChild<LanguageMenu *>();
+    for (const char *name : {"listWidget", "buttonModify", "newButton", "loadButton"}) {
+        QVERIFY2(showsFocus(Window::find(menu, name)), name);
+    }
+}
+
+void TestKeyboard::arrowsChooseAsClicksDo()
+{
+    QFETCH(QString, refrigerant);
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    int groups = 0;
+    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+        stop.show();
+        const auto radios = window.dialog.findChildren<QRadioButton *>();
+        for (QRadioButton *radio : radios) {
+            const auto group = groupOf(radio);
+            // Each group once, by its first radio.
+            if (takesKeys(radio) && group.size() > 1 && group.first() == radio) {
+                ++groups;
+                compareChoices(window, radio, stop.show);
+                if (QTest::currentTestFailed()) {
+                    return;
+                }
+            }
+        }
+    }
+    QVERIFY(groups > 40);
+}
+
+/// An arrow from the chosen radio, or from the first, does what a click on the next one does.
+void TestKeyboard::compareChoices(Window &window, QRadioButton *radio, const std::function<void()> &show)
+{
+    const QJsonDocument before = window.dialog.document();
+    const auto reload = [&] {
+        window.dialog.setDocument(before);
+        show();
+    };
+    reload();
+    const auto radios = groupOf(radio);
+    QWidget *start = radios.first();
+    for (QWidget *one : radios) {
+        start = qobject_cast<QRadioButton *>(one)->isChecked() ? one : start;
+    }
+    start->setFocus();
+    const bool back = start == radios.last();
+    const bool inRow = radios.first()->y() == radios.last()->y();
+    QTest::keyClick(start, inRow ? (back ? Qt::Key_Left : Qt::Key_Right) : (back ? Qt::Key_Up : Qt::Key_Down));
+    auto *next = qobject_cast<QRadioButton *>(QApplication::focusWidget());
+    QVERIFY2(next != nullptr && next != start && radios.contains(next), qPrintable(start->objectName()));
+    QVERIFY2(next->isChecked(), qPrintable(next->objectName()));
+    const QJsonDocument byKey = window.dialog.document();
+    reload();
+    QVERIFY2(takesKeys(next), qPrintable(next->objectName()));
+    Window::click(next);
+    const QVariantMap differences = documents::changes(byKey, window.dialog.document());
+    QVERIFY2(differences.isEmpty(), qPrintable(next->objectName() + ": " + differences.keys().join(' ')));
+    reload();
+}
+
+CALORA_TEST_MAIN(TestKeyboard)
+#include "tst_keyboard.moc"
