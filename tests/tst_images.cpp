@@ -36,9 +36,10 @@ QList<Use> family(const QString &pattern, const std::initializer_list<const char
 QList<Use> expectedUses()
 {
     const QStringList hideButton{"hideButton"};
-    const QStringList validationIcons{"functionValidationIcon", "userValidationIcon", "serviceValidationIcon",
-                                      "installationValidationIcon", "labelErrorProduct",
-                                      "labelErrorDipSwitch", "labelErrorSetting"};
+    const QStringList validationIcons{"functionValidationIcon", "userValidationIcon",
+                                      "serviceValidationIcon",  "installationValidationIcon",
+                                      "labelErrorProduct",      "labelErrorDipSwitch",
+                                      "labelErrorSetting"};
     const QStringList imageButtons{"newButton", "openButton", "checkValidationButton", "fileCookingButton"};
     QList<Use> uses{
         {"launcher_ic.ico", {"MainDialog"}},
@@ -92,8 +93,8 @@ QImage plain(const QImage &image) { return image.convertToFormat(QImage::Format_
 
 } // namespace
 
-// Every picture that the window asks for is there, every picture that is there is asked for, and each is as large as
-// its place.
+// Every picture that the window asks for is there, every picture that is there is asked for, and each is as
+// large as its place.
 class TestImages : public QObject
 {
     Q_OBJECT
@@ -158,7 +159,8 @@ void TestImages::collect(const QString &refrigerant)
     Window::click(&window.dialog, "languageCombobox");
     collectFrom(&window.dialog);
     const QString launcher = QStringLiteral("launcher_ic.ico");
-    if (window.dialog.windowIcon().pixmap(32).toImage() == QIcon(":/images/" + launcher).pixmap(32).toImage()) {
+    if (window.dialog.windowIcon().pixmap(32).toImage()
+        == QIcon(":/images/" + launcher).pixmap(32).toImage()) {
         note(launcher, &window.dialog);
     }
     UserLanguageEditPopup editor;
@@ -221,7 +223,8 @@ void TestImages::collectImageButton(ImageButton *button)
         QImage image(button->size(), QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         button->render(&image, {}, {}, QWidget::DrawChildren);
-        for (const QRect &slice : {QRect(0, 0, 19, 38), QRect(19, 0, 1, 38), QRect(button->width() - 19, 0, 19, 38)}) {
+        for (const QRect &slice :
+             {QRect(0, 0, 19, 38), QRect(19, 0, 1, 38), QRect(button->width() - 19, 0, 19, 38)}) {
             noteShown(QPixmap::fromImage(image.copy(slice)), button);
         }
     };

@@ -40,8 +40,8 @@ QList<QWidget *> groupOf(QWidget *widget)
 {
     QList<QWidget *> group;
     if (qobject_cast<QRadioButton *>(widget) != nullptr) {
-        const auto radios =
-            widget->parentWidget()->findChildren<QRadioButton *>(QString(), Qt::FindDirectChildrenOnly);
+        const auto radios = widget->parentWidget()->findChildren<QRadioButton *>(QString(),
+                                                                                 Qt::FindDirectChildrenOnly);
         for (QRadioButton *radio : radios) {
             if (takesKeys(radio)) {
                 group.append(radio);
@@ -83,8 +83,8 @@ QStringList namesOf(const QList<QWidget *> &widgets)
 
 } // namespace
 
-// The tool by keys: Tab goes through each page in reading order and shows where it is, and arrows choose within a group
-// of radios.
+// The tool by keys: Tab goes through each page in reading order and shows where it is, and arrows choose
+// within a group of radios.
 class TestKeyboard : public QObject
 {
     Q_OBJECT
@@ -156,8 +156,10 @@ void TestKeyboard::tabReadsTheEditor()
     Window::find(&editor, "searchLineEdit")->setFocus();
     const QList<QWidget *> visited = tabThrough();
     QCOMPARE(namesOf(visited.mid(0, 6)),
-             (QStringList{"searchLineEdit", "pushButtonSearch", "lineEdit", "ButtonRemove", "lineEdit", "ButtonRemove"}));
-    QCOMPARE(namesOf(visited.mid(visited.size() - 3)), (QStringList{"openButton", "closeButton", "saveButton"}));
+             (QStringList{"searchLineEdit", "pushButtonSearch", "lineEdit", "ButtonRemove", "lineEdit",
+                          "ButtonRemove"}));
+    QCOMPARE(namesOf(visited.mid(visited.size() - 3)),
+             (QStringList{"openButton", "closeButton", "saveButton"}));
     for (QWidget *widget : visited.mid(0, 6) + visited.mid(visited.size() - 3)) {
         QVERIFY2(showsFocus(widget), qPrintable(widget->objectName()));
     }
@@ -215,7 +217,8 @@ void TestKeyboard::compareChoices(Window &window, QRadioButton *radio, const std
     start->setFocus();
     const bool back = start == radios.last();
     const bool inRow = radios.first()->y() == radios.last()->y();
-    QTest::keyClick(start, inRow ? (back ? Qt::Key_Left : Qt::Key_Right) : (back ? Qt::Key_Up : Qt::Key_Down));
+    QTest::keyClick(start,
+                    inRow ? (back ? Qt::Key_Left : Qt::Key_Right) : (back ? Qt::Key_Up : Qt::Key_Down));
     auto *next = qobject_cast<QRadioButton *>(QApplication::focusWidget());
     QVERIFY2(next != nullptr && next != start && radios.contains(next), qPrintable(start->objectName()));
     QVERIFY2(next->isChecked(), qPrintable(next->objectName()));

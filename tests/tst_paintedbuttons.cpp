@@ -144,8 +144,6 @@ private slots:
     void imageLeavesOutMissingSlices();
     void imageIgnoresOtherStates();
     void imageLoadsWithoutPainting();
-    void standardPicturesHaveTheirSizes_data();
-    void standardPicturesHaveTheirSizes();
     void standardPicturesAreShown();
 
 private:
@@ -523,21 +521,6 @@ void TestPaintedButtons::imageLoadsWithoutPainting()
     paints.taken();
     setAllPixmaps();
     QCOMPARE(paints.taken(), 0);
-}
-
-void TestPaintedButtons::standardPicturesHaveTheirSizes_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const char *state : {"normal", "over", "press"}) {
-        QTest::addRow("%s_left", state) << QSize(19, 38);
-        QTest::addRow("%s_middle", state) << QSize(1, 38);
-        QTest::addRow("%s_right", state) << QSize(19, 38);
-    }
-}
-
-void TestPaintedButtons::standardPicturesHaveTheirSizes()
-{
-    QTEST(QPixmap(QStringLiteral(":/images/btn_button_%1.png").arg(QTest::currentDataTag())).size(), "size");
 }
 
 void TestPaintedButtons::standardPicturesAreShown()

@@ -1,0 +1,178 @@
+#include "support/tour.h"
+
+#include "languages/userlanguageeditpopup.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QtMath>
+
+namespace {
+
+/// The relative luminance of a colour, from 0 for black to 1 for white.
+double luminance(QRgb colour)
+{
+    const auto linear = [](int level) {
+        const double part = level / 255.0;
+        return part <= 0.04045 ? part / 12.92 : qPow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+double contrast(QRgb one, QRgb other)
+{
+    const double lighter = qMax(luminance(one), luminance(other));
+    const double darker = qMin(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// The contrast of the strongest ink against the ground, which is the commonest colour.
+double contrastIn(const QImage &picture)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    QRgb ground = 0;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        ground = *count > counts.value(ground) ? count.key() : ground;
+    }
+    double best = 1;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        best = qMax(best, contrast(count.key(), ground));
+    }
+    return best;
+}
+
+/// The place of the widget's text in the widget; empty for a widget that shows none.
+QRect textPlace(const QWidget *widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+        return label->text().trimmed().isEmpty() ? QRect() : label->contentsRect();
+    }
+    if (const auto *radio = qobject_cast<const QRadioButton *>(widget)) {
+        return radio->rect().adjusted(28, 2, -2, -2);
+    }
+    if (const auto *button = qobject_cast<const QPushButton *>(widget)) {
+        const bool drawn = button->styleSheet().contains(QLatin1String("0%"));
+        return button->text().isEmpty() || drawn ? QRect() : button->rect().adjusted(18, 6, -18, -6);
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+        return combo->currentText().isEmpty() ? QRect() : combo->rect().adjusted(4, 4, -26, -4);
+    }
+    if (const auto *line = qobject_cast<const QLineEdit *>(widget)) {
+        return line->text().isEmpty() ? QRect() : line->rect().adjusted(4, 4, -4, -4);
+    }
+    return widget->inherits("ImageButton") ? widget->rect().adjusted(19, 4, -19, -4) : QRect();
+}
+
+/// The dim look of what belongs to a disabled control, and the result's colour, are as they are on purpose.
+bool isFaintOnPurpose(const QWidget *widget)
+{
+    return !widget->isEnabled() || widget->styleSheet().contains(QLatin1String("30%"))
+        || widget->objectName() == QLatin1String("messageLabel");
+}
+
+/// The widgets of the window whose text stands out too little.
+QStringList faint(QWidget *window)
+{
+    constexpr double required = 4.5;
+    const QImage picture = window->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QStringList found;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const QRect place = textPlace(widget);
+        const QRect seen = widget->visibleRegion().boundingRect();
+        if (!widget->isVisible() || isFaintOnPurpose(widget) || place.isEmpty() || !seen.contains(place)) {
+            continue;
+        }
+        const double reached = contrastIn(picture.copy(place.translated(widget->mapTo(window, QPoint()))));
+        if (reached < required) {
+            found.append(QStringLiteral("%1: %2").arg(widget->objectName()).arg(reached));
+        }
+    }
+    return found;
+}
+
+/// Scrolls the shown page on by most of what is seen of it; false at its end.
+bool scrolledOn(const Window &window)
+{
+    const auto areas = window.dialog.findChildren<QScrollArea *>();
+    for (const QScrollArea *area : areas) {
+        QScrollBar *bar = area->verticalScrollBar();
+        if (area->isVisible() && bar->value() < bar->maximum()) {
+            bar->setValue(bar->value() + bar->pageStep() / 2);
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+// A text that isn't disabled stands out from its ground by 4.5 to 1. The tabs' colours are given, and the
+// tests of the tabs hold them.
+class TestContrast : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void knowsContrast();
+    void textsStandOut_data();
+    void textsStandOut();
+    void editorStandsOut();
+    void findsFaintTexts();
+};
+
+void TestContrast::knowsContrast()
+{
+    QCOMPARE(contrast(qRgb(0, 0, 0), qRgb(255, 255, 255)), 21.0);
+    QCOMPARE(qRound(contrast(qRgb(0x76, 0x76, 0x76), qRgb(255, 255, 255)) * 100), 454);
+    QCOMPARE(contrast(qRgb(9, 9, 9), qRgb(9, 9, 9)), 1.0);
+}
+
+void TestContrast::textsStandOut_data()
+{
+    QTest::addColumn<QString>("refrigerant");
+    QTest::newRow("R32") << "R32";
+    QTest::newRow("R410") << "R410";
+}
+
+void TestContrast::textsStandOut()
+{
+    QFETCH(QString, refrigerant);
+    Window window;
+    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+        stop.show();
+        Tour::settle();
+        do {
+            QVERIFY2(faint(&window.dialog).isEmpty(),
+                     qPrintable(stop.name + ": " + faint(&window.dialog).join(", ")));
+        } while (scrolledOn(window));
+    }
+    Window::click(&window.dialog, "languageCombobox");
+    QCOMPARE(faint(&window.dialog), QStringList());
+}
+
+void TestContrast::editorStandsOut()
+{
+    Window window;
+    UserLanguageEditPopup editor;
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    QCOMPARE(faint(&editor), QStringList());
+}
+
+void TestContrast::findsFaintTexts()
+{
+    Window window;
+    Window::find(&window.dialog, "labelVersion")->setStyleSheet("color: #8a8a8a");
+    Window::find<QPushButton>(&window.dialog, "saveButton")->setStyleSheet("color: #eeeeee");
+    const QStringList found = faint(&window.dialog);
+    QCOMPARE(found.size(), 2);
+    QVERIFY(found.at(0).startsWith("saveButton") || found.at(1).startsWith("saveButton"));
+}
+
+CALORA_TEST_MAIN(TestContrast)
+#include "tst_contrast.moc"
