@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/installation/autoengine.h"
-#include "pages/wheelguard.h"
 #include "ui_installationaauto.h"
 
 #include <QDebug>
@@ -12,7 +11,6 @@ InstallationaAuto::InstallationaAuto(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationaAuto>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     collapse(ui->hideButton, ui->frame);
     initUi();
 }

@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_installationcool.h"
 
 #include <QDebug>
@@ -44,7 +43,6 @@ InstallationCool::InstallationCool(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationCool>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     controls = waterControls(*ui);
     collapse(ui->hideButton, ui->frame);
     initUi();

@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/installation/hotwaterranges.h"
-#include "pages/wheelguard.h"
 #include "ui_installationdwh.h"
 
 #include <QDebug>
@@ -72,7 +71,6 @@ InstallationDWH::InstallationDWH(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationDWH>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     values = valueRows(*ui);
     choices = {{ui->radioUnderFloorNotUse, floorPriorityPath, "CLR"},
                {ui->radioUnderFloorUse, floorPriorityPath, "SET"},

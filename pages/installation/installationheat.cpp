@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_installationheat.h"
 
 #include <QDebug>
@@ -40,7 +39,6 @@ InstallationHeat::InstallationHeat(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationHeat>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     controls = waterControls(*ui);
     collapse(ui->hideButton, ui->frame);
     initUi();

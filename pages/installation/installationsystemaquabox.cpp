@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_installationsystemaquabox.h"
 
 #include <QDebug>
@@ -12,7 +11,6 @@ InstallationSystemAquabox::InstallationSystemAquabox(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationSystemAquabox>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

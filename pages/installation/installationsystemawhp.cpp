@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_installationsystemawhp.h"
 
 #include <QDebug>
@@ -27,7 +26,6 @@ InstallationSystemAWHP::InstallationSystemAWHP(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationSystemAWHP>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

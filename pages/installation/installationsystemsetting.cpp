@@ -1,7 +1,6 @@
 #include "pages/installation/installationsystemsetting.h"
 
 #include "app/maindialog.h"
-#include "pages/wheelguard.h"
 #include "ui_installationsystemsetting.h"
 
 #include <QDebug>
@@ -29,7 +28,6 @@ InstallationSystemSetting::InstallationSystemSetting(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationSystemSetting>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     const auto connectProduct = [this](auto *product) {
         using Product = std::remove_pointer_t<decltype(product)>;
         connect(product, &Product::validationCheckSignals, this,

@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_settingfunction.h"
 
 #include <QDebug>
@@ -56,7 +55,6 @@ SettingFunction::SettingFunction(QWidget *parent)
     , ui(std::make_unique<Ui::SettingFunction>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

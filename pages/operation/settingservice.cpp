@@ -1,7 +1,6 @@
 #include "pages/operation/settingservice.h"
 
 #include "app/maindialog.h"
-#include "pages/wheelguard.h"
 #include "ui_settingservice.h"
 
 #include <QRegExpValidator>
@@ -20,7 +19,6 @@ SettingService::SettingService(QWidget *parent)
     , ui(std::make_unique<Ui::SettingService>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

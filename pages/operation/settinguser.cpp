@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_settinguser.h"
 
 #include <QDebug>
@@ -82,7 +81,6 @@ SettingUser::SettingUser(QWidget *parent)
     , ui(std::make_unique<Ui::SettingUser>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

@@ -2,7 +2,6 @@
 
 #include "app/maindialog.h"
 #include "pages/style.h"
-#include "pages/wheelguard.h"
 #include "ui_dipswitchsettingstatus.h"
 
 #include <QEvent>
@@ -15,7 +14,6 @@ DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
     , ui(std::make_unique<Ui::DipSwitchSettingStatus>())
 {
     ui->setupUi(this);
-    WheelGuard::guard(this);
     initUi();
 }
 

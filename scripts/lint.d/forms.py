@@ -13,9 +13,10 @@ NUMBERED = re.compile(r"^[A-Za-z]+_\d+$")
 BARE = {"label", "pushButton", "radioButton", "checkBox", "comboBox", "spinBox", "toolButton", "widget"}
 
 # Containers that place their children themselves.
-PLACING = {"QScrollArea", "QStackedWidget", "QTabWidget", "QToolBox", "QSplitter", "QMainWindow", "QDockWidget"}
+PLACING = {"PageStack", "QScrollArea", "QStackedWidget", "QTabWidget", "QToolBox", "QSplitter", "QMainWindow", "QDockWidget"}
 
-FOCUSED = {"QCheckBox", "QComboBox", "QLineEdit", "QPushButton", "QRadioButton", "QSpinBox", "QDateEdit", "QTimeEdit"}
+FOCUSED = {"QCheckBox", "QComboBox", "QLineEdit", "QPushButton", "QRadioButton", "QSpinBox", "QDateEdit", "QTimeEdit",
+           "ValueList"}
 
 
 def is_left_over(name):

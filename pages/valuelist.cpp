@@ -1,0 +1,36 @@
+#include "pages/valuelist.h"
+
+#include <QEvent>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+
+ValueList::ValueList(QWidget *parent)
+    : QComboBox(parent)
+{
+    // The wheel gives no focus.
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize ValueList::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int height = qMax(fontMetrics().height(), option.iconSize.height()) + 2;
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, QSize(0, height), this);
+}
+
+// For a change of font or style a combo box builds its popup, nine widgets, long before it is first opened.
+// The popup takes both over when it is built.
+void ValueList::changeEvent(QEvent *event)
+{
+    const bool restyled = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    const bool hasPopup = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+    if (restyled && !hasPopup) {
+        QWidget::changeEvent(event);
+    } else {
+        QComboBox::changeEvent(event);
+    }
+}
+
+// Left unaccepted, so that the scroll area above gets it.
+void ValueList::wheelEvent(QWheelEvent *event) { event->ignore(); }

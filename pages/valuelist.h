@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QComboBox>
+
+/// A combo box of a page. The mouse wheel over it scrolls the page instead of changing the value: a settings
+/// file must not change because somebody scrolled. Its width is set in the form, so its items aren't
+/// measured.
+class ValueList : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ValueList(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+};

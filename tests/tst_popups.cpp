@@ -1,0 +1,78 @@
+#include "pages/valuelist.h"
+#include "support/window.h"
+
+#include <QAbstractItemView>
+
+// A value list builds its popup when it is first opened: a hundred popups that are never seen would make the
+// start slow.
+class TestPopups : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { window.reset(); }
+
+    void noneIsBuiltBeforeItIsOpened();
+    void looksAsItsList();
+    void itemsDoNotSetTheWidth();
+
+private:
+    static bool hasPopup(const QComboBox *list)
+    {
+        return list->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+    }
+
+    std::unique_ptr<Window> window;
+};
+
+void TestPopups::initTestCase()
+{
+    window = std::make_unique<Window>();
+    window->use(documents::standard("R32"));
+    window->speak();
+}
+
+void TestPopups::noneIsBuiltBeforeItIsOpened()
+{
+    for (const int tab : {MainDialog::FunctionTab, MainDialog::UserTab, MainDialog::InstallationTab}) {
+        window->showPage(MainDialog::SettingPage, tab);
+    }
+    window->speak("~");
+    window->speak();
+    const auto lists = window->dialog.findChildren<ValueList *>();
+    QVERIFY(lists.size() > 80);
+    QCOMPARE(window->dialog.findChildren<QComboBox *>().size(), lists.size());
+    for (const ValueList *list : lists) {
+        QVERIFY2(!hasPopup(list), qPrintable(list->objectName()));
+    }
+}
+
+void TestPopups::looksAsItsList()
+{
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *year = Window::find<QComboBox>(&window->dialog, "comboDateYear");
+    QVERIFY(year->font() != QApplication::font());
+    year->showPopup();
+    QVERIFY(hasPopup(year));
+    QCOMPARE(year->view()->font(), year->font());
+    QCOMPARE(year->view()->model()->rowCount(), year->count());
+    year->hidePopup();
+    // Once it is there, it goes with its list.
+    year->setStyleSheet("font-size: 14pt");
+    QCOMPARE(year->font().pointSize(), 14);
+    QCOMPARE(year->view()->font(), year->font());
+    year->setStyleSheet(QString());
+}
+
+void TestPopups::itemsDoNotSetTheWidth()
+{
+    ValueList list;
+    const QSize empty = list.sizeHint();
+    list.addItem(QString(200, 'x'));
+    QCOMPARE(list.sizeHint(), empty);
+    QCOMPARE(list.minimumSizeHint(), empty);
+}
+
+CALORA_TEST_MAIN(TestPopups)
+#include "tst_popups.moc"
