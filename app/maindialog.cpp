@@ -16,7 +16,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QFile>
 #include <QKeyEvent>
 
 MainDialog *mainDialog = nullptr;
@@ -25,15 +24,10 @@ MainDialog::MainDialog(QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::MainDialog>())
 {
+    // FrameLess sets it too. With children there already, that would style each of them once more.
+    setWindowFlag(Qt::FramelessWindowHint);
     ui->setupUi(this);
     mainDialog = this;
-
-    QFile look(QStringLiteral(":/style/calora.qss"));
-    if (look.open(QIODevice::ReadOnly)) {
-        // A frame that isn't polished yet wouldn't tell the children that measured themselves already.
-        ui->windowFrame->ensurePolished();
-        ui->windowFrame->setStyleSheet(QString::fromUtf8(look.readAll()));
-    }
 
     auto *shadow = new WindowShadow(this);
     shadow->setBlurRadius(2);
@@ -81,8 +75,8 @@ void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWid
         layout->addWidget(page);
     }
     layout->addStretch();
-    content->setLayout(layout);
     area->setWidget(content);
+    content->setLayout(layout);
 }
 
 // The pages connect to the language signal in the order in which they are made here; it is the order they are

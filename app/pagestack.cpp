@@ -1,0 +1,6 @@
+#include "app/pagestack.h"
+
+PageStack::PageStack(QWidget *parent)
+    : QStackedWidget(parent)
+{
+}
