@@ -1,0 +1,4 @@
+# CPack reads this for each generator: which component becomes that kind of package.
+set(component_TGZ portable)
+set(component_DEB debian)
+string(REPLACE ";ALL;" ";${component_${CPACK_GENERATOR}};" CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_INSTALL_CMAKE_PROJECTS}")
