@@ -1,123 +1,44 @@
-// How quick the window is: each row is the median of its runs in this one process, told as a ratio to one
-// frame of a 60 Hz display or to a length of time.
+// How quick the window is. Every row is measured in the same run as its yardstick and told as a ratio to it.
+// Usage: benchmark [--markdown]
 
+#include "bench/rows.h"
 #include "support/window.h"
 
-#include "languages/userlanguageeditpopup.h"
-#include "pages/installation/installationaauto.h"
-#include "pages/installation/installationsystemawhp.h"
-#include "pages/installation/installationsystemsetting.h"
+#include <QFile>
+#include <QFontDatabase>
+#include <QSysInfo>
+#include <QThread>
 
-#include <QElapsedTimer>
-
-#include <algorithm>
 #include <cstdio>
 
 namespace {
 
-constexpr double frame = 1000.0 / 60.0;
-
-/// The median of what the action takes, in milliseconds.
-double median(const std::function<void()> &action, const std::function<void()> &prepare = {})
+/// The value behind a name in a file of /proc.
+QString told(const QString &path, const QByteArray &name)
 {
-    constexpr int runs = 11;
-    std::vector<double> times;
-    for (int run = 0; run < runs; ++run) {
-        if (prepare) {
-            prepare();
-        }
-        QElapsedTimer timer;
-        timer.start();
-        action();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
     }
-    std::nth_element(times.begin(), times.begin() + runs / 2, times.end());
-    return times[runs / 2];
+    const auto lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith(name)) {
+            return QString::fromUtf8(line.mid(line.indexOf(':') + 1).simplified());
+        }
+    }
+    return {};
 }
 
-void tell(const char *what, double milliseconds, double yardstick, double atMost)
+void printMachine()
 {
-    const double ratio = milliseconds / yardstick;
-    std::printf("%-44s %8.3f ms %8.3f of %6.1f ms, at most %5.2f  %s\n", what, milliseconds, ratio, yardstick,
-                atMost, ratio <= atMost ? "good" : "MISSED");
-}
-
-/// Shows a page and paints it.
-void measurePages(Window &window)
-{
-    const auto show = [&](int step, int tab, const char *name) {
-        const auto leave = [&] { window.showPage(MainDialog::DataSavePage); };
-        tell(name,
-             median(
-                 [&] {
-                     window.showPage(step, tab);
-                     QCoreApplication::processEvents();
-                 },
-                 leave),
-             frame, 1);
-    };
-    show(MainDialog::SelectPage, -1, "show Select");
-    show(MainDialog::ProductPage, -1, "show Product selection");
-    show(MainDialog::DipSwitchPage, -1, "show Dip switches");
-    show(MainDialog::SettingPage, MainDialog::FunctionTab, "show Function");
-    show(MainDialog::SettingPage, MainDialog::UserTab, "show User");
-    show(MainDialog::SettingPage, MainDialog::ServiceTab, "show Service");
-    show(MainDialog::SettingPage, MainDialog::InstallationTab, "show Installation");
-    show(MainDialog::ValidationPage, -1, "show Validation");
-}
-
-void measureControls(Window &window)
-{
-    auto *system = window.page<InstallationSystemSetting>();
-    auto *heatPump = window.page<InstallationSystemAWHP>();
-    window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
-    Window::expand(system);
-    auto *central = Window::find<QComboBox>(system, "comboCentral");
-    tell("slot: central control address",
-         median([&] { central->setCurrentIndex(central->currentIndex() + 1); }), frame, 0.15);
-    auto *sensing = Window::find<QComboBox>(system, "comboBoxSensingTemp");
-    tell("slot that refreshes: control method",
-         median([&] { sensing->setCurrentIndex(1 - sensing->currentIndex()); }), frame, 1);
-    auto *use = Window::find<QRadioButton>(heatPump, "radio2ndUse");
-    tell("slot that changes texts: mixed circuit", median([&] { use->click(); }), frame, 1);
-    auto *automatic = window.page<InstallationaAuto>();
-    tell("auto mode lists, all of them", median([&] {
-             for (const int group : {1, 2, 3}) {
-                 QMetaObject::invokeMethod(automatic, "refreshTempRange", Q_ARG(int, group));
-             }
-         }),
-         frame, 0.25);
-    tell("language change", median([&] {
-             window.dialog.changeLanguage();
-             QCoreApplication::processEvents();
-         }),
-         frame, 3);
-}
-
-void measureEditor(Window &window)
-{
-    constexpr double openingAtMost = 150;
-    window.dialog.setLanguageSnapshot(window.dialog.languageDocument());
-    std::unique_ptr<UserLanguageEditPopup> editor;
-    tell("open the language editor",
-         median(
-             [&] {
-                 editor = std::make_unique<UserLanguageEditPopup>();
-                 editor->setNewLanguage(true);
-                 editor->show();
-                 QCoreApplication::processEvents();
-             },
-             [&] { editor.reset(); }),
-         openingAtMost, 1);
-    auto *search = Window::find<QLineEdit>(editor.get(), "searchLineEdit");
-    const auto press = [&](Qt::Key key) {
-        QTest::keyClick(search, key);
-        QCoreApplication::processEvents();
-    };
-    tell("editor: one key that filters", median([&] { press(Qt::Key_A); }, [&] { press(Qt::Key_Backspace); }),
-         frame, 1);
-    tell("editor: the key that shows all again",
-         median([&] { press(Qt::Key_Backspace); }, [&] { press(Qt::Key_A); }), frame, 1);
+    QFile load(QStringLiteral("/proc/loadavg"));
+    const QByteArray before = load.open(QIODevice::ReadOnly) ? load.readAll().split(' ').first()
+                                                             : QByteArray();
+    std::printf("%s, %d cores, %s of memory, %s, Qt %s, %d font families. Load before: %s. %d runs.\n\n",
+                qPrintable(told(QStringLiteral("/proc/cpuinfo"), "model name")), QThread::idealThreadCount(),
+                qPrintable(told(QStringLiteral("/proc/meminfo"), "MemTotal")),
+                qPrintable(QSysInfo::prettyProductName()), qVersion(), QFontDatabase().families().size(),
+                before.constData(), bench::runs);
 }
 
 } // namespace
@@ -126,12 +47,16 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
+    const bool markdown = QCoreApplication::arguments().contains(QLatin1String("--markdown"));
     prepareApplication();
+    printMachine();
+    std::vector<bench::Row> rows = bench::startRows();
     Window window;
-    window.use(documents::standard("R32"));
     window.speak();
-    measurePages(window);
-    measureControls(window);
-    measureEditor(window);
+    for (const auto measure : {bench::controlRows, bench::languageRows, bench::documentRows}) {
+        const std::vector<bench::Row> more = measure(window);
+        rows.insert(rows.end(), more.begin(), more.end());
+    }
+    bench::print(rows, markdown ? bench::Form::Markdown : bench::Form::Plain);
     return 0;
 }

@@ -26,7 +26,7 @@ void ValueList::changeEvent(QEvent *event)
     const bool restyled = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
     const bool hasPopup = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
     if (restyled && !hasPopup) {
-        QWidget::changeEvent(event);
+        QWidget::changeEvent(event); // NOLINT(bugprone-parent-virtual-call): QComboBox is what builds it
     } else {
         QComboBox::changeEvent(event);
     }
