@@ -17,8 +17,17 @@ SCHEMA = json.loads((ROOT / "docs/settings-file.schema.json").read_text(encoding
 VALIDATOR = Draft202012Validator(SCHEMA)
 DEFAULTS = {name: json.loads((ROOT / f"resources/defaultsettings/KV5_AWHP_DATA_{name}.json").read_text(encoding="utf-8"))
             for name in ("R32", "R410")}
-SOURCES = "".join(path.read_text(encoding="utf-8")
-                  for path in sorted((ROOT / "pages").rglob("*.*")) if path.suffix in (".cpp", ".h"))
+
+
+def source(path):
+    """A source with its constants of text put in, so that a row shows its path."""
+    text = path.read_text(encoding="utf-8")
+    for name, value in re.findall(r'constexpr (?:auto|const char \*) ?(\w+) = ("[^"]+");', text):
+        text = re.sub(rf"\b{name}\b(?! =)", lambda _, value=value: value, text)
+    return text
+
+
+SOURCES = "".join(map(source, sorted((ROOT / "pages").rglob("*.cpp")) + sorted((ROOT / "pages").rglob("*.h"))))
 INSTALLATION = "SettingInfo.installation."
 PASSED = True  # the schema's word for a key that passes through
 
