@@ -139,7 +139,7 @@ void TestLanguageEditor::showsEachKeyInOrder()
         QVERIFY(!list()->isRowHidden(index));
     }
     QCOMPARE(reference(0), QString("Air"));
-    QCOMPARE(reference(235), QString("Pulse / kWh"));
+    QCOMPARE(reference(languagefolder::textCount - 1), QString("Pulse / kWh"));
     // What a text breaks in two lines has room for both.
     for (int index = 0; index < keys.size(); ++index) {
         const auto *label = Window::find<QLabel>(row(index), "labelReference");
