@@ -5,6 +5,7 @@
 #include "languages/userlanguageeditpopup.h"
 #include "pages/installation/installationsystemsetting.h"
 #include "pages/product/dipswitchsettingstatus.h"
+#include "support/tour.h"
 
 #include <QDir>
 
@@ -77,10 +78,7 @@ private:
 
     void take(const char *name, QWidget *shown)
     {
-        // Parts that a page hides while it is shown leave their places layout by layout.
-        for (int round = 0; round < 5; ++round) {
-            QCoreApplication::processEvents();
-        }
+        Tour::settle();
         const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
         if (!shown->grab().toImage().convertToFormat(QImage::Format_RGB888).save(path)) {
             std::fprintf(stderr, "guide-pictures: can't write %s\n", qPrintable(path));
