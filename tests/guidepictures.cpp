@@ -35,6 +35,9 @@ public:
         installer.goToSettings();
         installer.tab("userTabButton");
         take("date-missing");
+        installer.tab("installationTabButton");
+        Window::expand(installer.window.page<InstallationSystemSetting>());
+        take("system");
         installer.goToValidation();
         take("not-complete");
         complete();
@@ -55,10 +58,8 @@ private:
     void complete()
     {
         installer.goToSettings();
+        installer.tab("userTabButton");
         installer.enterDate(2026, 11, 21);
-        installer.tab("installationTabButton");
-        Window::expand(installer.window.page<InstallationSystemSetting>());
-        take("system");
         installer.goToValidation();
         take("complete");
     }
