@@ -48,6 +48,7 @@ struct Bounds {
     Neighbour other{};
 };
 
+/// A box of the seasonal form and what narrows its list.
 struct Row {
     int modelName = none;
     /// The place of the box in the table of limits.

@@ -5,6 +5,7 @@
 /// The limits of the auto mode lists by the flags of the document, in whole °C.
 namespace autoranges {
 
+/// Both ends belong to it.
 struct Range {
     int low;
     int high;

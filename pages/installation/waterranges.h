@@ -6,6 +6,7 @@
 /// kept in line. All in °C; words are upper-cased document values.
 namespace waterranges {
 
+/// Both ends belong to it.
 struct Range {
     int low;
     int high;
@@ -37,12 +38,14 @@ Range heatHigh(bool r32, bool outlet);
 /// How the constant temperatures of two circuits stand to each other. The main zone is circuit 1.
 enum class Circuits { One, MainZoneAbove, MainZoneBelow };
 
+/// What the constant temperatures of the circuits are.
 struct Constants {
     /// Circuit 2, or the only one.
     int other;
     int mainZone;
 };
 
+/// What the lists of the constant temperatures offer.
 struct ConstantLists {
     Range other;
     Range mainZone;

@@ -40,7 +40,7 @@ void SettingService::initUi()
     ui->lineEditOfficeName->setValidator(anyText);
 }
 
-// Without a test for an empty document: this page alone writes into one.
+// Without a test for an empty document, as on the User tab.
 void SettingService::saveJsonData(const QString &path, const QJsonValue &value) { write(path, value); }
 
 QJsonValue SettingService::parseJsonData(const QString &path) { return read(path); }

@@ -4,6 +4,8 @@
 #include "pages/operation/settinguser.h"
 #include "pages/product/productselection.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
@@ -17,14 +19,14 @@ void Installer::startNew(const QString &refrigerant)
 
 QString Installer::open(const QJsonDocument &document)
 {
-    const QString path = folder.filePath(QStringLiteral("plant.json"));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(document.toJson()) < 0) {
-        qFatal("Can't write %s", qPrintable(path));
+    file = folder.filePath(QStringLiteral("plant.json"));
+    QFile plant(file);
+    if (!plant.open(QIODevice::WriteOnly) || plant.write(document.toJson()) < 0) {
+        qFatal("Can't write %s", qPrintable(file));
     }
-    file.close();
-    filedialogs::answer([this] { press("openButton"); }, path);
-    return path;
+    plant.close();
+    filedialogs::answer([this] { press("openButton"); }, file);
+    return file;
 }
 
 void Installer::tab(const char *tabButton)
@@ -34,7 +36,23 @@ void Installer::tab(const char *tabButton)
 
 bool Installer::save(const QString &path)
 {
-    return !filedialogs::answer([this] { press("saveButton"); }, path).title.isEmpty();
+    const bool asked = !filedialogs::answer([this] { press("saveButton"); }, path).title.isEmpty();
+    if (asked) {
+        file = path;
+    }
+    keepSaved();
+    return asked;
+}
+
+void Installer::keepSaved() const
+{
+    const QDir kept(QCoreApplication::applicationDirPath() + QStringLiteral("/saved"));
+    const QString copy = kept.filePath(QLatin1String(QTest::currentTestFunction()) + QStringLiteral(".json"));
+    if (QFile::exists(file)) {
+        kept.mkpath(QStringLiteral("."));
+        QFile::remove(copy);
+        QFile::copy(file, copy);
+    }
 }
 
 void Installer::enterDate(int year, int month, int day)

@@ -22,7 +22,8 @@ public:
     void press(const char *button) { Window::click(&window.dialog, button); }
     void tab(const char *tabButton);
 
-    /// Presses Save and, if the tool asks, gives it `path`. Returns whether it asked.
+    /// Presses Save and, if the tool asks, gives it `path`. Returns whether it asked. What then stands in the
+    /// file is kept beside the test program, for the test of the file's schema.
     bool save(const QString &path = QString());
 
     /// Chooses a date on the User tab.
@@ -35,4 +36,9 @@ public:
     /// What Save is to write: the document with the values of a hand-written table (path, tab, JSON value a
     /// line).
     static QByteArray expected(const QJsonDocument &document, const QString &table);
+
+private:
+    void keepSaved() const;
+
+    QString file; ///< what was opened or given a name last
 };

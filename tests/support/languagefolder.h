@@ -10,6 +10,9 @@
 /// The language folder beside the test, which is the test's own.
 namespace languagefolder {
 
+/// How many texts a language has.
+constexpr int textCount = 236;
+
 inline QString path() { return QCoreApplication::applicationDirPath() + QStringLiteral("/language"); }
 
 inline QString file(const QString &name) { return path() + QLatin1Char('/') + name; }
