@@ -1,3 +1,4 @@
+#include "support/faults.h"
 #include "support/languagefolder.h"
 
 #include <QApplication>
@@ -150,6 +151,7 @@ private slots:
     void runsWithoutItsFiles();
     void endsByTheWindowSystem();
     void leavesItsFolderAsItIs();
+    void runsInAReadOnlyFolder();
 
 private:
     QString folder() const { return home->filePath("calora"); }
@@ -342,8 +344,24 @@ void TestExecutable::leavesItsFolderAsItIs()
     QCOMPARE(contents(folder()), before);
 }
 
+void TestExecutable::runsInAReadOnlyFolder()
+{
+    const auto before = contents(folder());
+    const faults::Fault fault = faults::readOnlyFileSystem(folder());
+    if (!fault.holds) {
+        QSKIP("This machine doesn't let the folder be mounted");
+    }
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.picture(), plain);
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(contents(folder()), before);
+}
+
 int main(int argc, char *argv[])
 {
+    faults::isolate();
     QApplication application(argc, argv);
     TestExecutable tests;
     return QTest::qExec(&tests, argc, argv);
