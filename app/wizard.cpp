@@ -1,6 +1,7 @@
 // The wizard: moving between steps and tabs, and how the pages' results join into step marks.
 
 #include "app/maindialog.h"
+#include "pages/style.h"
 #include "ui_maindialog.h"
 
 #include <QDebug>
@@ -58,7 +59,7 @@ void MainDialog::setCurrentStep(int step)
     for (const auto &[button, done] : steps) {
         ++number;
         if (!done) {
-            button->setStyleSheet(number == step ? focusStyle(number) : normalStyle(number));
+            style::apply(button, number == step ? focusStyle(number) : normalStyle(number));
         }
     }
 }
@@ -78,10 +79,10 @@ void MainDialog::setStepCompleted(bool completed, int step)
     }
     const Step &target = steps.at(static_cast<std::size_t>(step - 1));
     if (completed) {
-        target.button->setStyleSheet(completedStyle());
+        style::apply(target.button, completedStyle());
     } else if (step != 1) {
         // Step 1 keeps its style.
-        target.button->setStyleSheet(focusStyle(step));
+        style::apply(target.button, focusStyle(step));
     }
     target.done = completed;
     target.errorMark->setVisible(!completed);
@@ -140,7 +141,7 @@ void MainDialog::styleTabs(Tab tab)
     int number = FunctionTab;
     for (TabButton *button :
          {ui->functionTabButton, ui->userTabButton, ui->serviceTabButton, ui->installationTabButton}) {
-        button->setStyleSheet(setTabButonStyleSheet(number == tab));
+        style::apply(button, setTabButonStyleSheet(number == tab));
         ++number;
     }
 }

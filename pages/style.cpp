@@ -1,5 +1,7 @@
 #include "pages/style.h"
 
+#include <QWidget>
+
 namespace style {
 
 QString radioText(bool isEnabled)
@@ -14,6 +16,13 @@ QString radioText(bool isEnabled)
 QString labelText(bool isEnabled)
 {
     return isEnabled ? QStringLiteral("color : #555555;") : QStringLiteral("color : rgba(55,55,55,30%)");
+}
+
+void apply(QWidget *widget, const QString &sheet)
+{
+    if (widget->styleSheet() != sheet) {
+        widget->setStyleSheet(sheet);
+    }
 }
 
 } // namespace style

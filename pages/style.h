@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QWidget;
+
 /// Style sheet texts that pages share.
 namespace style {
 
@@ -10,5 +12,9 @@ QString radioText(bool isEnabled);
 
 /// The style of an enabled or dimmed label. The dip switch page has colours of its own.
 QString labelText(bool isEnabled);
+
+/// Gives the widget the style sheet unless it has it already: each new sheet loads its pictures anew, and the
+/// copies that are drawn stay in the pixmap cache.
+void apply(QWidget *widget, const QString &sheet);
 
 } // namespace style

@@ -1,6 +1,7 @@
 #include "pages/completion/validation.h"
 
 #include "app/maindialog.h"
+#include "pages/style.h"
 #include "ui_validation.h"
 
 Validation::Validation(QWidget *parent)
@@ -26,8 +27,9 @@ void Validation::setResult(bool complete)
 {
     ui->messageLabel->setText(complete ? completeMessage : errorMessage);
     ui->messageLabel2->setText(complete ? completeSubMessage : errorSubMessage);
-    ui->imgLabel->setStyleSheet(complete ? QStringLiteral("QLabel{image: url(:/images/img_complete.png);}")
-                                         : QStringLiteral("QLabel{image: url(:/images/img_error.png);}"));
+    style::apply(ui->imgLabel,
+                 complete ? QStringLiteral("QLabel{image: url(:/images/img_complete.png);}")
+                          : QStringLiteral("QLabel{image: url(:/images/img_error.png);}"));
 }
 
 void Validation::changeLanguage()

@@ -115,8 +115,8 @@ void InstallationCool::enablePumpOperOptionInCool()
 {
     enableTimers();
     const QString look = setOpacity(ui->radioWaterPumpUse->isChecked());
-    ui->labelOpeartionOn->setStyleSheet(look);
-    ui->labelOpeartionOff->setStyleSheet(look);
+    style::apply(ui->labelOpeartionOn, look);
+    style::apply(ui->labelOpeartionOff, look);
 }
 
 void InstallationCool::enableFcuWaterTemp()

@@ -108,11 +108,11 @@ void InstallationSystemAquabox::setLoadJsonValue()
 void InstallationSystemAquabox::enableOilRecovery()
 {
     const bool used = !ui->radioCombinationNotuse->isChecked();
-    ui->labelOilrecovery->setStyleSheet(style::labelText(used));
+    style::apply(ui->labelOilrecovery, style::labelText(used));
     ui->groupBoxCombinationSub->setEnabled(used);
     for (QRadioButton *option : {ui->radioOpt1, ui->radioOpt2}) {
         option->setEnabled(used);
-        option->setStyleSheet(setRadioTextOpacity(used));
+        style::apply(option, setRadioTextOpacity(used));
     }
     if (!used) {
         uncheck({ui->radioOpt1, ui->radioOpt2});

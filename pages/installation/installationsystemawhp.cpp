@@ -63,8 +63,8 @@ void InstallationSystemAWHP::refreshInstallation() { emit refreshInstallationPag
 void InstallationSystemAWHP::enable2ndCircuit()
 {
     const bool used = ui->radio2ndUse->isChecked();
-    ui->label2ndValve->setStyleSheet(setOpacity(used));
-    ui->label2ndHysterisis->setStyleSheet(setOpacity(used));
+    style::apply(ui->label2ndValve, setOpacity(used));
+    style::apply(ui->label2ndHysterisis, setOpacity(used));
     ui->comboValveClosingTime->setEnabled(used);
     ui->comboHysterisis->setEnabled(used);
 }
@@ -72,7 +72,7 @@ void InstallationSystemAWHP::enable2ndCircuit()
 void InstallationSystemAWHP::enableSmartGrid()
 {
     const bool used = ui->radioSgUse->isChecked();
-    ui->labelSmartgridStep->setStyleSheet(setOpacity(used));
+    style::apply(ui->labelSmartgridStep, setOpacity(used));
     ui->comboStep->setEnabled(used);
 }
 
@@ -80,8 +80,8 @@ void InstallationSystemAWHP::enableSmartGrid()
 void InstallationSystemAWHP::enableWaterTankHeater()
 {
     const bool used = ui->radioWaterTankHeaterUse->isChecked();
-    ui->labelWaterTankPriority->setStyleSheet(setOpacity(used));
-    ui->labelWaterTankTime->setStyleSheet(setOpacity(used));
+    style::apply(ui->labelWaterTankPriority, setOpacity(used));
+    style::apply(ui->labelWaterTankTime, setOpacity(used));
     ui->comboHeatingPriority->setEnabled(used);
     ui->comboDelayTime->setEnabled(used);
 }
@@ -93,7 +93,7 @@ void InstallationSystemAWHP::enable3rdPartyBoiler()
         group->setEnabled(used);
     }
     for (QLabel *label : {ui->label3rdMode, ui->label3rdTemp, ui->label3rdHysterisis}) {
-        label->setStyleSheet(setOpacity(used));
+        style::apply(label, setOpacity(used));
     }
     ui->comboControlMode->setEnabled(used);
     setControlledByTemperature(used && ui->comboControlMode->currentIndex() != 0);

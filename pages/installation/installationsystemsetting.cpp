@@ -1,6 +1,7 @@
 #include "pages/installation/installationsystemsetting.h"
 
 #include "app/maindialog.h"
+#include "pages/style.h"
 #include "ui_installationsystemsetting.h"
 
 #include <QDebug>
@@ -94,10 +95,10 @@ void InstallationSystemSetting::refreshInstallationPage() { emit refreshInstalla
 void InstallationSystemSetting::enableEnforcedCirculation()
 {
     const bool used = ui->radioEnforcedUse->isChecked();
-    const QString style = used ? QStringLiteral("color : #555555")
-                               : QStringLiteral("color : rgba(55,55,55,30%)");
-    ui->labelOperationPeriod->setStyleSheet(style);
-    ui->labelOperationTime->setStyleSheet(style);
+    const QString look = used ? QStringLiteral("color : #555555")
+                              : QStringLiteral("color : rgba(55,55,55,30%)");
+    style::apply(ui->labelOperationPeriod, look);
+    style::apply(ui->labelOperationTime, look);
     ui->comboOperationPeriod->setEnabled(used);
     ui->comboOperationTime->setEnabled(used);
 }

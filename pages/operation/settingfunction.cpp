@@ -179,8 +179,8 @@ void SettingFunction::enableSilentMode()
          {ui->comboSilentEndHour, ui->comboSilentEndMin, ui->comboSilentStartHour, ui->comboSilentStartMin}) {
         combo->setEnabled(on);
     }
-    ui->labelStratTime->setStyleSheet(setOpacity(on));
-    ui->labelEndTime->setStyleSheet(setOpacity(on));
+    style::apply(ui->labelStratTime, setOpacity(on));
+    style::apply(ui->labelEndTime, setOpacity(on));
     ui->groupBoxSilentModeSub->setEnabled(on);
 }
 
@@ -193,10 +193,10 @@ void SettingFunction::allButtonLock(bool isLock)
     for (QRadioButton *radio :
          {ui->radioOnOffButtonNone, ui->radioOnOffButtonUse, ui->radioOperationModeButtonNone,
           ui->radioOperationModeButtonUse, ui->radioDhwOnOffNone, ui->radioDhwOnOffUse}) {
-        radio->setStyleSheet(setRadioTextOpacity(!isLock));
+        style::apply(radio, setRadioTextOpacity(!isLock));
     }
     for (QLabel *label : {ui->labelOnOff, ui->labelOperationMode, ui->labelDHW}) {
-        label->setStyleSheet(setOpacity(!isLock));
+        style::apply(label, setOpacity(!isLock));
     }
 }
 

@@ -202,8 +202,8 @@ QString SettingUser::setOpacity(bool isEnabled) { return style::labelText(isEnab
 void SettingUser::enableSummerTime()
 {
     const bool on = ui->radioSummerTimeUse->isChecked();
-    ui->labelStartDay->setStyleSheet(setOpacity(on));
-    ui->labelEndDay->setStyleSheet(setOpacity(on));
+    style::apply(ui->labelStartDay, setOpacity(on));
+    style::apply(ui->labelEndDay, setOpacity(on));
     for (QComboBox *combo : {ui->comboStartDay, ui->comboStartMonth, ui->comboEndDay, ui->comboEndMonth}) {
         combo->setEnabled(on);
     }

@@ -3,6 +3,7 @@
 #include "pages/product/dipswitchsettingstatus.h"
 
 #include "pages/seasonaldefaults.h"
+#include "pages/style.h"
 #include "ui_dipswitchsettingstatus.h"
 
 void DipSwitchSettingStatus::saveFlags(std::initializer_list<Flag> flags)
@@ -63,14 +64,15 @@ void DipSwitchSettingStatus::setPowerHotWater()
 bool DipSwitchSettingStatus::enableSolarThermalKit()
 {
     const bool offered = !ui->radioDhwNotUse->isChecked() && !ui->radioDhwOnly->isChecked();
-    ui->labelSolar->setStyleSheet(offered ? QStringLiteral("color : #333333;")
-                                          : QStringLiteral("color : rgba(33,33,33,30%);"));
+    style::apply(ui->labelSolar,
+                 offered ? QStringLiteral("color : #333333;")
+                         : QStringLiteral("color : rgba(33,33,33,30%);"));
     if (!offered) {
         uncheck({ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse});
     }
     for (QRadioButton *radio : {ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse}) {
         radio->setEnabled(offered);
-        radio->setStyleSheet(setRadioTextOpacity(offered));
+        style::apply(radio, setRadioTextOpacity(offered));
     }
     if (offered) {
         showSolarThermalKit();
@@ -311,10 +313,10 @@ void DipSwitchSettingStatus::enableOduFunctionMaster()
         uncheck({ui->radioOduMaster, ui->radioOduSlave});
     }
     for (QRadioButton *radio : {ui->radioOduMaster, ui->radioOduSlave}) {
-        radio->setStyleSheet(setRadioTextOpacity(master));
+        style::apply(radio, setRadioTextOpacity(master));
         radio->setEnabled(master);
     }
-    ui->labelODUFunctionMaster->setStyleSheet(setOpacity(master));
+    style::apply(ui->labelODUFunctionMaster, setOpacity(master));
 }
 
 void DipSwitchSettingStatus::enableOduFunctionMasterSubCategory()
@@ -325,5 +327,5 @@ void DipSwitchSettingStatus::enableOduFunctionMasterSubCategory()
     }
     ui->radioSilentODU->setEnabled(master);
     ui->radioSilentRemote->setEnabled(master);
-    ui->labelSilentMode->setStyleSheet(setOpacity(master));
+    style::apply(ui->labelSilentMode, setOpacity(master));
 }

@@ -86,7 +86,7 @@ QJsonValue DipSwitchSettingStatus::parseJsonData(const QString &path) { return r
 void DipSwitchSettingStatus::turn(std::initializer_list<Switch> switches)
 {
     for (const auto &[button, on] : switches) {
-        button->setStyleSheet(setDipSwitchButton(on));
+        style::apply(button, setDipSwitchButton(on));
         button->setText(on ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -149,8 +149,8 @@ void DipSwitchSettingStatus::loadProduct(const QString &product)
          {ui->radioOduMaster, ui->radioOduSlave, ui->radioSilentODU, ui->radioSilentRemote}) {
         radio->setEnabled(aquabox);
     }
-    ui->labelODUFunctionMaster->setStyleSheet(setOpacity(aquabox));
-    ui->labelSilentMode->setStyleSheet(setOpacity(aquabox));
+    style::apply(ui->labelODUFunctionMaster, setOpacity(aquabox));
+    style::apply(ui->labelSilentMode, setOpacity(aquabox));
     ui->radioDhwOnly->setVisible(aquabox);
     ui->labelDhwSpacing->setVisible(!aquabox);
     offer(ui->groupBoxOduFunctionMaster, aquabox);
@@ -327,7 +327,8 @@ void DipSwitchSettingStatus::changeImage(const QString &product)
 {
     const QString refrigerant = product.toUpper();
     if (refrigerant == QLatin1String("R32") || refrigerant == QLatin1String("R410")) {
-        ui->labelPCB->setStyleSheet(
+        style::apply(
+            ui->labelPCB,
             QStringLiteral("QLabel {   background-image: url(:/images/img_pcb_%1.png);}").arg(refrigerant));
     }
 }

@@ -1,0 +1,131 @@
+// The lists of the Function and the User tab.
+
+#include "walk/comborules.h"
+#include "walk/scene.h"
+
+namespace {
+
+using comborules::find;
+
+QString user(const char *key) { return QStringLiteral("SettingInfo.user.") + QLatin1String(key); }
+
+QString twoDigits(int value)
+{
+    return value < 0 ? QString() : QString::number(value).rightJustified(2, QLatin1Char('0'));
+}
+
+QStringList counted(int count)
+{
+    QStringList items;
+    for (int value = 0; value < count; ++value) {
+        items.append(twoDigits(value));
+    }
+    return items;
+}
+
+ComboRule hour(const char *name, const QString &path)
+{
+    return {name, comborules::fixed(counted(24)), [path](const Scene &scene, const QComboBox &combo) {
+                // 12 "PM" comes up as midnight.
+                const bool afternoon = scene.word(path + QStringLiteral(".ampm")) == QLatin1String("PM");
+                const int shown = scene.number(path + QStringLiteral(".hour")) + (afternoon ? 12 : 0);
+                return qMax(0, find(combo, twoDigits(afternoon && shown == 24 ? 0 : shown)));
+            }};
+}
+
+ComboRule minute(const char *name, const QString &path)
+{
+    return {name, comborules::fixed(counted(60)), [path](const Scene &scene, const QComboBox &combo) {
+                return qMax(0, find(combo, twoDigits(scene.number(path))));
+            }};
+}
+
+ComboRule::Items led(const char *leadKey, int first, int last)
+{
+    return [=](const Scene &scene) {
+        return QStringList(scene.speak(QLatin1String(leadKey))) + *comborules::plain(first, last)(scene);
+    };
+}
+
+/// The days of a month that is shown; while none is, the list keeps the days that it had.
+ComboRule::Items days(const char *monthCombo)
+{
+    return [monthCombo](const Scene &scene) -> std::optional<QStringList> {
+        const int month = scene.control<QComboBox>(QLatin1String(monthCombo))->currentText().toInt();
+        if (month == 0) {
+            return std::nullopt;
+        }
+        const bool isShort = month == 4 || month == 6 || month == 9 || month == 11;
+        return led("UserDay", 1, month == 2 ? 28 : isShort ? 30 : 31)(scene);
+    };
+}
+
+/// -9999 stands for the first item; what isn't listed leaves the box blank.
+ComboRule::Shown dated(const QString &path)
+{
+    return [path](const Scene &scene, const QComboBox &combo) {
+        const int value = scene.number(path);
+        return value == -9999 ? 0 : find(combo, QString::number(value));
+    };
+}
+
+/// What isn't listed comes up as the first item.
+ComboRule::Shown summerTime(const QString &path)
+{
+    return [path](const Scene &scene, const QComboBox &combo) {
+        return qMax(0, find(combo, QString::number(scene.number(path))));
+    };
+}
+
+std::optional<int> brightness(const Scene &scene, const QComboBox &combo)
+{
+    QString shown = scene.text(user("backlightControl.brightness"));
+    return shown.isEmpty()
+        ? std::nullopt
+        : std::optional<int>(find(combo, shown.remove(QStringLiteral("BRIGHTNESS")) + QLatin1Char('%')));
+}
+
+std::optional<int> screenSaver(const Scene &scene, const QComboBox &combo)
+{
+    QString shown = scene.text(user("backlightControl.dimmTimeSet"));
+    if (shown.isEmpty()) {
+        return std::nullopt;
+    }
+    shown.remove(QStringLiteral("BACKLIGHT")).remove(QLatin1Char('S'));
+    return find(combo, shown + scene.speak(QStringLiteral("OperationSecond")));
+}
+
+std::optional<QStringList> screenSaverItems(const Scene &scene)
+{
+    const QString second = scene.speak(QStringLiteral("OperationSecond"));
+    return QStringList{QStringLiteral("15") + second, QStringLiteral("30") + second,
+                       QStringLiteral("60") + second};
+}
+
+} // namespace
+
+std::vector<ComboRule> comborules::ofOperation()
+{
+    const QString timer = QStringLiteral("SettingInfo.func.silentTimer.");
+    return {
+        hour("SettingFunction/comboSilentStartHour", timer + QStringLiteral("start")),
+        minute("SettingFunction/comboSilentStartMin", timer + QStringLiteral("start.min")),
+        hour("SettingFunction/comboSilentEndHour", timer + QStringLiteral("end")),
+        minute("SettingFunction/comboSilentEndMin", timer + QStringLiteral("end.min")),
+        keyed("SettingFunction/comboDefrostMode", QStringLiteral("SettingInfo.func.installDefrostMode"),
+              {"STEP0", "STEP1", "STEP2", "STEP3"}),
+        {"SettingUser/comboBrightness",
+         fixed({QStringLiteral("0%"), QStringLiteral("10%"), QStringLiteral("20%"), QStringLiteral("30%")}),
+         brightness},
+        {"SettingUser/comboScreenSaverTimer", screenSaverItems, screenSaver},
+        {"SettingUser/comboDateYear", led("Year", 2015, 2037), dated(user("DateInfo.year"))},
+        {"SettingUser/comboDateMonth", led("Month", 1, 12), dated(user("DateInfo.month"))},
+        {"SettingUser/comboDateDay", days("SettingUser/comboDateMonth"), dated(user("DateInfo.mday"))},
+        {"SettingUser/comboStartMonth", led("Month", 1, 12), summerTime(user("summerTime.start.mon"))},
+        {"SettingUser/comboStartDay", days("SettingUser/comboStartMonth"),
+         summerTime(user("summerTime.start.day"))},
+        {"SettingUser/comboEndMonth", led("Month", 1, 12), summerTime(user("summerTime.end.mon"))},
+        {"SettingUser/comboEndDay", days("SettingUser/comboEndMonth"),
+         summerTime(user("summerTime.end.day"))},
+    };
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+class Scene;
+
+/// Radios of one choice: the name of the one that is to be checked, "" for none, nothing where the document
+/// doesn't tell.
+struct RadioRule {
+    const char *page;
+    const char *radios; ///< separated by blanks
+    std::function<std::optional<QString>(const Scene &)> checked;
+};
+
+/// The rules of all radios, by hand.
+const std::vector<RadioRule> &radioRules();

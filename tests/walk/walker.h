@@ -1,0 +1,94 @@
+#pragma once
+
+#include "journeys/installer.h"
+#include "walk/marks.h"
+#include "walk/scene.h"
+#include "walk/selections.h"
+
+#include <QRandomGenerator>
+
+#include <optional>
+
+/// Counts how often the display, not the tool, has shown a page.
+class ShowCounter : public QObject
+{
+public:
+    using QObject::QObject;
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Show && event->spontaneous() ? 1 : 0;
+        return false;
+    }
+};
+
+/// An installer who uses the window at random, and what must hold after each step. The close button, which
+/// ends the program, is left alone.
+class Walker
+{
+public:
+    explicit Walker(quint32 seed);
+
+    /// Takes one step. Returns what doesn't hold after it, or nothing.
+    QStringList step();
+    /// The last steps, oldest first.
+    QStringList trail() const { return lastSteps; }
+    /// How often each kind of step was taken.
+    QMap<QString, int> counts() const { return tally; }
+
+    /// The controls that a walk touches: "Page/control".
+    QStringList controlNames() const;
+
+private:
+    /// What a step did, and may have done to the document.
+    struct Action {
+        QString text;
+        Happening happening;
+        /// The document that the step put in place of the old one.
+        std::optional<QJsonDocument> replacement = std::nullopt;
+        /// What is wrong already.
+        QStringList complaints = {};
+    };
+
+    Action act();
+    Action actOnPage();
+    Action touch();
+    Action pressStep();
+    Action pressTab();
+    Action toggleHeader();
+    Action changeLanguage();
+    Action loadLanguage();
+    Action openEditor();
+    Action toggleMenu();
+    Action startNew();
+    Action open();
+    Action save();
+    Action maximize();
+    Action minimize();
+
+    QString choose(QComboBox *combo);
+    QString type(QLineEdit *edit);
+    void pressLanguageBox();
+    QStringList documentComplaints(const Action &action, const QJsonDocument &before,
+                                   const QStringList &mayWrite) const;
+    int dice(int sides) { return random.bounded(sides); }
+
+    /// Before the window, which reads it: English, and a language whose texts are all marked.
+    struct Languages {
+        Languages();
+    } languages;
+
+    Installer installer;
+    QRandomGenerator random;
+    Scene scene;
+    Marks marks;
+    Selections selections;
+    QVector<QPair<QString, QWidget *>> controls;
+    QStringList lastSteps;
+    QMap<QString, int> tally;
+    ShowCounter displayShows;
+    int stepNumber = 0;
+    int savedFiles = 0;
+};
