@@ -152,6 +152,7 @@ private slots:
     void endsByTheWindowSystem();
     void leavesItsFolderAsItIs();
     void runsInAReadOnlyFolder();
+    void picksItsPlatform();
 
 private:
     QString folder() const { return home->filePath("calora"); }
@@ -357,6 +358,15 @@ void TestExecutable::runsInAReadOnlyFolder()
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
     QCOMPARE(contents(folder()), before);
+}
+
+void TestExecutable::picksItsPlatform()
+{
+    Run run(folder(), {{}, {{"QT_QPA_PLATFORM", ""}}, {}});
+    QVERIFY(run.isShown());
+    QCOMPARE(run.picture(), plain);
+    run.clickAt(closeX, closeY);
+    QCOMPARE(run.exitCode(), 0);
 }
 
 int main(int argc, char *argv[])

@@ -123,6 +123,7 @@ void TestIdleOperations::constantsOfCooling_data()
     QTest::newRow("two, inside") << "SET" << 19 << 22 << 19 << 22 << degrees(18, 22) << degrees(19, 24);
     QTest::newRow("two, below") << "SET" << 15 << 20 << 18 << 18 << degrees(18, 18) << degrees(18, 24);
     QTest::newRow("two, above") << "SET" << 20 << 30 << 24 << 24 << degrees(18, 24) << degrees(24, 24);
+    QTest::newRow("two, one above") << "SET" << 24 << 30 << 24 << 24 << degrees(18, 24) << degrees(24, 24);
     QTest::newRow("one, inside") << "CLR" << 20 << 99 << 20 << 99 << degrees(18, 24) << degrees(18, 24);
     QTest::newRow("one, below") << "CLR" << 15 << 20 << 18 << 18 << degrees(18, 24) << degrees(18, 24);
     QTest::newRow("one, above") << "clr" << 30 << 20 << 24 << 24 << degrees(18, 24) << degrees(18, 24);
@@ -142,6 +143,7 @@ void TestIdleOperations::constantsOfHeating_data()
     QTest::newRow("two, inside") << "SET" << 40 << 35 << 40 << 35 << degrees(35, 50) << degrees(30, 40);
     QTest::newRow("two, above") << "SET" << 60 << 35 << 50 << 50 << degrees(50, 50) << degrees(30, 50);
     QTest::newRow("two, below") << "SET" << 40 << 25 << 30 << 30 << degrees(30, 50) << degrees(30, 30);
+    QTest::newRow("two, one below") << "SET" << 30 << 25 << 30 << 30 << degrees(30, 50) << degrees(30, 30);
     QTest::newRow("one, inside") << "CLR" << 40 << 5 << 40 << 5 << degrees(30, 50) << degrees(30, 50);
     QTest::newRow("one, below") << "CLR" << 25 << 40 << 30 << 30 << degrees(30, 50) << degrees(30, 50);
     QTest::newRow("one, above") << "clr" << 60 << 40 << 50 << 50 << degrees(30, 50) << degrees(30, 50);

@@ -72,6 +72,7 @@ class TestLanguageFaults : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { restoreFolder(); } // a run that was broken off may have left it read-only
     void init()
     {
         put(languagefolder::file("Other.json"), languagefolder::marked("+"));
