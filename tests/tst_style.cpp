@@ -25,15 +25,17 @@ void TestStyle::sheetIsSetWhenItDiffers()
 {
     QLabel label;
     label.installEventFilter(this);
+    label.ensurePolished();
     style::apply(&label, style::labelText(true));
     QCOMPARE(label.styleSheet(), style::labelText(true));
-    QCOMPARE(changes, 1);
+    QVERIFY(changes > 0);
     // A sheet that is there already isn't read again.
+    changes = 0;
     style::apply(&label, style::labelText(true));
-    QCOMPARE(changes, 1);
+    QCOMPARE(changes, 0);
     style::apply(&label, style::labelText(false));
     QCOMPARE(label.styleSheet(), style::labelText(false));
-    QCOMPARE(changes, 2);
+    QVERIFY(changes > 0);
     style::apply(&label, QString());
     QCOMPARE(label.styleSheet(), QString());
 }

@@ -156,12 +156,17 @@ Walker::Action Walker::changeLanguage()
     pressLanguageBox();
     const MainDialog &dialog = installer.window.dialog;
     auto *list = Window::find<QListWidget>(dialog.members().languageMenuWidget, "listWidget");
-    auto *row = list->itemWidget(list->item(dice(list->count())));
-    const QString name = qobject_cast<LanguageItem *>(row)->language();
-    Window::click(row, "labelLanguage");
+    QListWidgetItem *item = list->item(dice(list->count()));
+    list->scrollToItem(item);
+    const QString name = qobject_cast<LanguageItem *>(list->itemWidget(item))->language();
+    Window::click(list->itemWidget(item), "labelLanguage");
     Action action{QStringLiteral("language ") + name, {Happening::Nothing, 0, QStringLiteral("language")}};
-    const QString mark = name == QLatin1String("Marked") ? QStringLiteral("~") : QString();
-    if (Window::find<QLabel>(&dialog, "labelLanguage")->text() != QStringLiteral("Language") + mark
+    const QJsonObject texts = QJsonDocument::fromJson(
+                                  testfiles::content(languagefolder::file(name + QStringLiteral(".json"))))
+                                  .object();
+    if (Window::find<QLabel>(&dialog, "labelLanguage")->text()
+            != texts.value(QStringLiteral("Language")).toString()
+        || Window::find<QLabel>(&dialog, "labelCurrentLanguage")->text() != name
         || dialog.members().languageMenuOpen) {
         action.complaints.append(QStringLiteral("the language isn't in force"));
     }

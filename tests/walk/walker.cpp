@@ -36,6 +36,11 @@ bool covers(const QStringList &allowed, const QString &path)
 Walker::Languages::Languages()
 {
     languagefolder::restore();
+    const QDir delivered(QStringLiteral(LANGUAGES_DIR));
+    const auto files = delivered.entryList({QStringLiteral("*.json")});
+    for (const QString &file : files) {
+        testfiles::put(languagefolder::file(file), testfiles::content(delivered.filePath(file)));
+    }
     testfiles::put(languagefolder::file(QStringLiteral("Marked.json")),
                    languagefolder::marked(QStringLiteral("~")));
 }

@@ -75,7 +75,7 @@ private:
                                    const QStringList &mayWrite) const;
     int dice(int sides) { return random.bounded(sides); }
 
-    /// Before the window, which reads it: English, and a language whose texts are all marked.
+    /// Before the window, which reads them: those delivered, and one whose texts are all marked.
     struct Languages {
         Languages();
     } languages;
