@@ -46,7 +46,8 @@ bool takeAll(const QString &folder, const QString &refrigerant)
     Window window;
     window.dialog.resize(1440, 800);
     bool saved = true;
-    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         Tour::settle();
         saved = take(window.dialog, QStringLiteral("%1/%2-%3").arg(folder, refrigerant.toLower(), stop.name))

@@ -143,7 +143,8 @@ void TestContrast::textsStandOut()
 {
     QFETCH(QString, refrigerant);
     Window window;
-    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         Tour::settle();
         do {

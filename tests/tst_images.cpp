@@ -142,7 +142,8 @@ void TestImages::initTestCase()
 void TestImages::collect(const QString &refrigerant)
 {
     Window window;
-    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         Tour::settle();
         collectFrom(&window.dialog);

@@ -115,7 +115,8 @@ void TestKeyboard::tabReadsThePage()
     QFETCH(QString, refrigerant);
     Window window;
     QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
-    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         Tour::settle();
         Window::find(&window.dialog, "newButton")->setFocus();
@@ -182,7 +183,8 @@ void TestKeyboard::arrowsChooseAsClicksDo()
     Window window;
     QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
     int groups = 0;
-    for (const Tour::Stop &stop : Tour(window, refrigerant).stops()) {
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         const auto radios = window.dialog.findChildren<QRadioButton *>();
         for (QRadioButton *radio : radios) {

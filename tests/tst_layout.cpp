@@ -74,7 +74,8 @@ void TestLayout::hasRoom()
         window.speak(measure::lengthened);
     }
     int faults = 0;
-    for (const Tour::Stop &stop : Tour(window, refrigerant, unit).stops()) {
+    Tour tour(window, refrigerant, unit);
+    for (const Tour::Stop &stop : tour.stops()) {
         stop.show();
         Tour::settle();
         faults += told(stop.name,

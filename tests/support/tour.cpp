@@ -28,7 +28,7 @@ Tour::Tour(Window &shown, QString refrigerantName, QString shownUnit)
 {
 }
 
-std::vector<Tour::Stop> Tour::stops()
+std::vector<Tour::Stop> Tour::stops() &
 {
     const auto tab = [this](int index) { return [this, index] { showTab(index); }; };
     const auto dipSwitch = [this] { window.showPage(MainDialog::DipSwitchPage); };

@@ -17,8 +17,9 @@ public:
     /// A tour of the default document of "R32" or "R410", with the temperatures in `unit`.
     Tour(Window &shown, QString refrigerantName, QString shownUnit = QStringLiteral("CENTIGRADE"));
 
-    /// In the order in which they are to be shown: a stop builds on those before it.
-    std::vector<Stop> stops();
+    /// In the order in which they are to be shown: a stop builds on those before it. They belong to this
+    /// tour, which must outlive them.
+    std::vector<Stop> stops() &;
 
     /// Lets the layouts settle: parts that a page hides while it is shown leave their places layout by
     /// layout.
