@@ -4,6 +4,9 @@
 
 namespace {
 
+/// Where a list ends whose limits in a damaged document lie far apart.
+constexpr int longest = 1000;
+
 ComboRule::Items temperatures(const comborules::LimitsOf &limits)
 {
     return [limits](const Scene &scene) -> std::optional<QStringList> {
@@ -14,8 +17,8 @@ ComboRule::Items temperatures(const comborules::LimitsOf &limits)
         const bool fahrenheit = scene.fahrenheit();
         const int last = fahrenheit ? degrees::fahrenheit(range.high) : range.high;
         QStringList items;
-        for (int shown = fahrenheit ? degrees::fahrenheit(range.low) : range.low; shown <= last;
-             shown += fahrenheit ? 2 : 1) {
+        for (qint64 shown = fahrenheit ? degrees::fahrenheit(range.low) : range.low;
+             shown <= last && items.size() < longest; shown += fahrenheit ? 2 : 1) {
             items.append(QString::number(shown) + (fahrenheit ? QStringLiteral("°F") : QStringLiteral("°C")));
         }
         return items;
