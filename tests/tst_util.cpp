@@ -1,6 +1,7 @@
 #include "document/util.h"
 #include "support/documents.h"
 #include "support/messages.h"
+#include "support/pathrules.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -29,98 +30,6 @@ QByteArray compact(const QJsonDocument &document) { return document.toJson(QJson
 
 constexpr auto plain = "{'a':{'b':{'c':'x','d':7},'e':'y'},'list':[10,{'n':{'m':1}},[3,4]],'nothing':null,"
                        "'text':'z','':{'':'empty'}}";
-
-// The same rules told a second time, slowly: a path is cut into all its parts first.
-
-struct Part {
-    QString name;
-    int index = 0;
-    bool bracket = false;
-};
-
-QVector<Part> parts(QString path)
-{
-    QVector<Part> result;
-    while (true) {
-        const QStringList dots = path.split(QLatin1Char('.'));
-        const int open = path.indexOf(QLatin1Char('['));
-        const int close = path.indexOf(QLatin1Char(']'));
-        Part part;
-        if (open >= 0 && close > open) {
-            part.index = path.mid(open + 1, close - open - 1).toInt();
-        }
-        QString rest;
-        if (dots.first().contains(QLatin1Char('['))) {
-            part.bracket = true;
-            part.name = path.left(open);
-            rest = close > 0 ? path.mid(close + 1) : QString();
-            rest = rest.startsWith(QLatin1Char('.')) ? rest.mid(1) : rest;
-        } else {
-            part.name = dots.first();
-            rest = part.name.isEmpty() ? QString() : dots.mid(1).join(QLatin1Char('.'));
-        }
-        result.append(part);
-        if (rest.isEmpty()) {
-            return result;
-        }
-        path = rest;
-    }
-}
-
-QJsonValue referenceRead(QJsonValue at, const QVector<Part> &path)
-{
-    for (const Part &part : path) {
-        at = at.toObject().contains(part.name) ? at.toObject().value(part.name) : QJsonValue();
-        if (part.bracket && at.isArray()) {
-            return {};
-        }
-    }
-    return at;
-}
-
-QJsonValue referenceWrite(const QJsonValue &at, const QVector<Part> &path, const QJsonValue &written)
-{
-    const Part &part = path.first();
-    const QVector<Part> rest = path.mid(1);
-    QJsonArray array = at.toArray();
-    QJsonObject object = at.toObject();
-    if (!at.isArray() && !at.isObject()) {
-        return written;
-    }
-    const auto there = [](const QJsonArray &list, int index) { return index >= 0 && index < list.size(); };
-    QJsonValue sub;
-    if (at.isArray() && there(array, part.name.toInt())) {
-        sub = array.at(part.name.toInt());
-    } else if (object.contains(part.name)) {
-        sub = object.value(part.name);
-    }
-    QJsonValue changed = written;
-    if (!rest.isEmpty() && sub.isArray()) {
-        QJsonArray inner = sub.toArray();
-        if (there(inner, part.index)) {
-            inner[part.index] = referenceWrite(inner.at(part.index), rest, written);
-        }
-        changed = inner;
-    } else if (!rest.isEmpty() && sub.isObject()) {
-        changed = referenceWrite(sub, rest, written);
-    }
-    if (at.isObject()) {
-        if (changed.isNull()) {
-            object.remove(part.name);
-        } else {
-            object[part.name] = changed;
-        }
-        return object;
-    }
-    if (there(array, part.index)) {
-        if (changed.isNull()) {
-            array.removeAt(part.index);
-        } else {
-            array[part.index] = changed;
-        }
-    }
-    return array;
-}
 
 } // namespace
 
@@ -465,13 +374,13 @@ void TestUtil::agreesWithTheSlowRules()
         }
         const QJsonDocument before = root.isArray() ? QJsonDocument(root.toArray())
                                                     : QJsonDocument(root.toObject());
-        QVERIFY2(Util::readJsonValue(before, path) == referenceRead(before.object(), parts(path)),
+        QVERIFY2(Util::readJsonValue(before, path) == pathrules::read(before.object(), path),
                  qPrintable(path));
 
         const QJsonValue &written = values.at(dice.bounded(values.size()));
         QJsonDocument after = before;
         Util::modifyJsonValue(after, path, written);
-        root = referenceWrite(root, parts(path), written);
+        root = pathrules::write(root, path, written);
         QVERIFY2(root == (after.isArray() ? QJsonValue(after.array()) : QJsonValue(after.object())),
                  qPrintable(path + QLatin1Char(' ') + QString::fromUtf8(compact(before))));
         messages::clear();
