@@ -20,3 +20,8 @@ if(CALORA_COVERAGE)
     target_compile_options(calora-flags INTERFACE --coverage)
     target_link_options(calora-flags INTERFACE --coverage)
 endif()
+
+option(CALORA_FUZZ "Build the fuzzers in place of the tests; needs clang" OFF)
+if(CALORA_FUZZ)
+    target_compile_options(calora-flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()

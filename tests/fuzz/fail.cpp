@@ -1,0 +1,10 @@
+#include "fuzz/target.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+void fail(const char *what, const QByteArray &detail)
+{
+    std::fprintf(stderr, "fault: %s\n%s\n", what, detail.constData());
+    std::abort();
+}
