@@ -3,6 +3,8 @@
 #include "support/tour.h"
 
 #include <QDir>
+#include <QFile>
+#include <QJsonDocument>
 #include <QScrollArea>
 
 #include <cstdio>
@@ -41,10 +43,14 @@ bool take(MainDialog &dialog, const QString &path)
     return saved;
 }
 
-bool takeAll(const QString &folder, const QString &refrigerant)
+bool takeAll(const QString &folder, const QString &refrigerant, const QJsonDocument &language)
 {
     Window window;
     window.dialog.resize(1440, 800);
+    if (!language.isEmpty()) {
+        window.dialog.setLanguageDocument(language);
+        window.dialog.changeLanguage();
+    }
     bool saved = true;
     Tour tour(window, refrigerant);
     for (const Tour::Stop &stop : tour.stops()) {
@@ -63,14 +69,18 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2 || !QDir().mkpath(arguments.last())) {
-        std::fputs("usage: pictures FOLDER\n", stderr);
+    if (arguments.size() < 2 || arguments.size() > 3 || !QDir().mkpath(arguments.at(1))) {
+        std::fputs("usage: pictures FOLDER [LANGUAGE FILE]\n", stderr);
         return 2;
     }
+    QFile language(arguments.value(2));
+    const QJsonDocument texts = language.open(QIODevice::ReadOnly)
+        ? QJsonDocument::fromJson(language.readAll())
+        : QJsonDocument();
     prepareApplication();
     bool saved = true;
     for (const char *refrigerant : {"R32", "R410"}) {
-        saved = takeAll(arguments.last(), QLatin1String(refrigerant)) && saved;
+        saved = takeAll(arguments.at(1), QLatin1String(refrigerant), texts) && saved;
     }
     return saved ? 0 : 1;
 }
