@@ -5,8 +5,6 @@
 
 namespace {
 
-using comborules::atIndex;
-using comborules::kelvin;
 using comborules::plain;
 using comborules::temperature;
 

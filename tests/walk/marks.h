@@ -25,7 +25,7 @@ struct Happening {
 class Marks
 {
 public:
-    Marks(const MainDialog &dialog, const Scene &scene);
+    Marks(const MainDialog &window, const Scene &now);
 
     /// Takes the flags as they stand before an action.
     void before();

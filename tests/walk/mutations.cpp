@@ -127,8 +127,8 @@ QByteArray nonsense(QRandomGenerator &random)
                                  "[]",
                                  "[1,2]",
                                  "Heat pump, cellar",
-                                 "{\"product\":\"awhp\"}",
-                                 "{\"IduFuncList\":\"SET\",\"SettingInfo\":{}}"};
+                                 R"({"product":"awhp"})",
+                                 R"({"IduFuncList":"SET","SettingInfo":{}})"};
     return pick(random, files);
 }
 

@@ -87,7 +87,7 @@ QString Scene::nameOf(const QWidget *widget)
             return QLatin1String(page->metaObject()->className()) + QLatin1Char('/') + widget->objectName();
         }
     }
-    return QString();
+    return {};
 }
 
 bool Scene::isOpen(const QString &page) const

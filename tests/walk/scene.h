@@ -12,7 +12,7 @@ class MainDialog;
 class Scene
 {
 public:
-    explicit Scene(MainDialog &dialog);
+    explicit Scene(MainDialog &window);
 
     /// Takes document, unit and language as they stand now.
     void look();

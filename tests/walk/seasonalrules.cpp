@@ -161,7 +161,7 @@ QString groupOf(const QString &name)
             return QLatin1String(group);
         }
     }
-    return QString();
+    return {};
 }
 
 } // namespace

@@ -41,7 +41,7 @@ QString checkedOf(const Scene &scene, const QStringList &radios)
             return name.section(QLatin1Char('/'), 1);
         }
     }
-    return QString();
+    return {};
 }
 
 /// A meter's pulses are kept in tenths.
