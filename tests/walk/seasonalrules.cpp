@@ -196,7 +196,7 @@ QStringList SeasonalRules::complaints(const Scene &scene)
         const QString expected = loadedText(scene, box);
         const bool isLost = lost.contains(name) && exceptions::note("seasonal blank");
         const bool isZero = widget.currentIndex() < 0 || degrees::of(scene, widget.currentText()) == 0
-            || widget.currentText() == QLatin1String("0°F");
+            || widget.currentText() == QStringLiteral("0°F");
         if (isLost ? !isZero : widget.currentText() != expected && !exceptions::excuse(scene, name)) {
             result.append(
                 QStringLiteral("%1 shows \"%2\" for \"%3\"").arg(name, widget.currentText(), expected));
