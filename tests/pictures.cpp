@@ -74,9 +74,8 @@ int main(int argc, char *argv[])
         return 2;
     }
     QFile language(arguments.value(2));
-    const QJsonDocument texts = language.open(QIODevice::ReadOnly)
-        ? QJsonDocument::fromJson(language.readAll())
-        : QJsonDocument();
+    const bool translated = arguments.size() == 3 && language.open(QIODevice::ReadOnly);
+    const QJsonDocument texts = translated ? QJsonDocument::fromJson(language.readAll()) : QJsonDocument();
     prepareApplication();
     bool saved = true;
     for (const char *refrigerant : {"R32", "R410"}) {
