@@ -77,10 +77,14 @@ void UserLanguageEditPopup::loadLanguageFile(const QString &filePath)
 void UserLanguageEditPopup::searchText(const QString &text)
 {
     const QString wanted = text.toUpper();
+    // In a shown list each row that comes back would ask the display where the mouse is.
+    ui->listWidget->hide();
     for (int index = 0; index < ui->listWidget->count(); ++index) {
         const auto *row = static_cast<LetterItem *>(ui->listWidget->itemWidget(ui->listWidget->item(index)));
         ui->listWidget->setRowHidden(index, !row->editText().toUpper().contains(wanted));
     }
+    ui->listWidget->doItemsLayout();
+    ui->listWidget->show();
 }
 
 void UserLanguageEditPopup::returnSearchText() { searchText(ui->searchLineEdit->text()); }
