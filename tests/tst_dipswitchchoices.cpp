@@ -61,17 +61,18 @@ void TestDipSwitchChoices::controlWrites_data()
     row("radioFlowAlways", "radioFlowOnlyPump", "00000000 0000", flags("is_flow_switch CLR"));
     row("radioFlowOnlyPump", "radioFlowAlways", "00001000 0000", flags("is_flow_switch SET"));
     row("radioElectricHeaterNotuse", "radioElectricHeaterBoth", "00000000 0000",
-        joined(flags(noHeater), seasonalDefaults()));
+        documents::joined(flags(noHeater), seasonalDefaults()));
     row("radioElectricHeater1", "radioElectricHeaterBoth", "00000100 0000",
-        joined(flags(heater + "is_heater1 SET is_heater2 CLR is_timer_hotwater SET"), seasonalDefaults()));
+        documents::joined(flags(heater + "is_heater1 SET is_heater2 CLR is_timer_hotwater SET"),
+                          seasonalDefaults()));
     row("radioElectricHeaterBoth", "radioElectricHeaterNotuse", "00000110 0000",
-        joined(flags(heater + "is_heater1 CLR is_heater2 SET"), seasonalDefaults()));
+        documents::joined(flags(heater + "is_heater1 CLR is_heater2 SET"), seasonalDefaults()));
     row("radioThermostatNone", "radioThermostatUse", "00000000 0000", flags("is_ThermostatModeChange CLR"));
     row("radioThermostatUse", "radioThermostatNone", "00000001 0000", flags("is_ThermostatModeChange SET"));
     row("radioAdditionalAirNotUse", "radioAdditionalAirUse", "00000000 0000",
-        joined(flags("isIduAirTempSW CLR"), {{airTempLocation, "RMC"}}));
+        documents::joined(flags("isIduAirTempSW CLR"), {{airTempLocation, "RMC"}}));
     row("radioAdditionalAirUse", "radioAdditionalAirNotUse", "00000000 1000",
-        joined(flags("isIduAirTempSW SET"), {{airTempLocation, "RMC"}}));
+        documents::joined(flags("isIduAirTempSW SET"), {{airTempLocation, "RMC"}}));
     row("radioAntifreezeNotuse", "radioAntifreezeUse", "00000000 0000", flags("isAntiFreeze CLR"));
     row("radioAntifreezeUse", "radioAntifreezeNotuse", "00000000 0100", flags("isAntiFreeze SET"));
     row("radioOrvometerInterfaceNotuse", "radioOrvoAddressB1", "00000000 0000",

@@ -111,7 +111,7 @@ void TestDipSwitchLoad::showsHotWater()
     QFETCH(QString, radio);
     QFETCH(QString, pair);
     load({{"product", product}});
-    load(joined(flags(values), {{"product", product}}));
+    load(documents::joined(flags(values), {{"product", product}}));
     QCOMPARE(checkedOf("radioDhwNotUse radioDhwUse radioDhwOnly"), radio);
     QCOMPARE(bank(2).mid(1, 2), pair);
 }
@@ -140,7 +140,7 @@ void TestDipSwitchLoad::showsSolarKit()
     QFETCH(QString, values);
     QFETCH(QString, radio);
     QFETCH(QString, pair);
-    load(joined(flags(values), {{"product", "aquabox"}}));
+    load(documents::joined(flags(values), {{"product", "aquabox"}}));
     QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"), radio);
     QCOMPARE(bank(2).mid(1, 2), pair);
     const bool offered = !radio.isEmpty();
@@ -252,7 +252,8 @@ void TestDipSwitchLoad::showsElectricHeater()
     QFETCH(QString, radio);
     QFETCH(QString, pair);
     QFETCH(QVariantMap, written);
-    const QVariantMap marked = joined(marks(), joined(flags(values), {{meter + "interfaceAdd", 0}}));
+    const QVariantMap marked = documents::joined(
+        marks(), documents::joined(flags(values), {{meter + "interfaceAdd", 0}}));
     load(marked);
     QCOMPARE(
         documents::changes(documents::with(documents::standard("R32"), marked), window->dialog.document()),
@@ -311,7 +312,7 @@ void TestDipSwitchLoad::unknownAddressLeavesTheAddressRadios()
 void TestDipSwitchLoad::productDecidesWhatIsShown()
 {
     const QVariantMap odu = flags("isOduFunctionMS SET");
-    load(joined(odu, {{"product", "Aquabox"}}));
+    load(documents::joined(odu, {{"product", "Aquabox"}}));
     QVERIFY(Window::visible(page, "radioDhwOnly"));
     QVERIFY(!Window::shownItself(page, "labelDhwSpacing"));
     QVERIFY(Window::visible(page, "groupBoxOduFunctionMaster"));
@@ -321,7 +322,7 @@ void TestDipSwitchLoad::productDecidesWhatIsShown()
         QVERIFY(Window::find(page, name)->isEnabledTo(Window::find(page, "groupBoxSilentModePriority")));
     }
 
-    load(joined(odu, {{"product", "Awhp"}}));
+    load(documents::joined(odu, {{"product", "Awhp"}}));
     QVERIFY(!Window::shownItself(page, "radioDhwOnly"));
     QVERIFY(Window::shownItself(page, "labelDhwSpacing"));
     // Two radios take the room of two radios.
@@ -345,7 +346,7 @@ void TestDipSwitchLoad::unknownProductLeavesTheControls()
         QCOMPARE(Window::shownItself(page, "radioDhwOnly"), aquabox);
         QCOMPARE(Window::shownItself(page, "labelDhwSpacing"), !aquabox);
         QVERIFY(!Window::shownItself(page, "groupBoxOduFunctionMaster"));
-        load(joined(flags("isOduFunctionMS SET"), {{"product", "boiler"}}));
+        load(documents::joined(flags("isOduFunctionMS SET"), {{"product", "boiler"}}));
         QVERIFY(Window::visible(page, "groupBoxOduFunctionMaster"));
     }
 }
@@ -367,7 +368,7 @@ void TestDipSwitchLoad::showsOduFunction_data()
     QTest::addColumn<bool>("group");
     QTest::addColumn<QString>("radios");
     QTest::addColumn<bool>("silentGroup");
-    const auto with = [](const QVariantMap &values) { return joined(everything(), values); };
+    const auto with = [](const QVariantMap &values) { return documents::joined(everything(), values); };
     const QString read = QStringLiteral("SettingInfo.installation.OduFunctionMs");
     QTest::newRow("master, switch") << with({}) << true << "radioOduMaster radioSilentODU" << true;
     QTest::newRow("master, controller")

@@ -22,7 +22,7 @@ QVariantMap aquabox(const QVariantMap &more = {})
                              "isKnightModel", "isWaterFlowRate", "isLeakRefrigerant"}) {
         values.insert(flag(name), "SET");
     }
-    return joined(values, more);
+    return documents::joined(values, more);
 }
 
 QString radioStyle(const char *colour)
@@ -169,16 +169,7 @@ void TestInstallationAquabox::textsFollowTheLanguage_data()
     QTest::newRow("radioRefrigerantUse") << "Use";
 }
 
-void TestInstallationAquabox::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(module, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    section->window.speak("~");
-    const QString marked = widget->property("text").toString();
-    section->window.speak();
-    QCOMPARE(marked, QString(text + QLatin1Char('~')));
-}
+void TestInstallationAquabox::textsFollowTheLanguage() { section->window.followsTheLanguage(module); }
 
 void TestInstallationAquabox::languageKeepsPositions()
 {

@@ -303,7 +303,7 @@ void TestInstallationAwhp::boostHeaterSetsTheHotWaterLimit()
 {
     QFETCH(QString, before);
     QFETCH(QString, word);
-    load(joined(heatPumpGroups(), {{tankHeater, before}, {hotWaterLimit, 55}}));
+    load(documents::joined(heatPumpGroups(), {{tankHeater, before}, {hotWaterLimit, 55}}));
     open();
     order.clear();
     QObject context;
@@ -335,7 +335,7 @@ void TestInstallationAwhp::onlyThoseTwoRefresh()
 
 void TestInstallationAwhp::closedSectionWritesNothing()
 {
-    load(joined(heatPumpGroups(), {{boilerUse, "SET"}}));
+    load(documents::joined(heatPumpGroups(), {{boilerUse, "SET"}}));
     QSignalSpy saved(awhp, &InstallationSystemAWHP::saveJsonValue);
     const QVariantMap changes = section->window.changes([this] {
         for (const char *radio : {"radio2ndUse", "radioSgUse", "radioWaterTankHeaterMode", "radio3rdUse"}) {
@@ -397,7 +397,7 @@ void TestInstallationAwhp::requiresARadioOfEachPair()
 {
     QFETCH(QVariantMap, values);
     QFETCH(QByteArray, radio);
-    load(joined(heatPumpGroups(), values));
+    load(documents::joined(heatPumpGroups(), values));
     QVERIFY(section->members().systemSectionValid);
     open();
     QVERIFY(!section->members().systemSectionValid);
@@ -421,13 +421,13 @@ void TestInstallationAwhp::checksItsPairsInOrder()
 {
     // The heater priority is unchecked only until a first word is loaded.
     renew();
-    load(joined(heatPumpGroups(),
-                {{secondCircuit, "x"},
-                 {boilerUse, "x"},
-                 {installation("extWaterPump"), "x"},
-                 {installation("EH_BH_priority"), "x"},
-                 {installation("smartGrid.smartGridUse"), "x"},
-                 {tankHeater, "x"}}));
+    load(documents::joined(heatPumpGroups(),
+                           {{secondCircuit, "x"},
+                            {boilerUse, "x"},
+                            {installation("extWaterPump"), "x"},
+                            {installation("EH_BH_priority"), "x"},
+                            {installation("smartGrid.smartGridUse"), "x"},
+                            {tankHeater, "x"}}));
     open();
     for (const auto &[first, second] : std::initializer_list<std::pair<const char *, const char *>>{
              {"radio2ndNotuse", "radio2ndUse"},

@@ -108,27 +108,18 @@ void TestInstallationAwhpValues::textsFollowTheLanguage_data()
     QTest::newRow("label3rdHysterisis") << "Hysteresis";
 }
 
-void TestInstallationAwhpValues::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(awhp, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    section->window.speak("~");
-    const QString marked = widget->property("text").toString();
-    section->window.speak();
-    QCOMPARE(marked, QString(text + QLatin1Char('~')));
-}
+void TestInstallationAwhpValues::textsFollowTheLanguage() { section->window.followsTheLanguage(awhp); }
 
 void TestInstallationAwhpValues::languageKeepsPositions()
 {
-    load(joined(heatPumpGroups(),
-                {{secondCircuit, "SET"},
-                 {boilerUse, "SET"},
-                 {boilerMode, "AUTO"},
-                 {installation("hotWaterTankHeater.tankHeaterPriority"), "HP_BH_BOTH"},
-                 {installation("smartGrid.smartGridMode"), 2},
-                 {installation("pumpPreOverRun.preRun"), 4},
-                 {installation("pumpPreOverRun.overRun"), 5}}));
+    load(documents::joined(heatPumpGroups(),
+                           {{secondCircuit, "SET"},
+                            {boilerUse, "SET"},
+                            {boilerMode, "AUTO"},
+                            {installation("hotWaterTankHeater.tankHeaterPriority"), "HP_BH_BOTH"},
+                            {installation("smartGrid.smartGridMode"), 2},
+                            {installation("pumpPreOverRun.preRun"), 4},
+                            {installation("pumpPreOverRun.overRun"), 5}}));
     open();
     QStringList texts;
     const QVariantMap changes = section->window.changes([this] { section->window.speak("~"); });
@@ -254,7 +245,7 @@ void TestInstallationAwhpValues::writes()
     QFETCH(QString, item);
     QFETCH(QVariantMap, before);
     QFETCH(QVariantMap, after);
-    load(joined(heatPumpGroups(), before));
+    load(documents::joined(heatPumpGroups(), before));
     open();
     messages::clear();
     QCOMPARE(section->window.changes([&] {
@@ -291,8 +282,9 @@ void TestInstallationAwhpValues::writesInFahrenheit()
     QFETCH(QByteArray, control);
     QFETCH(QString, item);
     QFETCH(QVariantMap, after);
-    load(joined(heatPumpGroups(),
-                {{secondCircuit, "SET"}, {boilerUse, "SET"}, {boilerMode, "AUTO"}, {antiFreeze, "STEP4"}}),
+    load(documents::joined(
+             heatPumpGroups(),
+             {{secondCircuit, "SET"}, {boilerUse, "SET"}, {boilerMode, "AUTO"}, {antiFreeze, "STEP4"}}),
          "R32", "FAHRENHEIT");
     open();
     QCOMPARE(section->window.changes([&] { Window::choose(awhp, control.constData(), item); }), after);
@@ -423,7 +415,7 @@ void TestInstallationAwhpValues::checksRadios()
     QFETCH(QStringList, radios);
     QFETCH(QString, checked);
     load(heatPumpGroups());
-    load(joined(heatPumpGroups(), {{path, word}}));
+    load(documents::joined(heatPumpGroups(), {{path, word}}));
     for (const QString &radio : qAsConst(radios)) {
         QCOMPARE(Window::checked(awhp, qPrintable(radio)), radio == checked);
     }

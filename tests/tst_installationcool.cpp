@@ -9,7 +9,6 @@
 using water::airAndWater;
 using water::Driver;
 using water::flag;
-using water::joined;
 using water::mainZone;
 using water::root;
 using water::seasons;
@@ -173,15 +172,7 @@ void TestInstallationCool::textsFollowTheLanguage_data()
     QTest::newRow("labelOpeartionOff") << "OFF time";
 }
 
-void TestInstallationCool::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(driver->page, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    driver->window.speak(QStringLiteral("~"));
-    QCOMPARE(widget->property("text").toString(), text + QLatin1Char('~'));
-    driver->window.speak();
-}
+void TestInstallationCool::textsFollowTheLanguage() { driver->window.followsTheLanguage(driver->page); }
 
 // Showing and refreshing the section set the captions too.
 void TestInstallationCool::constantIsNamedByCircuits()
@@ -261,13 +252,13 @@ void TestInstallationCool::writes_data()
     row("comboWaterPumpOnTimer", {}, "10min", {{pump + "timeOn", 10}});
     row("comboWaterPumpOffTimer", {}, "60min", {{pump + "time", 60}});
     const QVariantMap before = seasons(1, 2, 3, 4);
-    row("radioFanCoilNotuse", joined(before, {{fanCoil, "CLR"}}), "",
-        joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}}));
+    row("radioFanCoilNotuse", documents::joined(before, {{fanCoil, "CLR"}}), "",
+        documents::joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}}));
     row("radioFanCoilUse", before, "", {{fanCoil, "CLR"}});
     row("comboReferenceWater", before, "Inlet",
-        joined(seasons(20, 20, 28, 35), {{basis, "ENTRANCE"}, {lowLimit, 20}}));
-    row("comboReferenceWater", joined(before, {{basis, "ENTRANCE"}, {lowLimit, 20}}), "Outlet",
-        joined(seasons(16, 20, 28, 35), {{basis, "EXIT"}}));
+        documents::joined(seasons(20, 20, 28, 35), {{basis, "ENTRANCE"}, {lowLimit, 20}}));
+    row("comboReferenceWater", documents::joined(before, {{basis, "ENTRANCE"}, {lowLimit, 20}}), "Outlet",
+        documents::joined(seasons(16, 20, 28, 35), {{basis, "EXIT"}}));
 }
 
 void TestInstallationCool::writes()
@@ -387,13 +378,13 @@ void TestInstallationCool::listsOffer_data()
     row("comboControlMainZoneTemp", {}, 18, 24);
     const QVariantMap constants{{constant + "ctrTemp", 20}, {constant + "ctrTempMainZone", 22}};
     row("comboControlWaterTemp", constants, 18, 24);
-    row("comboControlWaterTemp", joined(constants, {{mainZone, "SET"}}), 18, 22);
-    row("comboControlMainZoneTemp", joined(constants, {{mainZone, "set"}}), 20, 24);
+    row("comboControlWaterTemp", documents::joined(constants, {{mainZone, "SET"}}), 18, 22);
+    row("comboControlMainZoneTemp", documents::joined(constants, {{mainZone, "set"}}), 20, 24);
     // A circuit's value beyond the limits leaves the whole list.
     row("comboControlWaterTemp", {{mainZone, "SET"}, {constant + "ctrTempMainZone", 17}}, 18, 24);
     row("comboControlMainZoneTemp", {{mainZone, "SET"}, {constant + "ctrTemp", 25}}, 18, 24);
     row("comboControlMainZoneTemp",
-        joined(constants, {{mainZone, "SET"}, {flag("isWaterCtrBasisAir"), "CLR"}}), 18, 24);
+        documents::joined(constants, {{mainZone, "SET"}, {flag("isWaterCtrBasisAir"), "CLR"}}), 18, 24);
 }
 
 void TestInstallationCool::listsOffer()

@@ -8,7 +8,6 @@
 
 using water::Driver;
 using water::flag;
-using water::joined;
 using water::mainZone;
 using water::root;
 using water::seasons;
@@ -144,16 +143,16 @@ void TestInstallationCoolRules::basisBringsItsRangeAndDefaults()
         QMetaObject::invokeMethod(driver->page, "on_comboReferenceWater_currentTextChanged",
                                   Q_ARG(QString, "x"));
     });
-    QCOMPARE(changes, joined(seasons(20, 20, 28, 35), {{basis, ""}}));
+    QCOMPARE(changes, documents::joined(seasons(20, 20, 28, 35), {{basis, ""}}));
     QCOMPARE(driver->items("comboTemperatureWaterMin"), range(16, 18, "°C"));
     // The defaults go by the exact word.
-    driver->open(joined(seasons(1, 2, 3, 4), {{basis, "exit"}}));
+    driver->open(documents::joined(seasons(1, 2, 3, 4), {{basis, "exit"}}));
     QCOMPARE(driver->run("initSeasonalAutoRange"), seasons(20, 20, 28, 35));
 }
 
 void TestInstallationCoolRules::fanCoilSlotsDiffer()
 {
-    driver->open(joined(seasons(1, 2, 3, 4), {{lowLimit, 18}}));
+    driver->open(documents::joined(seasons(1, 2, 3, 4), {{lowLimit, 18}}));
     QVERIFY(driver->enabled("comboForcerWater"));
     Window::click(driver->page, "radioFanCoilUse");
     QVERIFY(!driver->enabled("comboForcerWater"));
@@ -161,7 +160,7 @@ void TestInstallationCoolRules::fanCoilSlotsDiffer()
     Window::choose(driver->page, "comboTemperatureWaterMin", "7°C");
     // Back without the unit: the range is narrower, and the stored limit comes into it.
     QCOMPARE(driver->click("radioFanCoilNotuse"),
-             joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}, {lowLimit, 16}}));
+             documents::joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}, {lowLimit, 16}}));
     QVERIFY(driver->enabled("comboForcerWater"));
     QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("16°C"));
 }
@@ -205,8 +204,8 @@ void TestInstallationCoolRules::loadInOpenSectionRunsSlots()
 {
     driver->open();
     QSignalSpy signal(driver->page, &InstallationCool::refreshInstallationPageSignal);
-    const QVariantMap values = joined(seasons(1, 2, 3, 4),
-                                      {{basis, "ENTRANCE"}, {lowLimit, 20}, {pump + "time", 0}});
+    const QVariantMap values = documents::joined(seasons(1, 2, 3, 4),
+                                                 {{basis, "ENTRANCE"}, {lowLimit, 20}, {pump + "time", 0}});
     driver->put(values);
     QCOMPARE(driver->refresh(), seasons(20, 20, 28, 35));
     QCOMPARE(signal.size(), 1);

@@ -9,7 +9,6 @@
 using water::airAndWater;
 using water::Driver;
 using water::flag;
-using water::joined;
 using water::mainZone;
 using water::root;
 using water::seasons;
@@ -146,15 +145,7 @@ void TestInstallationHeat::textsFollowTheLanguage_data()
     QTest::newRow("labelOpeartionOff") << "OFF time";
 }
 
-void TestInstallationHeat::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(driver->page, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    driver->window.speak(QStringLiteral("~"));
-    QCOMPARE(widget->property("text").toString(), text + QLatin1Char('~'));
-    driver->window.speak();
-}
+void TestInstallationHeat::textsFollowTheLanguage() { driver->window.followsTheLanguage(driver->page); }
 
 void TestInstallationHeat::constantIsNamedByCircuits()
 {
@@ -225,9 +216,9 @@ void TestInstallationHeat::writes_data()
     row("comboWaterPumpOnTimer", {{pump + "option", "CLR"}}, "10min", {{pump + "timeOn", 10}});
     row("comboWaterPumpOffTimer", {{pump + "option", "CLR"}}, "60min", {{pump + "time", 60}});
     row("comboReferenceWater", seasons(1, 2, 3, 4), "Inlet",
-        joined(seasons(16, 20, 28, 35), {{basis, "ENTRANCE"}, {highLimit, 55}}));
-    row("comboReferenceWater", joined(seasons(1, 2, 3, 4), {{basis, "ENTRANCE"}, {highLimit, 55}}), "Outlet",
-        joined(seasons(16, 20, 28, 35), {{basis, "EXIT"}}));
+        documents::joined(seasons(16, 20, 28, 35), {{basis, "ENTRANCE"}, {highLimit, 55}}));
+    row("comboReferenceWater", documents::joined(seasons(1, 2, 3, 4), {{basis, "ENTRANCE"}, {highLimit, 55}}),
+        "Outlet", documents::joined(seasons(16, 20, 28, 35), {{basis, "EXIT"}}));
 }
 
 void TestInstallationHeat::writes()
@@ -318,8 +309,8 @@ void TestInstallationHeat::listsOffer_data()
     row("comboControlMainZoneTemp", {}, 20, 65);
     const QVariantMap constants{{constant + "ctrTemp", 45}, {constant + "ctrTempMainZone", 30}};
     row("comboControlWaterTemp", constants, 20, 65);
-    row("comboControlWaterTemp", joined(constants, {{mainZone, "SET"}}), 30, 65);
-    row("comboControlMainZoneTemp", joined(constants, {{mainZone, "set"}}), 20, 45);
+    row("comboControlWaterTemp", documents::joined(constants, {{mainZone, "SET"}}), 30, 65);
+    row("comboControlMainZoneTemp", documents::joined(constants, {{mainZone, "set"}}), 20, 45);
     // A circuit's value beyond the limits leaves the whole list.
     row("comboControlWaterTemp", {{mainZone, "SET"}, {constant + "ctrTempMainZone", 70}}, 20, 65);
     row("comboControlMainZoneTemp", {{mainZone, "SET"}, {constant + "ctrTemp", 10}}, 20, 65);

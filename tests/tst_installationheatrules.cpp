@@ -8,7 +8,6 @@
 
 using water::Driver;
 using water::flag;
-using water::joined;
 using water::mainZone;
 using water::root;
 using water::seasons;
@@ -96,12 +95,12 @@ void TestInstallationHeatRules::basisBringsItsRangeAndDefaults()
     Window::choose(driver->page, "comboReferenceWater", "Inlet");
     QCOMPARE(driver->items("comboTemperatureWaterMax"), range(35, 55, "°C"));
     QCOMPARE(driver->shown("comboTemperatureWaterMax"), QStringLiteral("55°C"));
-    driver->open(joined(seasons(1, 2, 3, 4), {{highLimit, 50}}));
+    driver->open(documents::joined(seasons(1, 2, 3, 4), {{highLimit, 50}}));
     const QVariantMap changes = driver->window.changes([this] {
         QMetaObject::invokeMethod(driver->page, "on_comboReferenceWater_currentTextChanged",
                                   Q_ARG(QString, "x"));
     });
-    QCOMPARE(changes, joined(seasons(16, 20, 28, 35), {{basis, ""}}));
+    QCOMPARE(changes, documents::joined(seasons(16, 20, 28, 35), {{basis, ""}}));
 }
 
 void TestInstallationHeatRules::controlTypeEnablesItsConstants()
@@ -143,8 +142,8 @@ void TestInstallationHeatRules::loadInOpenSectionRunsSlots()
 {
     driver->open();
     QSignalSpy signal(driver->page, &InstallationHeat::refreshInstallationPageSignal);
-    driver->put(joined(seasons(1, 2, 3, 4), {{basis, "ENTRANCE"}, {highLimit, 60}}));
-    QCOMPARE(driver->refresh(), joined(seasons(16, 20, 28, 35), {{highLimit, 55}}));
+    driver->put(documents::joined(seasons(1, 2, 3, 4), {{basis, "ENTRANCE"}, {highLimit, 60}}));
+    QCOMPARE(driver->refresh(), documents::joined(seasons(16, 20, 28, 35), {{highLimit, 55}}));
     QCOMPARE(signal.size(), 1);
     driver->put(seasons(1, 2, 3, 4));
     QVERIFY(driver->refresh().isEmpty());

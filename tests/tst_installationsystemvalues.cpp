@@ -95,13 +95,7 @@ void TestInstallationSystemValues::textsFollowTheLanguage_data()
 
 void TestInstallationSystemValues::textsFollowTheLanguage()
 {
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(section->page, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    section->window.speak("~");
-    const QString marked = widget->property("text").toString();
-    section->window.speak();
-    QCOMPARE(marked, QString(text + QLatin1Char('~')));
+    section->window.followsTheLanguage(section->page);
 }
 
 void TestInstallationSystemValues::listsOfTheDefaultDocument_data()

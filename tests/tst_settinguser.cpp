@@ -1,50 +1,14 @@
-#include "support/window.h"
-
-#include "pages/operation/settinguser.h"
+#include "support/usertabtest.h"
 
 #include <QJsonObject>
 
-namespace {
-
-constexpr int unset = -9999;
-const QString user = QStringLiteral("SettingInfo.user.");
-const QString year = user + QStringLiteral("DateInfo.year");
-const QString month = user + QStringLiteral("DateInfo.month");
-const QString mday = user + QStringLiteral("DateInfo.mday");
-const QString summerTime = user + QStringLiteral("summerTime.enable");
-const QString startMonth = user + QStringLiteral("summerTime.start.mon");
-const QString startDay = user + QStringLiteral("summerTime.start.day");
-const QString endMonth = user + QStringLiteral("summerTime.end.mon");
-const QString endDay = user + QStringLiteral("summerTime.end.day");
-const QString brightness = user + QStringLiteral("backlightControl.brightness");
-const QString timer = user + QStringLiteral("backlightControl.dimmTimeSet");
-const QString theme = user + QStringLiteral("themeSet");
-const QString tempConversion = user + QStringLiteral("tempUnit.tempConversion");
-
-const QVariantMap dated{{year, 2024}, {month, 5}, {mday, 6}};
-
-QVariantMap merged(QVariantMap values, const QVariantMap &more)
-{
-    for (auto value = more.begin(); value != more.end(); ++value) {
-        values.insert(value.key(), value.value());
-    }
-    return values;
-}
-
-QStringList headed(const QString &first, int lower, int upper)
-{
-    return QStringList{first} + range(lower, upper, QString());
-}
-
-} // namespace
-
 // The User tab: temperature unit, backlight, date, summer time, theme.
-class TestSettingUser : public QObject
+class TestSettingUser : public UserTabTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { renew(); }
     void init() { messages::clear(); }
     void cleanup() { window->speak(); }
     void cleanupTestCase() { window.reset(); }
@@ -82,36 +46,11 @@ private slots:
     void writesIntoAnEmptyDocument();
 
 private:
-    void show(const QVariantMap &values = {});
-    QComboBox *combo(const char *name) const { return Window::find<QComboBox>(page, name); }
-    QVariantMap changesOf(const char *name, const QString &item) const
-    {
-        return window->changes([&] { Window::choose(page, name, item); });
-    }
-    QVariant stored(const QString &path) const
-    {
-        QJsonValue value;
-        QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
-                                  Q_ARG(QString, path));
-        return value.toVariant();
-    }
-    bool valid() const { return window->dialog.members().userValid; }
-
-    std::unique_ptr<Window> window;
-    SettingUser *page = nullptr;
+    static inline const QString brightness = user + QStringLiteral("backlightControl.brightness");
+    static inline const QString timer = user + QStringLiteral("backlightControl.dimmTimeSet");
+    static inline const QString theme = user + QStringLiteral("themeSet");
+    static inline const QString tempConversion = user + QStringLiteral("tempUnit.tempConversion");
 };
-
-void TestSettingUser::initTestCase()
-{
-    window = std::make_unique<Window>();
-    page = window->page<SettingUser>();
-}
-
-void TestSettingUser::show(const QVariantMap &values)
-{
-    window->use(documents::with(documents::standard("R410"), values));
-    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
-}
 
 // The first test: the page has not been shown yet.
 void TestSettingUser::writesNothingBeforeItIsShown()
@@ -213,14 +152,7 @@ void TestSettingUser::textsFollowTheLanguage_data()
     QTest::newRow("radioBlack") << "Black";
 }
 
-void TestSettingUser::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const QWidget *widget = Window::find(page, QTest::currentDataTag());
-    QCOMPARE(widget->property("text").toString(), text);
-    window->speak("~");
-    QCOMPARE(widget->property("text").toString(), text + "~");
-}
+void TestSettingUser::textsFollowTheLanguage() { window->followsTheLanguage(page); }
 
 void TestSettingUser::listsAtConstruction_data()
 {
@@ -249,7 +181,8 @@ void TestSettingUser::listsAtConstruction()
 
 void TestSettingUser::languageChangeKeepsPositions()
 {
-    show(merged(dated, {{summerTime, "SET"}, {brightness, "BRIGHTNESS20"}, {timer, "BACKLIGHT60S"}}));
+    show(documents::joined(dated,
+                           {{summerTime, "SET"}, {brightness, "BRIGHTNESS20"}, {timer, "BACKLIGHT60S"}}));
     struct Expected {
         const char *name;
         QStringList items;
@@ -284,7 +217,7 @@ void TestSettingUser::languageChangeSelectsWhereNothingWas()
 void TestSettingUser::otherLanguageLoadsAndSaves()
 {
     window->speak("~");
-    show(merged(dated, {{summerTime, "SET"}, {timer, "BACKLIGHT15S"}}));
+    show(documents::joined(dated, {{summerTime, "SET"}, {timer, "BACKLIGHT15S"}}));
     QCOMPARE(Window::shown(page, "comboScreenSaverTimer"), QStringLiteral("15s~"));
     QCOMPARE(changesOf("comboScreenSaverTimer", "60s~"), (QVariantMap{{timer, "BACKLIGHT60S"}}));
     QCOMPARE(changesOf("comboDateDay", "Day~"), (QVariantMap{{mday, unset}}));
@@ -404,7 +337,7 @@ void TestSettingUser::radiosWrite()
     QFETCH(QString, before);
     QFETCH(QString, word);
     QFETCH(bool, checks);
-    show(merged(dated, {{path, before}}));
+    show(documents::joined(dated, {{path, before}}));
     messages::clear();
     const QVariantMap changes = window->changes([this] { Window::click(page, QTest::currentDataTag()); });
     QCOMPARE(changes, (QVariantMap{{path, word}}));
@@ -458,7 +391,7 @@ void TestSettingUser::combosWrite()
     QFETCH(QString, item);
     QFETCH(QString, path);
     QFETCH(QVariant, value);
-    show(merged(dated, {{summerTime, "SET"}}));
+    show(documents::joined(dated, {{summerTime, "SET"}}));
     QCOMPARE(changesOf(combo.constData(), item), (QVariantMap{{path, value}}));
 }
 
@@ -487,7 +420,7 @@ void TestSettingUser::backlightShows()
     QFETCH(QByteArray, combo);
     QFETCH(QString, path);
     QFETCH(QVariant, value);
-    show(merged(dated, {{path, value}}));
+    show(documents::joined(dated, {{path, value}}));
     QTEST(this->combo(combo.constData())->currentIndex(), "index");
     QTEST(stored(path).toString(), "after");
     QVERIFY(valid());
@@ -495,7 +428,7 @@ void TestSettingUser::backlightShows()
 
 void TestSettingUser::valuesThatAreNotListedPass()
 {
-    show(merged(dated, {{brightness, "BRIGHTNESS50"}, {year, 2014}}));
+    show(documents::joined(dated, {{brightness, "BRIGHTNESS50"}, {year, 2014}}));
     QCOMPARE(combo("comboBrightness")->currentIndex(), -1);
     QCOMPARE(combo("comboDateYear")->currentIndex(), -1);
     QVERIFY(valid());
@@ -543,7 +476,7 @@ void TestSettingUser::chainTakesRadiosFirst()
 
 void TestSettingUser::everyChangeIsChecked()
 {
-    show(merged(dated, {{summerTime, "SET"}}));
+    show(documents::joined(dated, {{summerTime, "SET"}}));
     for (const char *name :
          {"comboScreenSaverTimer", "comboBrightness", "comboDateYear", "comboDateMonth", "comboDateDay",
           "comboStartMonth", "comboStartDay", "comboEndMonth", "comboEndDay"}) {

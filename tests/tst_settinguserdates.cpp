@@ -1,46 +1,14 @@
-#include "support/window.h"
-
-#include "pages/operation/settinguser.h"
+#include "support/usertabtest.h"
 
 #include <QSignalSpy>
 
-namespace {
-
-constexpr int unset = -9999;
-const QString user = QStringLiteral("SettingInfo.user.");
-const QString year = user + QStringLiteral("DateInfo.year");
-const QString month = user + QStringLiteral("DateInfo.month");
-const QString mday = user + QStringLiteral("DateInfo.mday");
-const QString summerTime = user + QStringLiteral("summerTime.enable");
-const QString startMonth = user + QStringLiteral("summerTime.start.mon");
-const QString startDay = user + QStringLiteral("summerTime.start.day");
-const QString endMonth = user + QStringLiteral("summerTime.end.mon");
-const QString endDay = user + QStringLiteral("summerTime.end.day");
-
-const QVariantMap dated{{year, 2024}, {month, 5}, {mday, 6}};
-
-QVariantMap merged(QVariantMap values, const QVariantMap &more)
-{
-    for (auto value = more.begin(); value != more.end(); ++value) {
-        values.insert(value.key(), value.value());
-    }
-    return values;
-}
-
-QStringList headed(const QString &first, int lower, int upper)
-{
-    return QStringList{first} + range(lower, upper, QString());
-}
-
-} // namespace
-
 // The User tab's date and summer time.
-class TestSettingUserDates : public QObject
+class TestSettingUserDates : public UserTabTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { renew(); }
     void init() { messages::clear(); }
     void cleanupTestCase() { window.reset(); }
 
@@ -60,42 +28,11 @@ private slots:
     void summerDatesShow();
     void datesAreSelectedInOrder();
     void daysInLanguageKeepTheIndex();
-
-private:
-    void show(const QVariantMap &values = {});
-    QComboBox *combo(const char *name) const { return Window::find<QComboBox>(page, name); }
-    QVariantMap changesOf(const char *name, const QString &item) const
-    {
-        return window->changes([&] { Window::choose(page, name, item); });
-    }
-    QVariant stored(const QString &path) const
-    {
-        QJsonValue value;
-        QMetaObject::invokeMethod(page, "parseJsonData", Q_RETURN_ARG(QJsonValue, value),
-                                  Q_ARG(QString, path));
-        return value.toVariant();
-    }
-    bool valid() const { return window->dialog.members().userValid; }
-
-    std::unique_ptr<Window> window;
-    SettingUser *page = nullptr;
 };
-
-void TestSettingUserDates::initTestCase()
-{
-    window = std::make_unique<Window>();
-    page = window->page<SettingUser>();
-}
-
-void TestSettingUserDates::show(const QVariantMap &values)
-{
-    window->use(documents::with(documents::standard("R410"), values));
-    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
-}
 
 void TestSettingUserDates::summerTimeOnIsNotChecked()
 {
-    show(merged(dated, {{startMonth, unset}, {startDay, unset}}));
+    show(documents::joined(dated, {{startMonth, unset}, {startDay, unset}}));
     QVERIFY(valid());
     Window::click(page, "radioSummerTimeUse");
     QVERIFY(valid());
@@ -128,9 +65,9 @@ void TestSettingUserDates::summerTimeEnablesItsDates()
 void TestSettingUserDates::summerTimeOffPasses()
 {
     const QVariantMap undated{{startMonth, unset}, {startDay, unset}, {endMonth, unset}, {endDay, unset}};
-    show(merged(dated, merged(undated, {{summerTime, "SET"}})));
+    show(documents::joined(dated, documents::joined(undated, {{summerTime, "SET"}})));
     QVERIFY(!valid());
-    show(merged(dated, undated));
+    show(documents::joined(dated, undated));
     QVERIFY(valid());
     QVERIFY(!Window::shownItself(&window->dialog, "userValidationIcon"));
 }
@@ -148,7 +85,7 @@ void TestSettingUserDates::daysFollowTheMonth()
 {
     QFETCH(int, days);
     // 2024 is a leap year.
-    show(merged(dated, {{summerTime, "SET"}}));
+    show(documents::joined(dated, {{summerTime, "SET"}}));
     const std::vector<std::pair<const char *, const char *>> pairs{{"comboDateMonth", "comboDateDay"},
                                                                    {"comboStartMonth", "comboStartDay"},
                                                                    {"comboEndMonth", "comboEndDay"}};
@@ -208,7 +145,7 @@ void TestSettingUserDates::summerMonthsWriteWhatIsUnset()
     QFETCH(QByteArray, dayCombo);
     QFETCH(QString, monthPath);
     QFETCH(QString, dayPath);
-    show(merged(dated, {{summerTime, "SET"}}));
+    show(documents::joined(dated, {{summerTime, "SET"}}));
     QVERIFY(valid());
     QCOMPARE(changesOf(QTest::currentDataTag(), "Month"),
              (QVariantMap{{monthPath, unset}, {dayPath, unset}}));
@@ -270,7 +207,7 @@ void TestSettingUserDates::dateShows()
              shown);
     QTEST(Window::enabled(page, "comboDateDay"), "dayEnabled");
     QCOMPARE(window->dialog.document(),
-             documents::with(documents::standard("R410"), merged(values, rewritten)));
+             documents::with(documents::standard("R410"), documents::joined(values, rewritten)));
     QCOMPARE(valid(), !shown.contains("Year") && !shown.contains("Month") && !shown.contains("Day"));
 }
 
@@ -306,12 +243,13 @@ void TestSettingUserDates::summerDatesShow()
     QFETCH(QVariantMap, values);
     QFETCH(QStringList, shown);
     QFETCH(QVariantMap, rewritten);
-    const QVariantMap set = merged(values, merged(dated, {{summerTime, "SET"}}));
+    const QVariantMap set = documents::joined(values, documents::joined(dated, {{summerTime, "SET"}}));
     show(set);
     QCOMPARE((QStringList{Window::shown(page, "comboStartMonth"), Window::shown(page, "comboStartDay"),
                           Window::shown(page, "comboEndMonth"), Window::shown(page, "comboEndDay")}),
              shown);
-    QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), merged(set, rewritten)));
+    QCOMPARE(window->dialog.document(),
+             documents::with(documents::standard("R410"), documents::joined(set, rewritten)));
     QCOMPARE(valid(), !shown.contains("Month") && !shown.contains("Day"));
 }
 
@@ -327,13 +265,13 @@ void TestSettingUserDates::datesAreSelectedInOrder()
         QObject::connect(combo(qPrintable(name)), &QComboBox::currentTextChanged, &scope,
                          [&selected, name] { selected.append(name); });
     }
-    show(merged(dated,
-                {{user + "backlightControl.brightness", "BRIGHTNESS30"},
-                 {user + "backlightControl.dimmTimeSet", "BACKLIGHT60S"},
-                 {startMonth, 1},
-                 {startDay, 2},
-                 {endMonth, 3},
-                 {endDay, 4}}));
+    show(documents::joined(dated,
+                           {{user + "backlightControl.brightness", "BRIGHTNESS30"},
+                            {user + "backlightControl.dimmTimeSet", "BACKLIGHT60S"},
+                            {startMonth, 1},
+                            {startDay, 2},
+                            {endMonth, 3},
+                            {endDay, 4}}));
     QCOMPARE(selected, order);
 }
 

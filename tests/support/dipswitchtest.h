@@ -44,14 +44,6 @@ protected:
         return result;
     }
 
-    static QVariantMap joined(QVariantMap first, const QVariantMap &second)
-    {
-        for (auto value = second.begin(); value != second.end(); ++value) {
-            first.insert(value.key(), value.value());
-        }
-        return first;
-    }
-
     /// °C: the eight values that a heater radio brings back.
     static QVariantMap seasonalDefaults()
     {
@@ -66,7 +58,7 @@ protected:
     /// "Ms".
     static QVariantMap everything()
     {
-        return joined(flags("isOduFunctionMS SET isSilentPriority SET"),
+        return documents::joined(flags("isOduFunctionMS SET isSilentPriority SET"),
                       {{"product", "aquabox"},
                        {"SettingInfo.installation.OduFunctionMs", "master"},
                        {meter + "interfaceAdd", 176}});
@@ -87,7 +79,7 @@ protected:
         for (auto path = seasonal.keyBegin(); path != seasonal.keyEnd(); ++path) {
             result.insert(*path, 1);
         }
-        return joined(result,
+        return documents::joined(result,
                       {{meter + "interfaceAdd", 1},
                        {meter + "interface1", 1},
                        {meter + "interface2", 1},

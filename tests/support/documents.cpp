@@ -87,6 +87,14 @@ QJsonDocument documents::with(QJsonDocument document, const QVariantMap &values)
     return document;
 }
 
+QVariantMap documents::joined(QVariantMap values, const QVariantMap &more)
+{
+    for (auto value = more.begin(); value != more.end(); ++value) {
+        values.insert(value.key(), value.value());
+    }
+    return values;
+}
+
 QVariantMap documents::changes(const QJsonDocument &before, const QJsonDocument &after)
 {
     const QVariantMap old = leaves(before);

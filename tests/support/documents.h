@@ -16,6 +16,9 @@ QJsonDocument everything(const QString &refrigerant);
 /// The document with the values set at their paths; an invalid QVariant removes the key.
 QJsonDocument with(QJsonDocument document, const QVariantMap &values);
 
+/// Both maps in one; `more` wins.
+QVariantMap joined(QVariantMap values, const QVariantMap &more);
+
 /// Path -> value of every leaf that differs: the value in `after`, or an invalid QVariant where it is gone.
 QVariantMap changes(const QJsonDocument &before, const QJsonDocument &after);
 

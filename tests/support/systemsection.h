@@ -11,15 +11,6 @@ inline QString installation(const char *key)
 }
 inline QString flag(const char *name) { return QStringLiteral("IduFuncList.") + QLatin1String(name); }
 
-/// Both maps in one; `more` wins.
-inline QVariantMap joined(QVariantMap values, const QVariantMap &more)
-{
-    for (auto value = more.begin(); value != more.end(); ++value) {
-        values.insert(value.key(), value.value());
-    }
-    return values;
-}
-
 /// Flags that show every group of the heat pump section.
 inline QVariantMap heatPumpGroups()
 {

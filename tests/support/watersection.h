@@ -13,14 +13,6 @@ inline const QString airAndWater = root + QStringLiteral("sensorDefine.airAndWat
 
 inline QString flag(const char *name) { return QStringLiteral("IduFuncList.") + QLatin1String(name); }
 
-inline QVariantMap joined(QVariantMap first, const QVariantMap &second)
-{
-    for (auto value = second.begin(); value != second.end(); ++value) {
-        first.insert(value.key(), value.value());
-    }
-    return first;
-}
-
 /// The eight seasonal values.
 inline QVariantMap seasons(int coolMin, int coolMax, int heatMin, int heatMax)
 {
@@ -44,7 +36,7 @@ public:
             Window::expand(page, false);
         }
         const QVariantMap shownAll{{flag("is_cool"), "SET"}, {sensed, "AIR"}, {airAndWater, "SET"}};
-        window.use(documents::with(documents::standard("R32"), joined(shownAll, values)), unit);
+        window.use(documents::with(documents::standard("R32"), documents::joined(shownAll, values)), unit);
         window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
     }
     /// The same, and opens it.

@@ -41,6 +41,17 @@ void Window::speak(const std::function<QString(const QString &)> &translate)
     dialog.changeLanguage();
 }
 
+void Window::followsTheLanguage(const QWidget *page)
+{
+    QFETCH(QString, text);
+    const QWidget *widget = find(page, QTest::currentDataTag());
+    QCOMPARE(widget->property("text").toString(), text);
+    speak(QStringLiteral("~"));
+    const QString marked = widget->property("text").toString();
+    speak();
+    QCOMPARE(marked, QString(text + QLatin1Char('~')));
+}
+
 void Window::showPage(int step, int tab)
 {
     auto *steps = find<QStackedWidget>(&dialog, "stackedWidget");
