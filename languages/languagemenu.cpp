@@ -25,9 +25,11 @@ LanguageMenu::~LanguageMenu() = default;
 
 void LanguageMenu::setLanguageList(const QStringList &names)
 {
+    // The viewport is where a row of a list ends up: moved there later, it would be styled twice.
+    QWidget *parent = ui->listWidget->viewport();
     for (const QString &name : names) {
         auto *item = new QListWidgetItem(ui->listWidget);
-        auto *row = new LanguageItem(ui->listWidget);
+        auto *row = new LanguageItem(parent);
         row->setLanguage(name);
         item->setSizeHint(row->size());
         ui->listWidget->setItemWidget(item, row);

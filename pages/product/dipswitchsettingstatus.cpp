@@ -21,7 +21,9 @@ DipSwitchSettingStatus::~DipSwitchSettingStatus() = default;
 
 bool DipSwitchSettingStatus::event(QEvent *event)
 {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+    const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+    // A page that isn't shown isn't measured: the start would pay for it.
+    if (moved && isVisibleTo(window())) {
         placeColumns();
     }
     return Page::event(event);
@@ -43,6 +45,7 @@ void DipSwitchSettingStatus::placeColumns()
 void DipSwitchSettingStatus::showEvent(QShowEvent *event)
 {
     Page::showEvent(event);
+    placeColumns();
     mainDialog->setCurrentStep(2);
     pageShown = true;
     loadJsonData();
