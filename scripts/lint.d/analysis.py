@@ -103,7 +103,7 @@ def run_clazy(source):
 
 
 TOOLS = {
-    "clang-tidy": (run_tidy, content(ROOT / ".clang-tidy")),
+    "clang-tidy": (run_tidy, content(ROOT / ".clang-tidy") + content(ROOT / "tests/.clang-tidy")),
     "clazy-standalone": (run_clazy, CLAZY_CHECKS_OF_TESTS),
 }
 
