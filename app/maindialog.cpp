@@ -54,6 +54,7 @@ void MainDialog::initUi()
     initSettingPageUi();
     initLanguageMenu();
     initSettingUserUi();
+    connect(ui->stackedWidget, &QStackedWidget::currentChanged, this, &MainDialog::captionPage);
     ui->settingStackedWidget->setCurrentIndex(FunctionTab);
     ui->stackedWidget->setCurrentIndex(SelectPage);
     ui->pathLabel->clear();

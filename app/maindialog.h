@@ -177,6 +177,7 @@ private:
     void placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin = 0);
     void selectTab(Tab tab);
     void styleTabs(Tab tab);
+    void captionPage(int page);
     void joinTabs();
     void closeLanguageMenu();
 

@@ -1,11 +1,13 @@
 #include "app/paintedbutton.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 PaintedButton::PaintedButton(QWidget *parent)
     : QWidget(parent)
 {
+    setFocusPolicy(Qt::TabFocus);
 }
 
 void PaintedButton::setText(const QString &newText)
@@ -46,6 +48,17 @@ void PaintedButton::mouseReleaseEvent(QMouseEvent *)
     }
 }
 
+void PaintedButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool clicks = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
+        || event->key() == Qt::Key_Enter;
+    if (clicks && !event->isAutoRepeat()) {
+        click();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
 void PaintedButton::drawText(QPainter &painter, const QRect &place) const
 {
     if (text.isEmpty()) {
@@ -53,6 +66,7 @@ void PaintedButton::drawText(QPainter &painter, const QRect &place) const
     }
     QFont large = font();
     large.setPointSize(15);
+    large.setUnderline(large.underline() || hasFocus());
     painter.setFont(large);
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, text);
 }

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /// What the painted buttons share: a press of the left button alone arms the widget, and a release anywhere
-/// clicks it.
+/// clicks it. Tab reaches it, and Space or Return clicks it then.
 class PaintedButton : public QWidget
 {
 public:
@@ -17,11 +17,13 @@ protected:
     void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
     /// Emits the button's own signal.
     virtual void click() = 0;
 
-    /// Draws the text in the middle of `place`, in the widget's font at 15 points.
+    /// Draws the text in the middle of `place`, in the widget's font at 15 points; a line below it tells the
+    /// focus.
     void drawText(QPainter &painter, const QRect &place) const;
 
     bool pressed = false;

@@ -193,6 +193,18 @@ void MainDialog::on_settingButton_clicked()
     styleTabs(FunctionTab);
 }
 
+// A completed step's button doesn't tell whether its page is the one that is shown; its caption does.
+void MainDialog::captionPage(int page)
+{
+    int captioned = ProductPage;
+    for (QLabel *caption : {ui->labelSlide1, ui->labelSlide2, ui->labelSlide3, ui->labelSlide4}) {
+        QFont font = caption->font();
+        font.setBold(captioned == page);
+        caption->setFont(font);
+        ++captioned;
+    }
+}
+
 void MainDialog::on_validationButton_clicked()
 {
     ui->validation->setResult(stepsDone());

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QStyleOptionComboBox>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 ValueList::ValueList(QWidget *parent)
@@ -19,13 +20,26 @@ QSize ValueList::sizeHint() const
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, QSize(0, height), this);
 }
 
+bool ValueList::hasPopup() const
+{
+    return findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+}
+
+// The delegate that a popup has by itself leaves what the style sheet says of items undrawn.
+void ValueList::showPopup()
+{
+    if (!hasPopup()) {
+        setItemDelegate(new QStyledItemDelegate(this));
+    }
+    QComboBox::showPopup();
+}
+
 // For a change of font or style a combo box builds its popup, nine widgets, long before it is first opened.
 // The popup takes both over when it is built.
 void ValueList::changeEvent(QEvent *event)
 {
     const bool restyled = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    const bool hasPopup = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
-    if (restyled && !hasPopup) {
+    if (restyled && !hasPopup()) {
         QWidget::changeEvent(event); // NOLINT(bugprone-parent-virtual-call): QComboBox is what builds it
     } else {
         QComboBox::changeEvent(event);

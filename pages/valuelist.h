@@ -14,8 +14,12 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+    void showPopup() override;
 
 protected:
     void changeEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    bool hasPopup() const;
 };

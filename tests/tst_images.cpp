@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QImageReader>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -107,6 +108,8 @@ private slots:
     void isShownByItsWidgets_data();
     void isShownByItsWidgets();
     void statesDiffer();
+    void statesAreToldApartWithoutColour_data();
+    void statesAreToldApartWithoutColour();
     void hasItsSize_data();
     void hasItsSize();
     void backgroundsFillTheirWidgets();
@@ -282,6 +285,54 @@ void TestImages::statesDiffer()
             }
         }
     }
+}
+
+void TestImages::statesAreToldApartWithoutColour_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    const auto row = [](const char *first, const char *second) {
+        QTest::addRow("%s and %s", first, second) << QString(first) << QString(second);
+    };
+    row("btn_step2_switch_off", "btn_step2_switch_on");
+    row("btn_radiobtn_off", "btn_radiobtn_on");
+    row("btn_radiobtn_off_disable", "btn_radiobtn_on_disable");
+    row("btn_header_arrow_open", "btn_header_arrow_close");
+    row("btn_step_1_normal", "btn_step_2_normal");
+    row("btn_step_1_focus", "btn_step_2_focus");
+    row("btn_step_1_normal", "btn_step_1_focus");
+    row("btn_step_1_normal", "btn_step_completed");
+    row("btn_step_1_focus", "btn_step_completed");
+    row("btn_title_maximize_normal", "btn_title_resize_normal");
+    row("btn_title_close_normal", "btn_title_close_over");
+    row("btn_title_close_over", "btn_title_close_press");
+    row("img_pcb_R32", "img_pcb_R410");
+    row("img_complete", "img_error");
+}
+
+// By lightness, on white: at least one pixel in fifty differs plainly.
+void TestImages::statesAreToldApartWithoutColour()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    const auto grey = [this](const QString &name) {
+        const QImage picture = pictures.value(name + ".png");
+        QImage onWhite(picture.size(), QImage::Format_RGB32);
+        onWhite.fill(Qt::white);
+        QPainter(&onWhite).drawImage(0, 0, picture);
+        return onWhite.convertToFormat(QImage::Format_Grayscale8);
+    };
+    const QImage one = grey(first);
+    const QImage other = grey(second);
+    QVERIFY(!one.isNull());
+    QCOMPARE(one.size(), other.size());
+    int differing = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            differing += qAbs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 8 ? 1 : 0;
+        }
+    }
+    QVERIFY(differing * 50 >= one.width() * one.height());
 }
 
 void TestImages::hasItsSize_data()

@@ -4,6 +4,11 @@
 #include "languages/languagemenu.h"
 #include "languages/letteritem.h"
 #include "languages/userlanguageeditpopup.h"
+#include "pages/installation/installationsystemsetting.h"
+
+#include <QGroupBox>
+
+#include <algorithm>
 
 namespace {
 
@@ -15,10 +20,43 @@ int told(const QString &stop, const QStringList &faults)
     return faults.size();
 }
 
+QPoint onPage(const QWidget *widget) { return widget->mapTo(widget->window(), QPoint()); }
+
+bool isFirstInItsRow(const QRadioButton *radio)
+{
+    const auto radios = radio->parentWidget()->findChildren<QRadioButton *>(QString(),
+                                                                            Qt::FindDirectChildrenOnly);
+    return std::none_of(radios.begin(), radios.end(), [radio](const QRadioButton *other) {
+        return other->isVisible() && other->y() == radio->y() && other->x() < radio->x();
+    });
+}
+
+/// What stands first behind each caption.
+QList<const QWidget *> firstControls(const QWidget *pages)
+{
+    QList<const QWidget *> controls;
+    const auto labels = pages->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        const QString role = label->property("role").toString();
+        const QWidget *control = label->buddy();
+        if (control != nullptr && control->isVisible() && (role == "caption" || role == "heading")) {
+            controls.append(control);
+        }
+    }
+    const auto radios = pages->findChildren<QRadioButton *>();
+    for (const QRadioButton *radio : radios) {
+        if (radio->isVisible() && isFirstInItsRow(radio)) {
+            controls.append(radio);
+        }
+    }
+    return controls;
+}
+
 } // namespace
 
 // Nothing that the window shows is cut off or overlaps, at each size, in English and in a language whose
-// words are longer, in °C and °F, on each page with as little and with as much as it can offer.
+// words are longer, in °C and °F, on each page with as little and with as much as it can offer; and all pages
+// have one grid.
 class TestLayout : public QObject
 {
     Q_OBJECT
@@ -27,6 +65,11 @@ private slots:
     void lengthensTexts();
     void hasRoom_data();
     void hasRoom();
+    void controlsStandInOneColumn_data();
+    void controlsStandInOneColumn();
+    void pagesEndAtOneEdge_data();
+    void pagesEndAtOneEdge();
+    void openHeadersEndStraight();
     void guideGivesWay();
     void editorHasRoom();
     void menuHasRoom();
@@ -83,6 +126,92 @@ void TestLayout::hasRoom()
                            + measure::needlessScrolling(&window.dialog));
     }
     QCOMPARE(faults, 0);
+}
+
+void TestLayout::controlsStandInOneColumn_data()
+{
+    QTest::addColumn<QString>("refrigerant");
+    QTest::newRow("R32") << "R32";
+    QTest::newRow("R410") << "R410";
+}
+
+// What follows a caption, and the first radio of each row; where "Min" or "Max" comes first, after its room.
+void TestLayout::controlsStandInOneColumn()
+{
+    QFETCH(QString, refrigerant);
+    constexpr int roomOfWord = 44;
+    Window window;
+    int measured = 0;
+    Tour tour(window, refrigerant);
+    for (const Tour::Stop &stop : tour.stops()) {
+        stop.show();
+        Tour::settle();
+        const QList<const QWidget *> controls = firstControls(Window::find(&window.dialog, "stackedWidget"));
+        for (const QWidget *control : controls) {
+            const int column = onPage(control).x() - onPage(controls.first()).x();
+            QVERIFY2(column == 0 || column == roomOfWord,
+                     qPrintable(stop.name + ": " + control->objectName()));
+            ++measured;
+        }
+    }
+    QVERIFY(measured > 150);
+}
+
+// The cards of every page reach from one margin to the other, or to the scroll bar.
+void TestLayout::pagesEndAtOneEdge_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(974, 612), QSize(1440, 800), QSize(1920, 1080)}) {
+        QTest::addRow("%d", size.width()) << size;
+    }
+}
+
+void TestLayout::pagesEndAtOneEdge()
+{
+    QFETCH(QSize, size);
+    Window window;
+    window.dialog.resize(size);
+    QTRY_COMPARE(window.dialog.size(), size);
+    Tour tour(window, QStringLiteral("R32"));
+    for (const Tour::Stop &stop : tour.stops()) {
+        stop.show();
+        Tour::settle();
+        QRect cards;
+        const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QGroupBox *>();
+        for (const QGroupBox *box : boxes) {
+            if (box->isVisible() && box->property("role").isValid()) {
+                cards |= QRect(box->mapTo(&window.dialog, QPoint()), box->size());
+            }
+        }
+        if (!cards.isEmpty()) {
+            QCOMPARE(cards.left(), 164);
+            const int room = size.width() - 16 - cards.right() - 1;
+            QVERIFY2(room == 0 || room == 12, qPrintable(stop.name));
+        }
+    }
+}
+
+// An open section is one card: its header has no round corners in the middle.
+void TestLayout::openHeadersEndStraight()
+{
+    const QColor line(0xD6, 0xD6, 0xD7);
+    Window window;
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    auto *section = window.page<InstallationSystemSetting>();
+    const auto *header = Window::find(section, "hideButton")->parentWidget();
+    const auto corner = [&](int y) {
+        const QPoint place = header->mapTo(&window.dialog, QPoint(0, y));
+        return window.dialog.grab(QRect(place, QSize(1, 1))).toImage().pixelColor(0, 0);
+    };
+    const int bottom = header->height() - 1;
+    for (const bool open : {true, false}) {
+        Window::expand(section, open);
+        Tour::settle();
+        QVERIFY(corner(0) != line);
+        QVERIFY((corner(bottom) == line) == open);
+        QCOMPARE(corner(bottom / 2), line);
+    }
 }
 
 void TestLayout::guideGivesWay()

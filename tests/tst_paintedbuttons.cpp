@@ -130,6 +130,10 @@ private slots:
     void paintsAnew_data() { bothButtons(); }
     void paintsAnew();
     void isReleasedWhenItClicks();
+    void keysClick_data() { bothButtons(); }
+    void keysClick();
+    void focusUnderlinesTheText_data() { bothButtons(); }
+    void focusUnderlinesTheText();
 
     void tabShowsItsLine();
     void tabShowsItsText_data();
@@ -192,6 +196,9 @@ void TestPaintedButtons::init()
 {
     host = std::make_unique<QWidget>();
     host->resize(400, 200);
+    // A window gives the focus to the first widget that takes it.
+    host->setFocusPolicy(Qt::StrongFocus);
+    host->setFocus();
     tabButton = new TabButton(host.get());
     tabButton->setGeometry(10, 10, 120, 44);
     imageButton = new ImageButton(host.get());
@@ -366,6 +373,45 @@ void TestPaintedButtons::isReleasedWhenItClicks()
     press(tabButton);
     release(tabButton);
     QCOMPARE(seen, tab(tabButton, lineOfTheOthers, QString()));
+}
+
+void TestPaintedButtons::keysClick()
+{
+    const QSignalSpy clicked = spy();
+    const auto press = [this](int key, bool repeated = false) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeated);
+        QApplication::sendEvent(button(), &event);
+        return event.isAccepted();
+    };
+    for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        QVERIFY(press(key));
+    }
+    QCOMPARE(clicked.size(), 3);
+    // The rest is left to the window, and so is a key that is held down.
+    QVERIFY(!press(Qt::Key_Space, true) && !press(Qt::Key_A) && !press(Qt::Key_Escape));
+    QCOMPARE(clicked.size(), 3);
+}
+
+// By Tab alone: a click leaves the focus where it is.
+void TestPaintedButtons::focusUnderlinesTheText()
+{
+    tabButton->setText("Function");
+    imageButton->setText("New");
+    QVERIFY(QTest::qWaitForWindowActive(host.get()));
+    QWidget *widget = button();
+    const QImage plain = looks(widget);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QVERIFY(!widget->hasFocus());
+    widget->setFocus(Qt::TabFocusReason);
+    QVERIFY(widget->hasFocus());
+    const QImage focused = looks(widget);
+    QFont line = widget->font();
+    line.setUnderline(true);
+    widget->clearFocus();
+    QCOMPARE(looks(widget), plain);
+    widget->setFont(line);
+    QCOMPARE(focused, looks(widget));
+    QVERIFY(focused != plain);
 }
 
 void TestPaintedButtons::tabShowsItsLine()

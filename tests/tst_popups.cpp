@@ -15,6 +15,8 @@ private slots:
 
     void noneIsBuiltBeforeItIsOpened();
     void looksAsItsList();
+    void opensBelowItsList();
+    void marksItsItemCalmly();
     void itemsDoNotSetTheWidth();
 
 private:
@@ -63,6 +65,44 @@ void TestPopups::looksAsItsList()
     QCOMPARE(year->font().pointSize(), 14);
     QCOMPARE(year->view()->font(), year->font());
     year->setStyleSheet(QString());
+}
+
+void TestPopups::opensBelowItsList()
+{
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *timer = Window::find<QComboBox>(&window->dialog, "comboScreenSaverTimer");
+    timer->showPopup();
+    const QWidget *popup = timer->view()->window();
+    QCOMPARE(popup->width(), timer->width());
+    QVERIFY(popup->y() >= timer->mapToGlobal(QPoint(0, timer->height() - 1)).y());
+    timer->hidePopup();
+}
+
+void TestPopups::marksItsItemCalmly()
+{
+    auto *timer = Window::find<QComboBox>(&window->dialog, "comboScreenSaverTimer");
+    timer->showPopup();
+    const QAbstractItemView *view = timer->view();
+    QVERIFY(view->currentIndex().isValid());
+    const QRect row = view->visualRect(view->currentIndex());
+    const QImage marked = view->viewport()->grab(row).toImage();
+    const QColor accent(0xA5, 0x00, 0x34);
+    QCOMPARE(marked.pixelColor(1, row.height() / 2), accent);
+    QCOMPARE(marked.pixelColor(3, row.height() / 2), QColor(0xf2, 0xf2, 0xf2));
+    QCOMPARE(marked.pixelColor(row.width() - 2, 2), QColor(0xf2, 0xf2, 0xf2));
+    int darkest = 255;
+    for (int x = 3; x < row.width(); ++x) {
+        for (int y = 0; y < row.height(); ++y) {
+            const QColor ink = marked.pixelColor(x, y);
+            QVERIFY(qAbs(ink.red() - ink.blue()) < 3);
+            darkest = qMin(darkest, ink.red());
+        }
+    }
+    QVERIFY(darkest >= 0x33 && darkest < 0x50);
+    const auto other = view->model()->index(view->currentIndex().row() == 0 ? 1 : 0, 0);
+    const QRect place = view->visualRect(other);
+    QCOMPARE(view->viewport()->grab(place).toImage().pixelColor(1, place.height() / 2), QColor(Qt::white));
+    timer->hidePopup();
 }
 
 void TestPopups::itemsDoNotSetTheWidth()

@@ -58,6 +58,7 @@ private slots:
     void unknownTabJoinsAllTheSame();
     void sectionResultsJoin();
     void sectionSettersOnlySet();
+    void captionTellsTheShownPage();
     void sideBarIsHiddenBeforeNew();
     void stepsNeedADocument();
     void stepsNeedTheOnesBefore_data();
@@ -303,6 +304,21 @@ void TestWizard::sectionSettersOnlySet()
         QVERIFY(members().installationValid);
         QVERIFY(!shown("installationValidationIcon"));
         QCOMPARE(stepStyles(), before);
+    }
+}
+
+void TestWizard::captionTellsTheShownPage()
+{
+    const QList<int> pages{MainDialog::SelectPage, MainDialog::ProductPage, MainDialog::DipSwitchPage,
+                           MainDialog::SettingPage, MainDialog::ValidationPage};
+    for (const int page : pages) {
+        window->showPage(page);
+        for (int step = 1; step <= 4; ++step) {
+            const QByteArray name = "labelSlide" + QByteArray::number(step);
+            const QFont font = Window::find(&window->dialog, name.constData())->font();
+            QVERIFY2(font.bold() == (page == step), name.constData());
+            QCOMPARE(font.pointSize(), 9);
+        }
     }
 }
 

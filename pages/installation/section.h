@@ -20,4 +20,8 @@ protected:
     void writeWhileExpanded(const QString &path, const QJsonValue &value) const;
 
     bool expanded = false;
+
+private:
+    /// Lets the header of the button end as the body below it goes on, or as a card of its own.
+    static void styleHeader(const QPushButton *hideButton, bool open);
 };
