@@ -1,6 +1,7 @@
 #include "app/maindialog.h"
 
 #include "app/frameless.h"
+#include "app/jsonlist.h"
 #include "app/windowshadow.h"
 #include "languages/languagemenu.h"
 #include "pages/installation/installationaauto.h"
@@ -38,6 +39,7 @@ MainDialog::MainDialog(QWidget *parent)
     setGraphicsEffect(shadow);
 
     frameLess = std::make_unique<FrameLess>(this, true);
+    new JsonList(this);
     ui->languageCombobox->installEventFilter(this);
     updateMaximumButtonUi(isMaximized());
     initCFTable();

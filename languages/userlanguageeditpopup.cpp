@@ -1,6 +1,7 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include "app/frameless.h"
+#include "app/jsonlist.h"
 #include "app/maindialog.h"
 #include "document/files.h"
 #include "languages/letteritem.h"
@@ -18,6 +19,7 @@ UserLanguageEditPopup::UserLanguageEditPopup(QWidget *parent)
 {
     ui->setupUi(this);
     frameLess = std::make_unique<FrameLess>(this, true);
+    new JsonList(this);
     connect(ui->searchLineEdit, &QLineEdit::returnPressed, this, &UserLanguageEditPopup::returnSearchText);
 }
 

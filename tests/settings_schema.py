@@ -154,6 +154,10 @@ class Sources(unittest.TestCase):
             self.assertTrue(any(text == name or text.endswith("." + name) for text in texts),
                             f"{path} is described and no page names it")
 
+    def test_written_paths(self):
+        """The list that the fuzzers go by."""
+        self.assertEqual((ROOT / "tests/data/written_paths.txt").read_text(encoding="utf-8").split(), sorted(WRITTEN))
+
     def test_every_word_is_accepted(self):
         words = re.findall(r'"((?:SettingInfo|IduFuncList)\.[\w.]+)",\s*"(\w+)"\}', SOURCES)
         words += [(INSTALLATION + key, word) for key, word in re.findall(

@@ -52,6 +52,7 @@ private slots:
     void opensAFile_data();
     void opensAFile();
     void openDialogLooks();
+    void dialogsListJsonFiles();
     void openKeepsTheUnit();
     void openLoadsTheStandingPageAnew();
     void cancelledOpenChangesNothing_data();
@@ -259,6 +260,22 @@ void TestDocumentFiles::openDialogLooks()
     }
     // It starts there again, whatever file was used before.
     QCOMPARE(window->open(QString()).folder, home.filePath("Desktop"));
+}
+
+void TestDocumentFiles::dialogsListJsonFiles()
+{
+    const QDir desktop(home.filePath("Desktop"));
+    for (const char *name : {"a.json", "b.txt", "C.JSON", "json"}) {
+        put(desktop.filePath(name), unsorted);
+    }
+    const QStringList expected{"a.json", "C.JSON"};
+    QCOMPARE(filedialogs::listed([this] { Window::click(&window->dialog, "openButton"); }), expected);
+    window->dialog.openNewJsonFile("R32");
+    window->completeSteps();
+    QCOMPARE(filedialogs::listed([this] { Window::click(&window->dialog, "saveButton"); }), expected);
+    for (const char *name : {"a.json", "b.txt", "C.JSON", "json"}) {
+        QFile::remove(desktop.filePath(name));
+    }
 }
 
 void TestDocumentFiles::openKeepsTheUnit()

@@ -32,6 +32,7 @@ private slots:
     void cleanup() { close(); }
 
     void opensAFile();
+    void dialogsListLanguageFiles();
     void openIsCancelled();
     void fileCantBeOpened();
     void openedFileHoldsNoTexts_data();
@@ -93,6 +94,16 @@ void TestLanguageEditorFiles::opensAFile()
     snapshot.insert("AIR", "Luft");
     QCOMPARE(dialog().languageSnapshotMap(), snapshot);
     QCOMPARE(ini(), QByteArray("English"));
+}
+
+void TestLanguageEditorFiles::dialogsListLanguageFiles()
+{
+    QVERIFY(
+        filedialogs::listed([this] { Window::click(editor.get(), "saveButton"); }).contains("English.json"));
+    QDir().mkpath(otherFolder());
+    put(otherFolder() + "/Polski.json", "{}");
+    QCOMPARE(filedialogs::listed([this] { Window::click(editor.get(), "openButton"); }),
+             QStringList{"Polski.json"});
 }
 
 void TestLanguageEditorFiles::openIsCancelled()

@@ -6,6 +6,7 @@ from pathlib import Path
 from tree import ROOT, finish, own_files
 
 FILES = own_files()
+NAMES = {path.name for path in FILES}
 FOLDERS = {parent for path in FILES for parent in path.parents}
 TOPS = {path.parts[0] for path in FILES if len(path.parts) > 1}
 # Documents whose names of code are checked too. What they make up holds "example" or capitals alone.
@@ -25,7 +26,9 @@ def exists(path):
 
 
 def named_files(text):
-    """Yields (position, path) of each inline code that begins with a folder of ours."""
+    """Yields (position, path) of each inline code that begins with a folder of ours or is the name of a source."""
+    for match in re.finditer(r"`([\w-]+\.(?:cpp|h|ui|qss|py|sh|tsv|cmake|md))`", text):
+        yield match.start(), match[1]
     for match in re.finditer(r"`([\w.*-]+(?:/[\w.*-]*)+)`", text):
         if match[1].split("/")[0] in TOPS and not re.search(r"[A-Z]{4}", Path(match[1]).name.split(".")[0]):
             yield match.start(), match[1]
@@ -45,7 +48,7 @@ def findings():
             if not target.is_relative_to(ROOT) or not exists(target.relative_to(ROOT)):
                 yield f"{at(match.start())}: the link to {match[1]} leads nowhere"
         for position, name in named_files(plain):
-            if not exists(Path(name)):
+            if name not in NAMES and not exists(Path(name)):
                 yield f"{at(position)}: there is no {name}"
         if document not in CODED:
             continue

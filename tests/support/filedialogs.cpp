@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -60,4 +61,27 @@ filedialogs::Seen filedialogs::answer(const std::function<void()> &action, const
     poll.start(20);
     action();
     return seen;
+}
+
+QStringList filedialogs::listed(const std::function<void()> &action)
+{
+    QStringList names;
+    QTimer poll;
+    int rounds = 0;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            return;
+        }
+        const auto *view = dialog->findChild<QListView *>(QStringLiteral("listView"));
+        for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row) {
+            names.append(view->model()->index(row, 0, view->rootIndex()).data().toString());
+        }
+        if (!names.isEmpty() || ++rounds == 150) {
+            dialog->reject();
+        }
+    });
+    poll.start(20);
+    action();
+    return names;
 }

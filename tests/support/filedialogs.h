@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -20,5 +21,9 @@ struct Seen {
 /// dialog. A question is answered with Yes, any other box is closed; a dialog that then stays open is
 /// cancelled.
 Seen answer(const std::function<void()> &action, const QString &path);
+
+/// Runs `action` and gives the files that the file dialog lists which it opens, by name, before it is
+/// cancelled. Waits for the first one, a few seconds at most.
+QStringList listed(const std::function<void()> &action);
 
 } // namespace filedialogs
