@@ -59,9 +59,9 @@ protected:
     static QVariantMap everything()
     {
         return documents::joined(flags("isOduFunctionMS SET isSilentPriority SET"),
-                      {{"product", "aquabox"},
-                       {"SettingInfo.installation.OduFunctionMs", "master"},
-                       {meter + "interfaceAdd", 176}});
+                                 {{"product", "aquabox"},
+                                  {"SettingInfo.installation.OduFunctionMs", "master"},
+                                  {meter + "interfaceAdd", 176}});
     }
 
     /// Every path that a control of the page writes, with a value that none of them writes.
@@ -80,14 +80,14 @@ protected:
             result.insert(*path, 1);
         }
         return documents::joined(result,
-                      {{meter + "interfaceAdd", 1},
-                       {meter + "interface1", 1},
-                       {meter + "interface2", 1},
-                       {meter + "interface3", 1},
-                       {meter + "interface4", 1},
-                       {oduFunction, "x"},
-                       {silentPriority, "x"},
-                       {"SettingInfo.installation.sensorDefine.airTempLocation", "x"}});
+                                 {{meter + "interfaceAdd", 1},
+                                  {meter + "interface1", 1},
+                                  {meter + "interface2", 1},
+                                  {meter + "interface3", 1},
+                                  {meter + "interface4", 1},
+                                  {oduFunction, "x"},
+                                  {silentPriority, "x"},
+                                  {"SettingInfo.installation.sensorDefine.airTempLocation", "x"}});
     }
 
     void open()
