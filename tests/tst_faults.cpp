@@ -272,6 +272,11 @@ void TestFaults::longNames()
     QFETCH(QString, name);
     const QString path = folder() + '/' + name;
     QVERIFY(path.size() > 140);
+#ifdef Q_OS_WIN
+    if (path.size() >= 260) {
+        QSKIP("The file dialogs of Windows take no longer paths");
+    }
+#endif
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
     const QSize size = window->dialog.size();
     const auto geometry = [this] {

@@ -33,14 +33,11 @@ def link_command(build):
 
 def main(build, archive, version):
     build = Path(build)
-    qt = {str(build / "qt"), str((build / "qt").resolve())}
     words, objects = [], []
     for word in link_command(build):
         if word.endswith((".obj", ".res")):
             objects.append(word)
-        for place in qt:
-            word = word.replace(place, "$qt")
-        words.append(f'"{word}"' if "$qt" in word else word)
+        words.append(re.sub("^qt/(.*)", r'"$qt/\1"', word))
     words[words.index(TOOL)] = Path(TOOL).name
     words[0] = Path(words[0]).name
     words = [word for word in words if not word.startswith("-Wl,--out-implib")]

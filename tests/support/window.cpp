@@ -162,6 +162,9 @@ QStringList range(int lower, int upper, const QString &suffix, int step)
 void prepareApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
+#ifdef Q_OS_WIN
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
     // The tests answer Qt's own dialogs.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     for (const char *face : {"Medium", "Bold", "Light", "Regular"}) {

@@ -36,7 +36,7 @@ hidden() { ! visible "$1"; }
 click() { xdotool mousemove --window "$tool" "$1" "$2" click 1; }
 
 start() { # argument...
-    wine64 "$exe" "$@" >"$work/output" 2>&1 &
+    env --unset=WINEQT_FORCE_STDERR_LOGGING wine64 "$exe" "$@" >"$work/output" 2>&1 &
     pid=$!
     wait_for "no window" visible '^Calora configurator$'
     tool=$window
