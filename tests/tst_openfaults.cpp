@@ -86,6 +86,9 @@ void TestOpenFaults::opensWhatCantBeRead()
     if (QFile unread(memory); !unread.open(QIODevice::ReadOnly)) {
         QSKIP("This machine doesn't let the file be opened");
     }
+#ifdef Q_OS_WIN
+    QSKIP("The path isn't one of Windows");
+#endif
     window->open(memory);
     QVERIFY(window->dialog.document().isNull());
     QCOMPARE(window->members().filePath, memory);
@@ -189,7 +192,10 @@ void TestOpenFaults::startsItsDialogsNowhere()
     const QString before = QDir::currentPath();
     QVERIFY(QDir().mkpath(window->path("gone")));
     QVERIFY(QDir::setCurrent(window->path("gone")));
-    QVERIFY(QDir().rmdir(window->path("gone")));
+    if (!QDir().rmdir(window->path("gone"))) {
+        QVERIFY(QDir::setCurrent(before));
+        QSKIP("This machine doesn't let the working folder be removed");
+    }
     QVERIFY(QDir(DocumentWindow::desktop(home)).removeRecursively());
     window->open(QString());
     window->open(file());
