@@ -63,6 +63,10 @@ int main(int, char *[])
     int argumentCount = 3;
     QApplication application(argumentCount, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
+#ifdef Q_OS_WIN
+    // The style sheet is made for it; Windows' own would draw frames of focus within those of the sheet.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
     qDebug("main() release mode");
     qInstallMessageHandler(discardMessage);
     loadFonts();

@@ -19,7 +19,5 @@ function(install_runnable_folder component destination)
     install(FILES ${delivered} DESTINATION ${destination}/language COMPONENT ${component})
 endfunction()
 
-if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
-    include(cmake/PackagingLinux.cmake)
-endif()
+include(cmake/Packaging${CMAKE_SYSTEM_NAME}.cmake)
 include(CPack)

@@ -1,8 +1,7 @@
 #include "support/documentwindow.h"
+#include "support/faults.h"
 
 #include "pages/product/select.h"
-
-#include <sys/stat.h>
 
 // New and Open, through the real file dialogs.
 
@@ -255,11 +254,11 @@ void TestDocumentFiles::openDialogLooks()
         put(window->path("a.json"), unsorted);
         const filedialogs::Seen seen = window->open(file);
         QCOMPARE(seen.title, QString("Json File"));
-        QCOMPARE(seen.folder, home.filePath("Desktop"));
+        QCOMPARE(seen.folder, DocumentWindow::desktop(home));
         QCOMPARE(seen.filter, QString("JSON File(*.json;)"));
     }
     // It starts there again, whatever file was used before.
-    QCOMPARE(window->open(QString()).folder, home.filePath("Desktop"));
+    QCOMPARE(window->open(QString()).folder, DocumentWindow::desktop(home));
 }
 
 void TestDocumentFiles::dialogsListJsonFiles()
@@ -386,7 +385,9 @@ void TestDocumentFiles::cantOpen()
 {
     QFETCH(QString, name);
     QVERIFY(QDir().mkpath(window->path("folder.json")));
-    QCOMPARE(mkfifo(qPrintable(window->path("pipe.json")), 0600), 0);
+    if (name == "pipe.json" && !faults::pipe(window->path(name)).holds) {
+        QSKIP("This machine has no FIFOs");
+    }
     window->dialog.openNewJsonFile("R32");
     messages::clear();
     QVERIFY(!load(window->path(name)));
@@ -399,7 +400,9 @@ void TestDocumentFiles::cantOpen()
 void TestDocumentFiles::failedOpenChangesNothing()
 {
     const QString pipe = window->path("pipe.json");
-    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    if (!faults::pipe(pipe).holds) {
+        QSKIP("This machine has no FIFOs");
+    }
     window->clickNew();
     window->chooseRefrigerant("radioButtonR32");
     messages::clear();

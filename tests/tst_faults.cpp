@@ -1,7 +1,5 @@
 #include "support/filefaults.h"
 
-#include <sys/file.h>
-
 // Disks, folders and files that fail under Save: the tool takes the name, keeps the document, says nothing
 // but in its log, and neither waits nor ends.
 
@@ -149,8 +147,8 @@ void TestFaults::diskFills()
     QFETCH(bool, opened);
     QFETCH(int, written);
     const auto mount = disk ? faults::Mount::small(folder(), "size=64k") : nullptr;
-    if (mount && !mount->holds()) {
-        QSKIP("This machine doesn't let a disk be mounted");
+    if (mount ? !mount->holds() : !faults::SizeLimit::possible()) {
+        QSKIP("This machine doesn't let the disk be limited");
     }
     if (opened) {
         put(file(), small());
@@ -213,8 +211,10 @@ void TestFaults::savesWhereTheLinkLeads()
     QFETCH(QString, path);
     QFETCH(QString, written);
     put(folder() + "/old.json", "old");
-    QVERIFY(QFile::link(folder() + "/old.json", folder() + "/link.json"));
-    QVERIFY(QFile::link(window->path(target), window->path(link)));
+    if (!faults::link(folder() + "/old.json", folder() + "/link.json").holds) {
+        QSKIP("This machine doesn't let links be made");
+    }
+    QVERIFY(faults::link(window->path(target), window->path(link)).holds);
     window->dialog.openNewJsonFile("R410");
     window->completeSteps();
     window->save(window->path(path));
@@ -232,7 +232,7 @@ void TestFaults::savesIntoAFileThatIsHeldOpen()
     window->completeSteps();
     QFile holder(file());
     QVERIFY(holder.open(QIODevice::ReadWrite));
-    QCOMPARE(flock(holder.handle(), LOCK_EX), 0);
+    QVERIFY(faults::lock(holder));
     window->write("cmdId", "all");
     window->save(QString());
     const QByteArray saved = compact(window->dialog.document());
@@ -249,7 +249,9 @@ void TestFaults::savesIntoTheFileThatCameInItsPlace()
     QFile holder(file());
     QVERIFY(holder.open(QIODevice::ReadOnly));
     put(folder() + "/other.json", "another program's");
-    QCOMPARE(::rename(qPrintable(folder() + "/other.json"), qPrintable(file())), 0);
+    if (std::rename(qPrintable(folder() + "/other.json"), qPrintable(file())) != 0) {
+        QSKIP("This machine doesn't let an open file be replaced");
+    }
     window->save(QString());
     QCOMPARE(content(file()), small());
     QCOMPARE(holder.readAll(), small());
@@ -270,6 +272,11 @@ void TestFaults::longNames()
     QFETCH(QString, name);
     const QString path = folder() + '/' + name;
     QVERIFY(path.size() > 140);
+#ifdef Q_OS_WIN
+    if (path.size() >= 260) {
+        QSKIP("The file dialogs of Windows take no longer paths");
+    }
+#endif
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
     const QSize size = window->dialog.size();
     const auto geometry = [this] {

@@ -7,8 +7,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <sys/stat.h>
-
 // Remembering the name of a language, and taking in a language file from elsewhere.
 
 namespace {
@@ -113,7 +111,9 @@ void TestLanguageFiles::unwritableNameReloadsTheOldLanguage()
 {
     put(languagefolder::file("Other.json"), languagefolder::marked("+"));
     const faults::Fault fault = faults::permissions(languagefolder::iniPath(), QFile::ReadOwner);
-    QVERIFY(fault.holds);
+    if (!fault.holds) {
+        QSKIP("This machine doesn't let the fault be made");
+    }
     dialog().saveLanguageName("Other");
     QCOMPARE(messages::all(), QStringList{unwritable});
     dialog().loadLanguageData(languagefolder::iniPath());
@@ -190,12 +190,14 @@ void TestLanguageFiles::loadedFileMayLieAtItsTarget()
 void TestLanguageFiles::linkToItsTargetLosesNothing()
 {
     put(languagefolder::file("Other.json"), languagefolder::marked("+"));
-    QVERIFY(QFile::link(languagefolder::file("Other.json"), elsewhere->filePath("Other.json")));
+    if (!faults::link(languagefolder::file("Other.json"), elsewhere->filePath("Other.json")).holds) {
+        QSKIP("This machine doesn't let links be made");
+    }
     dialog().loadLanguageAnotherPath(elsewhere->filePath("Other.json"));
     QCOMPARE(content(languagefolder::file("Other.json")), languagefolder::marked("+"));
     // The other way round: the folder holds the link.
     put(elsewhere->filePath("Far.json"), languagefolder::marked("-"));
-    QVERIFY(QFile::link(elsewhere->filePath("Far.json"), languagefolder::file("Far.json")));
+    QVERIFY(faults::link(elsewhere->filePath("Far.json"), languagefolder::file("Far.json")).holds);
     dialog().loadLanguageAnotherPath(elsewhere->filePath("Far.json"));
     QCOMPARE(content(languagefolder::file("Far.json")), languagefolder::marked("-"));
     QCOMPARE(content(elsewhere->filePath("Far.json")), languagefolder::marked("-"));
@@ -225,7 +227,9 @@ void TestLanguageFiles::cantLoadFromAnotherPath()
 {
     QFETCH(QString, name);
     QVERIFY(QDir().mkpath(elsewhere->filePath("Folder.json")));
-    QCOMPARE(mkfifo(qPrintable(elsewhere->filePath("Pipe.json")), 0600), 0);
+    if (name == "Pipe.json" && !faults::pipe(elsewhere->filePath(name)).holds) {
+        QSKIP("This machine has no FIFOs");
+    }
     const QString path = name.isEmpty() ? QString() : elsewhere->filePath(name);
     const auto *popup = dialog().members().languageMenuWidget;
     dialog().loadLanguageAnotherPath(path);

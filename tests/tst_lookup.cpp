@@ -1,9 +1,8 @@
+#include "support/faults.h"
 #include "support/languagefolder.h"
 #include "support/window.h"
 
 #include <QSignalSpy>
-
-#include <sys/stat.h>
 
 // The language in force and the lookup of texts.
 
@@ -205,7 +204,9 @@ void TestLookup::namedFileCantBeOpened()
     QFETCH(QByteArray, name);
     QFETCH(QString, printed);
     QVERIFY(QDir().mkpath(languagefolder::file("Folder.json")));
-    QCOMPARE(mkfifo(qPrintable(languagefolder::file("Pipe.json")), 0600), 0);
+    if (name == "Pipe" && !faults::pipe(languagefolder::file("Pipe.json")).holds) {
+        QSKIP("This machine has no FIFOs");
+    }
     put(languagefolder::iniPath(), name);
     dialog().loadLanguageData(languagefolder::iniPath());
     QCOMPARE(currentLanguage(), QString::fromUtf8(name));

@@ -65,7 +65,9 @@ void TestOpenFaults::cantBeOpened()
     window->chooseRefrigerant("radioButtonR32");
     const QJsonDocument document = window->dialog.document();
     const Fault fault = make(folder(), file());
-    QVERIFY(fault.holds);
+    if (!fault.holds) {
+        QSKIP("This machine doesn't let the fault be made");
+    }
     messages::clear();
     window->open(file());
     QCOMPARE(DocumentWindow::told().last(), QString("MainDialog::on_openButton_clicked open failed"));
@@ -84,6 +86,9 @@ void TestOpenFaults::opensWhatCantBeRead()
     if (QFile unread(memory); !unread.open(QIODevice::ReadOnly)) {
         QSKIP("This machine doesn't let the file be opened");
     }
+#ifdef Q_OS_WIN
+    QSKIP("The path isn't one of Windows");
+#endif
     window->open(memory);
     QVERIFY(window->dialog.document().isNull());
     QCOMPARE(window->members().filePath, memory);
@@ -187,8 +192,11 @@ void TestOpenFaults::startsItsDialogsNowhere()
     const QString before = QDir::currentPath();
     QVERIFY(QDir().mkpath(window->path("gone")));
     QVERIFY(QDir::setCurrent(window->path("gone")));
-    QVERIFY(QDir().rmdir(window->path("gone")));
-    QVERIFY(QDir(home.filePath("Desktop")).removeRecursively());
+    if (!QDir().rmdir(window->path("gone"))) {
+        QVERIFY(QDir::setCurrent(before));
+        QSKIP("This machine doesn't let the working folder be removed");
+    }
+    QVERIFY(QDir(DocumentWindow::desktop(home)).removeRecursively());
     window->open(QString());
     window->open(file());
     QCOMPARE(window->shownPath(), file());
@@ -197,7 +205,7 @@ void TestOpenFaults::startsItsDialogsNowhere()
     window->save(folder() + "/b.json");
     QCOMPARE(content(folder() + "/b.json"), compact(documents::standard("R32")));
     QVERIFY(QDir::setCurrent(before));
-    QVERIFY(QDir(home.path()).mkdir("Desktop"));
+    QVERIFY(QDir().mkpath(DocumentWindow::desktop(home)));
 }
 
 int main(int argc, char *argv[])

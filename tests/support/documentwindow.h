@@ -20,7 +20,18 @@ public:
     {
         qputenv("HOME", home.path().toUtf8());
         qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral(".config")).toUtf8());
-        QDir(home.path()).mkdir(QStringLiteral("Desktop"));
+        QDir().mkpath(desktop(home));
+    }
+
+    /// Where the desktop is then. Windows doesn't let a program move it for itself.
+    static QString desktop(const QTemporaryDir &home)
+    {
+#ifdef Q_OS_WIN
+        Q_UNUSED(home)
+        return QDir::fromNativeSeparators(qEnvironmentVariable("USERPROFILE")) + QStringLiteral("/Desktop");
+#else
+        return home.filePath(QStringLiteral("Desktop"));
+#endif
     }
 
     /// A file of that name in the folder of this window.

@@ -31,6 +31,9 @@ public:
     ~SizeLimit();
     Q_DISABLE_COPY_MOVE(SizeLimit)
 
+    /// Whether this system has such limits.
+    static bool possible();
+
 private:
     quint64 before;
 };
@@ -71,5 +74,16 @@ Fault permissions(const QString &path, QFile::Permissions allowed);
 /// See Mount.
 Fault readOnlyFileSystem(const QString &folder);
 Fault smallFileSystem(const QString &folder, const char *options);
+
+/// A FIFO in place of what is there.
+Fault pipe(const QString &path);
+/// A symbolic link in place of what is there.
+Fault link(const QString &target, const QString &path);
+/// A program in place of what is there, which runs as long as it is held.
+Fault runningProgram(const QString &path);
+/// Another name for the file itself.
+Fault secondName(const QString &path, const QString &name);
+/// Locks an open file against those who ask.
+bool lock(const QFile &file);
 
 } // namespace faults

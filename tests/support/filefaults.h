@@ -3,11 +3,6 @@
 #include "support/documentwindow.h"
 #include "support/faults.h"
 
-#include <QProcess>
-
-#include <sys/stat.h>
-#include <unistd.h>
-
 /// Faults of a file and of the folder that it lies in.
 namespace filefaults {
 
@@ -15,27 +10,6 @@ using faults::Fault;
 
 /// Makes a fault in a folder, around the file of that path in it.
 using MakeFault = Fault (*)(const QString &folder, const QString &path);
-
-inline Fault link(const QString &target, const QString &path)
-{
-    QFile::remove(path);
-    return {nullptr, ::symlink(qPrintable(target), qPrintable(path)) == 0};
-}
-
-inline Fault pipe(const QString &path)
-{
-    QFile::remove(path);
-    return {nullptr, mkfifo(qPrintable(path), 0600) == 0};
-}
-
-inline Fault runningProgram(const QString &path)
-{
-    QFile::remove(path);
-    QFile::copy(QStringLiteral("/bin/sleep"), path);
-    auto program = std::make_shared<QProcess>();
-    program->start(path, {QStringLiteral("300")});
-    return {program, program->waitForStarted()};
-}
 
 inline Fault readOnlyFile(const QString &, const QString &path)
 {
@@ -70,26 +44,26 @@ inline Fault folderForAFile(const QString &, const QString &path)
     QFile::remove(path);
     return {nullptr, QDir().mkpath(path)};
 }
-inline Fault executedFile(const QString &, const QString &path) { return runningProgram(path); }
-inline Fault pipeForAFile(const QString &, const QString &path) { return pipe(path); }
+inline Fault executedFile(const QString &, const QString &path) { return faults::runningProgram(path); }
+inline Fault pipeForAFile(const QString &, const QString &path) { return faults::pipe(path); }
 inline Fault linkToAPipe(const QString &folder, const QString &path)
 {
-    pipe(folder + QStringLiteral("/pipe"));
-    return link(folder + QStringLiteral("/pipe"), path);
+    faults::pipe(folder + QStringLiteral("/pipe"));
+    return faults::link(folder + QStringLiteral("/pipe"), path);
 }
-inline Fault linkToAFolder(const QString &folder, const QString &path) { return link(folder, path); }
-inline Fault linkToItself(const QString &, const QString &path) { return link(path, path); }
+inline Fault linkToAFolder(const QString &folder, const QString &path) { return faults::link(folder, path); }
+inline Fault linkToItself(const QString &, const QString &path) { return faults::link(path, path); }
 inline Fault linkToNowhere(const QString &, const QString &path)
 {
-    return link(QStringLiteral("/nowhere/a.json"), path);
+    return faults::link(QStringLiteral("/nowhere/a.json"), path);
 }
 inline Fault linkToAFullDevice(const QString &, const QString &path)
 {
-    return link(QStringLiteral("/dev/full"), path);
+    return faults::link(QStringLiteral("/dev/full"), path);
 }
 inline Fault linkToAnEndlessDevice(const QString &, const QString &path)
 {
-    return link(QStringLiteral("/dev/zero"), path);
+    return faults::link(QStringLiteral("/dev/zero"), path);
 }
 inline Fault nothing(const QString &, const QString &) { return {}; }
 

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-/// The pointer of the X server, moved and pressed from outside as a hand does it. Events are served
-/// meanwhile.
+/// The pointer of the X server or of Windows, moved and pressed from outside as a hand does it. Events are
+/// served meanwhile.
 namespace mouse {
 
 /// Puts a window where the test wants it, so that the places of its widgets are those on the screen: until

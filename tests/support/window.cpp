@@ -162,6 +162,11 @@ QStringList range(int lower, int upper, const QString &suffix, int step)
 void prepareApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
+#ifdef Q_OS_WIN
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
+    // The tests answer Qt's own dialogs.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     for (const char *face : {"Medium", "Bold", "Light", "Regular"}) {
         QFontDatabase::addApplicationFont(QCoreApplication::applicationDirPath()
                                           + QStringLiteral("/NotoSans-%1.ttf").arg(QLatin1String(face)));

@@ -1,6 +1,7 @@
 #include "support/faults.h"
 
 #include <QByteArray>
+#include <QProcess>
 
 #include <array>
 #include <csignal>
@@ -9,9 +10,11 @@
 #include <fcntl.h>
 #include <linux/capability.h>
 #include <sched.h>
+#include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -89,6 +92,8 @@ faults::SizeLimit::SizeLimit(quint64 bytes)
 
 faults::SizeLimit::~SizeLimit() { setSizeLimit(before); }
 
+bool faults::SizeLimit::possible() { return true; }
+
 std::unique_ptr<faults::Mount> faults::Mount::small(const QString &folder, const char *options)
 {
     const bool mounted = mount("none", qPrintable(folder), "tmpfs", 0, options) == 0;
@@ -150,3 +155,31 @@ faults::Fault faults::smallFileSystem(const QString &folder, const char *options
     const std::shared_ptr<Mount> mount = Mount::small(folder, options);
     return {mount, mount->holds()};
 }
+
+faults::Fault faults::pipe(const QString &path)
+{
+    QFile::remove(path);
+    return {nullptr, mkfifo(qPrintable(path), 0600) == 0};
+}
+
+faults::Fault faults::link(const QString &target, const QString &path)
+{
+    QFile::remove(path);
+    return {nullptr, ::symlink(qPrintable(target), qPrintable(path)) == 0};
+}
+
+faults::Fault faults::runningProgram(const QString &path)
+{
+    QFile::remove(path);
+    QFile::copy(QStringLiteral("/bin/sleep"), path);
+    auto program = std::make_shared<QProcess>();
+    program->start(path, {QStringLiteral("300")});
+    return {program, program->waitForStarted()};
+}
+
+faults::Fault faults::secondName(const QString &path, const QString &name)
+{
+    return {nullptr, ::link(qPrintable(path), qPrintable(name)) == 0};
+}
+
+bool faults::lock(const QFile &file) { return flock(file.handle(), LOCK_EX) == 0; }

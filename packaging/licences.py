@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Writes the licences of files that come from Debian packages. Usage: licences.py FOLDER FILE...
+"""Writes the licences of files that come from Debian packages. Usage: licences.py HEAD FOLDER [NAME=]FILE...
 
-FOLDER gets the copyright file of each package, the common licences that these refer to, and README.txt, which names for
-each file its package, where its source is, and its licences.
+FOLDER gets the copyright file of each package, the common licences that these refer to, and README.txt, which begins with
+the text of the file HEAD and names for each file its package, where its source is, and its licences. NAME stands for what
+isn't the package's file itself, but made from the same source.
 """
 import re
 import shutil
@@ -16,18 +17,6 @@ WORDINGS = {
     "MIT": r"permission\s+is\s+hereby\s+granted,\s+free\s+of\s+charge",
     "HPND": r"permission\s+to\s+use,\s+copy,\s+modify",
 }
-HEAD = """\
-Licences of what comes with this archive
-
-The configurator itself: see the file copyright.
-The Qt libraries are used under the GNU Lesser General Public License, version 3 (file LGPL-3, which adds to GPL-3). They
-lie as separate files in lib/ and plugins/ and may be replaced by other builds of the same version.
-The Noto Sans fonts are used under the SIL Open Font License, version 1.1 (in fonts-noto-core.copyright).
-
-Each file below is the one of the Debian package named, unchanged. Its copyright notices and licences are in
-PACKAGE.copyright; the corresponding source is Debian's source package of the version named (http://deb.debian.org and
-http://snapshot.debian.org).
-"""
 
 
 def ask(*command):
@@ -63,15 +52,15 @@ def referred(text):
     return {place.resolve().name for place in places if place.is_file()}
 
 
-def main(folder, *files):
+def main(head, folder, *files):
     folder = Path(folder)
     folder.mkdir(exist_ok=True)
     rows = {}
     needed = {"LGPL-3", "GPL-3"}
-    for file in files:
-        package = package_of(file)
-        rows.setdefault(package, []).append(Path(file).name)
-    lines = [HEAD]
+    for argument in files:
+        name, _, file = argument.rpartition("=")
+        rows.setdefault(package_of(file), set()).add(name or Path(file).name)
+    lines = [Path(head).read_text(encoding="utf-8")]
     for package, names in sorted(rows.items()):
         plain = package.split(":")[0]
         source = ask("dpkg-query", "-W", "-f", "${source:Package} ${source:Version}", package)

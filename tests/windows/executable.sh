@@ -1,0 +1,135 @@
+#!/usr/bin/env bash
+# The executable for Windows as it is delivered, started from a copy of its folder under Wine, seen and driven from
+# outside. Usage: with-display with-wine executable.sh EXECUTABLE
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+# For a folder that is mounted read-only, which only this script sees.
+if [[ -z ${CALORA_OWN_MOUNTS:-} ]]; then
+    namespaces=(unshare --mount)
+    ((EUID == 0)) || namespaces+=(--map-root-user)
+    export CALORA_OWN_MOUNTS=yes
+    exec "${namespaces[@]}" "${BASH_SOURCE[0]}" "$@"
+fi
+
+delivered=$(dirname "$1")
+work=$WINEPREFIX/drive_c/work
+folder=$work/calora
+desktop=$WINEPREFIX/drive_c/users/$(id -un)/Desktop
+mkdir -p "$folder"
+cp -r "$delivered/." "$folder"
+exe=$folder/calora-configurator.exe
+
+say() { echo "executable.sh: $1"; }
+fail() { say "FAILED: $1"; exit 1; }
+
+wait_for() { # what, command...
+    local tries
+    for ((tries = 0; tries < 300; tries++)); do
+        "${@:2}" >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    fail "$1"
+}
+visible() { window=$(xdotool search --onlyvisible --name "$1" | head -1) && [[ -n $window ]]; }
+hidden() { ! visible "$1"; }
+click() { xdotool mousemove --window "$tool" "$1" "$2" click 1; }
+
+start() { # argument...
+    env --unset=WINEQT_FORCE_STDERR_LOGGING wine64 "$exe" "$@" >"$work/output" 2>&1 &
+    pid=$!
+    wait_for "no window" visible '^Calora configurator$'
+    tool=$window
+}
+
+size_is() { [[ $(xdotool getwindowgeometry "$tool" | sed -n 's/.*Geometry: //p') == "$1" ]]; }
+
+close() {
+    local code=0
+    click 1416 20
+    wait "$pid" || code=$?
+    ((code == 0)) || fail "the tool ended with $code"
+    [[ ! -s $work/output ]] || fail "the tool printed: $(cat "$work/output")"
+}
+
+# What Windows is told by the file itself.
+is_made_for_windows() {
+    local told
+    told=$(x86_64-w64-mingw32-objdump -p "$exe")
+    grep -q '^Subsystem.*(Windows GUI)$' <<<"$told" || fail "the executable has a console"
+    # Every library that it needs is one of Windows.
+    while read -r library; do
+        [[ -e $WINEPREFIX/drive_c/windows/system32/${library,,} ]] || fail "the executable needs $library"
+    done < <(sed -n 's/^\s*DLL Name: //p' <<<"$told")
+    x86_64-w64-mingw32-objdump -h "$exe" | grep -q ' .rsrc ' || fail "the executable has no resources"
+    python3 - "$exe" <<'PY' || fail "the executable lacks its icon or version"
+import sys
+image = open(sys.argv[1], "rb").read()
+icon = open("resources/images/launcher_ic.ico", "rb").read()
+texts = {"FileDescription": "Calora configurator", "OriginalFilename": "calora-configurator.exe"}
+assert icon[-1000:] in image
+for name, value in texts.items():
+    assert name.encode("utf-16-le") + b"\0\0" in image and value.encode("utf-16-le") in image, name
+PY
+}
+
+# Arguments are ignored, also those that Qt knows; nothing is printed.
+starts_and_ends() {
+    start -platform offscreen -style windows --help
+    wait_for "the window isn't 1440 x 800" size_is 1440x800
+    close
+}
+
+# A whole settings file that misses nothing but to be seen and saved, and what Save makes of it.
+settings() {
+    python3 - "$1" "$2" <<'PY'
+import json, sys
+with open("resources/defaultsettings/KV5_AWHP_DATA_R32.json", encoding="utf-8") as file:
+    document = json.load(file)
+document["SettingInfo"]["user"]["DateInfo"].update(year=2026, month=4, mday=30)
+document["IduFuncList"]["is_cool"] = "SET"
+with open(sys.argv[1], "w", encoding="utf-8") as file:
+    json.dump(document, file, indent=1)
+with open(sys.argv[2], "w", encoding="utf-8") as file:
+    json.dump(document, file, sort_keys=True, separators=(",", ":"), ensure_ascii=False)
+PY
+}
+
+# The dialog of Windows itself starts at the desktop.
+saves_what_it_opened() {
+    settings "$desktop/plant.json" "$work/expected.json"
+    start
+    click 155 67 # Open
+    wait_for "no dialog to open a file" visible '^Json File$'
+    xdotool windowfocus --sync "$window" type --delay 50 plant.json
+    xdotool key Return
+    wait_for "the dialog stays" hidden '^Json File$'
+    click 72 409                                        # Operation setting
+    for tab in 620 938 1255; do click "$tab" 161; done  # User, Service, Installation
+    click 251 67                                        # Save
+    wait_for "the file wasn't saved as expected" cmp "$work/expected.json" "$desktop/plant.json"
+    close
+}
+
+runs_in_a_read_only_folder() {
+    mount --bind "$folder" "$folder" && mount -o remount,bind,ro "$folder" || { say "skipped: no mounts here"; return; }
+    start
+    wait_for "the window isn't 1440 x 800" size_is 1440x800
+    close
+    umount "$folder"
+}
+
+# Twice the usual density, which enlarges the windows of programs that ask for it.
+isnt_scaled() {
+    wine64 reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 192 /f >/dev/null
+    wineserver64 --kill
+    wineserver64 --wait
+    start
+    wait_for "the window isn't 1440 x 800" size_is 1440x800
+    close
+}
+
+for check in is_made_for_windows starts_and_ends saves_what_it_opened runs_in_a_read_only_folder isnt_scaled; do
+    "$check"
+    say "$check: good (${SECONDS} s)"
+done
