@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -31,8 +32,8 @@ const QColor ground(242, 242, 242);
 class Album
 {
 public:
-    Album(const QString &target, const QJsonDocument &texts)
-        : language(texts)
+    Album(const QString &target, QJsonDocument texts)
+        : language(std::move(texts))
         , folder(target)
     {
     }
@@ -41,7 +42,7 @@ public:
     {
         const QString path = folder.filePath(name + QStringLiteral(".png"));
         if (!picture.save(path)) {
-            std::fprintf(stderr, "pictures: can't write %s\n", qPrintable(path));
+            static_cast<void>(std::fprintf(stderr, "pictures: can't write %s\n", qPrintable(path)));
             saved = false;
         }
     }
@@ -342,7 +343,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2 || arguments.size() > 3 || !QDir().mkpath(arguments.at(1))) {
-        std::fputs("usage: pictures FOLDER [LANGUAGE FILE]\n", stderr);
+        static_cast<void>(std::fputs("usage: pictures FOLDER [LANGUAGE FILE]\n", stderr));
         return 2;
     }
     QFile language(arguments.value(2));
