@@ -263,7 +263,7 @@ void TestDocumentFiles::openDialogLooks()
 
 void TestDocumentFiles::dialogsListJsonFiles()
 {
-    const QDir desktop(home.filePath("Desktop"));
+    const QDir desktop(DocumentWindow::desktop(home));
     for (const char *name : {"a.json", "b.txt", "C.JSON", "json"}) {
         put(desktop.filePath(name), unsorted);
     }
