@@ -82,7 +82,7 @@ private:
         Tour::settle();
         const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
         if (!shown->grab().toImage().convertToFormat(QImage::Format_RGB888).save(path)) {
-            std::fprintf(stderr, "guide-pictures: can't write %s\n", qPrintable(path));
+            static_cast<void>(std::fprintf(stderr, "guide-pictures: can't write %s\n", qPrintable(path)));
             saved = false;
         }
     }
@@ -100,7 +100,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 2 || !QDir().mkpath(arguments.last())) {
-        std::fputs("usage: guide-pictures FOLDER\n", stderr);
+        static_cast<void>(std::fputs("usage: guide-pictures FOLDER\n", stderr));
         return 2;
     }
     prepareApplication();

@@ -5,6 +5,6 @@
 
 void fail(const char *what, const QByteArray &detail)
 {
-    std::fprintf(stderr, "fault: %s\n%s\n", what, detail.constData());
+    static_cast<void>(std::fprintf(stderr, "fault: %s\n%s\n", what, detail.constData()));
     std::abort();
 }

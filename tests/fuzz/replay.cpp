@@ -17,7 +17,7 @@ int main(int argc, char *argv[])
             if (!file.open(QIODevice::ReadOnly)) {
                 fail("can't be read", file.fileName().toUtf8());
             }
-            std::fprintf(stderr, "%s\n", qPrintable(name));
+            static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(name)));
             target->run(file.readAll());
             target->runAfter();
             ++count;

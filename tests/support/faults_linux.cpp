@@ -49,7 +49,7 @@ QByteArray itself(quint32 number)
 
 rlim_t setSizeLimit(rlim_t bytes)
 {
-    std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN)); // the write fails instead
     rlimit limit{};
     getrlimit(RLIMIT_FSIZE, &limit);
     const rlim_t before = limit.rlim_cur;

@@ -22,7 +22,7 @@ void keep(QtMsgType type, const QMessageLogContext &context, const QString &text
     log().append(text);
     if (text.contains(QLatin1String("No matching signal"))
         || text.contains(QLatin1String("QObject::connect"))) {
-        std::fprintf(stderr, "%s\n", qPrintable(text));
+        static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(text)));
         std::abort();
     }
     if (type == QtFatalMsg && previous() != nullptr) {
