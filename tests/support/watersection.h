@@ -29,20 +29,20 @@ template <class Page>
 class Driver
 {
 public:
-    /// Loads R32 with the values into the closed section.
-    void load(const QVariantMap &values = {}, const QString &unit = QStringLiteral("CENTIGRADE"))
+    /// Loads R32 with more values into the closed section.
+    void load(const QVariantMap &more = {}, const QString &unit = QStringLiteral("CENTIGRADE"))
     {
         if (page->isVisible()) {
             Window::expand(page, false);
         }
         const QVariantMap shownAll{{flag("is_cool"), "SET"}, {sensed, "AIR"}, {airAndWater, "SET"}};
-        window.use(documents::with(documents::standard("R32"), documents::joined(shownAll, values)), unit);
+        window.use(documents::with(documents::standard("R32"), documents::joined(shownAll, more)), unit);
         window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
     }
     /// The same, and opens it.
-    void open(const QVariantMap &values = {}, const QString &unit = QStringLiteral("CENTIGRADE"))
+    void open(const QVariantMap &more = {}, const QString &unit = QStringLiteral("CENTIGRADE"))
     {
-        load(values, unit);
+        load(more, unit);
         Window::expand(page);
         messages::clear();
     }
