@@ -17,6 +17,7 @@ struct General {
 const General generals[] = {
     {"below a missing group", "a write below a group that isn't there puts the value into the group's place"},
     {"shown below a missing group", "what was written there is read nowhere"},
+    {"listed below a missing group", "a bound that was written there holds for the list and is read nowhere"},
     {"crossed limits", "a list whose limits have crossed stays as it was"},
     {"no month", "the list of days stays while no month is chosen"},
     {"seasonal blank", "a seasonal box that its neighbours leave no room goes blank, and blank counts as 0"},
@@ -267,6 +268,11 @@ bool exceptions::excuse(const Scene &scene, const QString &control, int expected
         }
     }
     return effects::isBelowMissingGroup(control, scene) && note("shown below a missing group");
+}
+
+bool exceptions::excuseList(const Scene &scene, const QString &control)
+{
+    return effects::isBelowMissingGroup(control, scene) && note("listed below a missing group");
 }
 
 void exceptions::Traces::touched(const QString &name)

@@ -17,6 +17,8 @@ QMap<QString, int> counts();
 /// Whether an exception lets the control show other than its rule says, whatever came before; `expected` is
 /// the index that the rule gives for a combo box.
 bool excuse(const Scene &scene, const QString &control, int expected = 0);
+/// The same for the list of a combo box.
+bool excuseList(const Scene &scene, const QString &control);
 
 /// What touches leave behind that the document doesn't tell, until the control is loaded or touched.
 class Traces

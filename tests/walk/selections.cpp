@@ -87,7 +87,8 @@ QStringList Selections::ofCombos(const Scene &scene) const
         const auto items = rule.items(scene);
         if (!items) {
             exceptions::note(name.startsWith(QLatin1String("SettingUser")) ? "no month" : "crossed limits");
-        } else if (Window::items(combo) != *items && !traces.excuseList(name)) {
+        } else if (Window::items(combo) != *items && !traces.excuseList(name)
+                   && !exceptions::excuseList(scene, name)) {
             result.append(
                 QStringLiteral("%1 lists \"%2\", its rule \"%3\"")
                     .arg(name, Window::items(combo).join(QLatin1Char(' ')), items->join(QLatin1Char(' '))));
