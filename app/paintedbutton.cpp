@@ -66,7 +66,9 @@ void PaintedButton::drawText(QPainter &painter, const QRect &place) const
     }
     QFont large = font();
     large.setPointSize(15);
-    large.setUnderline(large.underline() || hasFocus());
+    // The focus that a window gives at its start, or a program, is nobody's wish.
+    const bool shown = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    large.setUnderline(large.underline() || shown);
     painter.setFont(large);
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, text);
 }

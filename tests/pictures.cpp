@@ -208,6 +208,7 @@ QList<QPixmap> statesOf(QWidget &window, QWidget *widget)
     leaveAll();
     if (widget->focusPolicy() != Qt::NoFocus) {
         widget->setFocus(Qt::TabFocusReason);
+        widget->window()->setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
     }
     pictures.append(partOf(window, widget));
     widget->clearFocus();

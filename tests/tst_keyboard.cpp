@@ -82,6 +82,7 @@ bool isForeign(const QImage &picture)
 bool showsFocus(QWidget *widget)
 {
     widget->setFocus(Qt::TabFocusReason);
+    widget->window()->setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
     const QImage with = look(widget);
     widget->clearFocus();
     return with != look(widget) && !isForeign(with);

@@ -196,9 +196,6 @@ void TestPaintedButtons::init()
 {
     host = std::make_unique<QWidget>();
     host->resize(400, 200);
-    // A window gives the focus to the first widget that takes it.
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->setFocus();
     tabButton = new TabButton(host.get());
     tabButton->setGeometry(10, 10, 120, 44);
     imageButton = new ImageButton(host.get());
@@ -392,18 +389,23 @@ void TestPaintedButtons::keysClick()
     QCOMPARE(clicked.size(), 3);
 }
 
-// By Tab alone: a click leaves the focus where it is.
+// By Tab alone: a click leaves the focus where it is, and what a window gives by itself isn't shown.
 void TestPaintedButtons::focusUnderlinesTheText()
 {
     tabButton->setText("Function");
     imageButton->setText("New");
     QVERIFY(QTest::qWaitForWindowActive(host.get()));
     QWidget *widget = button();
+    widget->clearFocus();
     const QImage plain = looks(widget);
     QTest::mouseClick(widget, Qt::LeftButton);
     QVERIFY(!widget->hasFocus());
-    widget->setFocus(Qt::TabFocusReason);
+    widget->setFocus(Qt::ActiveWindowFocusReason);
     QVERIFY(widget->hasFocus());
+    QCOMPARE(looks(widget), plain);
+    QTest::keyClick(host.get(), Qt::Key_Tab);
+    QTest::keyClick(host.get(), Qt::Key_Backtab);
+    widget->setFocus();
     const QImage focused = looks(widget);
     QFont line = widget->font();
     line.setUnderline(true);
