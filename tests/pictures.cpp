@@ -350,6 +350,7 @@ int main(int argc, char *argv[])
     QFile language(arguments.value(2));
     const bool translated = arguments.size() == 3 && language.open(QIODevice::ReadOnly);
     prepareApplication();
+    QApplication::setCursorFlashTime(0); // or it depends on the moment whether the cursor shows
     Album album(arguments.at(1), translated ? QJsonDocument::fromJson(language.readAll()) : QJsonDocument());
     takeAll(album);
     return album.isSaved() ? 0 : 1;
