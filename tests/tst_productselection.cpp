@@ -2,7 +2,11 @@
 
 #include "pages/product/productselection.h"
 
+#include <QGroupBox>
+#include <QPainter>
+#include <QSet>
 #include <QSignalSpy>
+#include <QStyleOptionButton>
 
 // Step 1: product type, product spec and refrigerant.
 class TestProductSelection : public QObject
@@ -26,6 +30,9 @@ private slots:
     void textsFollowTheLanguage();
     void languageKeepsChoicesAndDocument();
     void fontsAreThoseOfThePage();
+    void indicatorsStandBehindAMargin_data();
+    void indicatorsStandBehindAMargin();
+    void groupsHaveNoBorder();
     void mediumTemperatureAloneLeavesTheStepOpen();
     void checkStopsAtTheFirstMissingChoice();
     void checkNeverTakesTheMarkAway();
@@ -43,6 +50,7 @@ private slots:
     void aquaboxTakesR410WithEachSpec();
     void writesBeforeItIsShown();
     void unknownRefrigerantIsRefused();
+    void missingDefaultsChangeNothing();
     void writesNothingWithoutDocument();
 
 private:
@@ -143,6 +151,46 @@ void TestProductSelection::fontsAreThoseOfThePage()
     }
     for (const QRadioButton *radio : page->findChildren<QRadioButton *>()) {
         QCOMPARE(radio->font().family(), QStringLiteral("Noto Sans"));
+    }
+}
+
+void TestProductSelection::indicatorsStandBehindAMargin_data()
+{
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("radioButtonMiddleTemp") << ":/images/btn_radiobtn_on.png";
+    QTest::newRow("radioButtonR32") << ":/images/btn_radiobtn_off.png";
+}
+
+// The left of a radio, as it is painted: a margin of 16, a picture of 18 by 18, a gap of 8, the text.
+void TestProductSelection::indicatorsStandBehindAMargin()
+{
+    QFETCH(QString, picture);
+    Window::click(page, "radioButtonMiddleTemp");
+    const auto *radio = Window::find<QRadioButton>(page, QTest::currentDataTag());
+    QImage expected(42, radio->height(), QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QPainter(&expected).drawImage(QRect(16, (radio->height() - 18) / 2, 18, 18), QImage(picture));
+    const QRect left(radio->mapTo(page, QPoint()), expected.size());
+    QCOMPARE(page->grab().toImage().convertToFormat(expected.format()).copy(left), expected);
+    QStyleOptionButton option;
+    option.initFrom(radio);
+    QCOMPARE(radio->style()->subElementRect(QStyle::SE_RadioButtonContents, &option, radio).left(), 42);
+}
+
+// All around, but for the round corners, a group is as white as inside.
+void TestProductSelection::groupsHaveNoBorder()
+{
+    constexpr int corner = 4;
+    for (const QGroupBox *group : page->findChildren<QGroupBox *>()) {
+        const QImage picture = page->grab(QRect(group->mapTo(page, QPoint()), group->size())).toImage();
+        QSet<QRgb> edge;
+        for (int x = corner; x < picture.width() - corner; ++x) {
+            edge << picture.pixel(x, 0) << picture.pixel(x, picture.height() - 1);
+        }
+        for (int y = corner; y < picture.height() - corner; ++y) {
+            edge << picture.pixel(0, y) << picture.pixel(picture.width() - 1, y);
+        }
+        QCOMPARE(edge, QSet<QRgb>{qRgb(255, 255, 255)});
     }
 }
 
@@ -416,6 +464,31 @@ void TestProductSelection::unknownRefrigerantIsRefused()
     QVERIFY(messages::contain("MainDialog::openNewJsonFile load json data failed"));
     QVERIFY(window->dialog.openNewJsonFile("r32"));
     QCOMPARE(Window::find<QLabel>(&window->dialog, "pathLabel")->text(), QStringLiteral("R32"));
+}
+
+// The radio stays checked, and neither the tabs nor the step nor the dip switch page hear of it.
+void TestProductSelection::missingDefaultsChangeNothing()
+{
+    Window::click(page, "radioButtonMiddleTemp");
+    Window::click(page, "radioButtonR32");
+    window->dialog.setStepCompleted(false, 1);
+    for (const int tab : {0, 1, 2, 3}) {
+        window->dialog.setSettingTabValid(true, tab);
+    }
+    const QJsonDocument before = window->dialog.document();
+    const QSignalSpy told(page, &ProductSelection::buttonClicked);
+    messages::clear();
+    Q_CLEANUP_RESOURCE(defaultsettings);
+    Window::click(page, "radioButtonR410");
+    Q_INIT_RESOURCE(defaultsettings);
+    QCOMPARE(messages::all().last(), QStringLiteral("MainDialog::openNewJsonFile load json data failed"));
+    QVERIFY(checked("radioButtonR410"));
+    QCOMPARE(window->dialog.document(), before);
+    const DialogState &state = window->dialog.members();
+    QVERIFY(state.functionValid && state.userValid && state.serviceValid && state.installationValid);
+    QVERIFY(!productDone());
+    QCOMPARE(state.refrigerant, QStringLiteral("R32"));
+    QCOMPARE(told.size(), 0);
 }
 
 void TestProductSelection::writesNothingWithoutDocument()
