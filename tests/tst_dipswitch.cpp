@@ -34,6 +34,7 @@ private slots:
     void emptyPulsesFail_data();
     void emptyPulsesFail();
     void hiddenTankRadioPasses();
+    void functionMasterThatIsNotOfferedPasses();
     void readsAndWritesByPath();
 };
 
@@ -98,6 +99,8 @@ void TestDipSwitch::startsWithFormTexts_data()
     QTest::newRow("radioDhwUse") << "Use";
     QTest::newRow("radioDhwOnly") << "DHW Only";
     QTest::newRow("labelSolar") << "Solar Thermal Kit";
+    QTest::newRow("radioSolarThermalKitNotuse") << "Not use";
+    QTest::newRow("radioSolarThermalKitUse") << "Use";
     QTest::newRow("labelOperation") << "Operation Mode";
     QTest::newRow("radioOperationHeating") << "Heating Only";
     QTest::newRow("radioOperationBoth") << "Heating And Cooling";
@@ -105,10 +108,14 @@ void TestDipSwitch::startsWithFormTexts_data()
     QTest::newRow("radioFlowAlways") << "Always";
     QTest::newRow("radioFlowOnlyPump") << "On Status Only";
     QTest::newRow("labelElectric") << "Electric Heater";
+    QTest::newRow("radioElectricHeaterNotuse") << "Not use";
     QTest::newRow("radioElectricHeater1") << "Step1";
     QTest::newRow("radioElectricHeaterBoth") << "Step2";
     QTest::newRow("labelThermostat") << "3rd Party Thermostat";
+    QTest::newRow("radioThermostatNone") << "Not use";
+    QTest::newRow("radioThermostatUse") << "Use";
     QTest::newRow("labelOrvometerInterface") << "Orvo Meter Interface";
+    QTest::newRow("radioOrvometerInterfaceNotuse") << "Not use";
     QTest::newRow("labelOrvoAddress") << "Address";
     QTest::newRow("radioOrvoAddressB0") << "B0";
     QTest::newRow("radioOrvoAddressB1") << "B1";
@@ -117,6 +124,9 @@ void TestDipSwitch::startsWithFormTexts_data()
     QTest::newRow("labelOrvoWHM3") << "Pulse Spec.(WHM3) :";
     QTest::newRow("labelOrvoWHM4") << "Pulse Spec.(Heat Meter) :";
     QTest::newRow("labelPulsekW1") << "pulse / kWh";
+    QTest::newRow("labelPulsekW2") << "pulse / kWh";
+    QTest::newRow("labelPulsekW3") << "pulse / kWh";
+    QTest::newRow("labelPulsekW4") << "pulse / kWh";
     QTest::newRow("labelODUFunctionMaster") << "ODU Function Master";
     QTest::newRow("radioOduMaster") << "Master";
     QTest::newRow("radioOduSlave") << "Slave";
@@ -124,8 +134,13 @@ void TestDipSwitch::startsWithFormTexts_data()
     QTest::newRow("radioSilentODU") << "ODU";
     QTest::newRow("radioSilentRemote") << "Remote Controller";
     QTest::newRow("labelAdditionalAir") << "Remote Air Temperature Sensor";
+    QTest::newRow("radioAdditionalAirNotUse") << "Not use";
+    QTest::newRow("radioAdditionalAirUse") << "Use";
     QTest::newRow("labelAtifreeze") << "Anti-freezing \nSolution";
+    QTest::newRow("radioAntifreezeNotuse") << "Not use";
+    QTest::newRow("radioAntifreezeUse") << "Use";
     QTest::newRow("labelDhwSpacing") << "";
+    QTest::newRow("labelDWHGuide") << "Dip switch guide";
     QTest::newRow("labelSW2") << "A : 8 Pin Switch (SW2)";
     QTest::newRow("labelSW1") << "B : 4 Pin Switch (SW1)";
     QTest::newRow("labelSW3") << "C : 4 Pin Switch (SW3)";
@@ -267,10 +282,10 @@ void TestDipSwitch::showsTheBoardOfTheRefrigerant()
 void TestDipSwitch::refrigerantClickShowsTheBoard()
 {
     Window::click(&window->dialog, "newButton");
-    Window::click(&window->dialog, "radioButtonR410");
-    QVERIFY(style("labelPCB").contains("img_pcb_R410.png"));
-    Window::click(&window->dialog, "radioButtonR32");
-    QVERIFY(style("labelPCB").contains("img_pcb_R32.png"));
+    for (const char *refrigerant : {"R32", "R410", "R32"}) {
+        Window::click(&window->dialog, QByteArray("radioButton") + refrigerant);
+        QVERIFY(style("labelPCB").contains(QStringLiteral("img_pcb_%1.png").arg(refrigerant)));
+    }
 }
 
 void TestDipSwitch::fitsTheSmallestWindow()
@@ -369,6 +384,18 @@ void TestDipSwitch::hiddenTankRadioPasses()
     load({});
     uncheck("radioDhwUse radioDhwOnly radioDhwNotUse");
     Window::invoke(page, "validationCheck");
+    QVERIFY(done());
+}
+
+// Neither are master and slave asked for then, nor the silent mode priority that goes with them, though no
+// load has hidden that group by itself.
+void TestDipSwitch::functionMasterThatIsNotOfferedPasses()
+{
+    close();
+    open();
+    load(documents::joined(flags("isOduFunctionMS CLR"), {{"product", "aquabox"}}));
+    QVERIFY(Window::shownItself(page, "groupBoxSilentModePriority"));
+    QCOMPARE(checkedOf("radioOduMaster radioOduSlave radioSilentODU radioSilentRemote"), QString());
     QVERIFY(done());
 }
 

@@ -24,6 +24,8 @@ private slots:
     void pulsesAreCutToTenths();
     void masterOffersSilentMode();
     void slaveIsForgotten();
+    void masterStays();
+    void dhwOnlyIsLostWithoutHeater();
     void silentSubCategoryFollowsMaster();
     void writesNothingBeforeShown();
     void writesNothingWithoutDocument();
@@ -295,6 +297,46 @@ void TestDipSwitchChoices::slaveIsForgotten()
     window->showPage(MainDialog::DipSwitchPage);
     QCOMPARE(checkedOf("radioOduMaster radioOduSlave"), QString());
     QVERIFY(done());
+}
+
+// A load finds nothing of what the master radio writes either, and leaves that radio checked: without the
+// silent mode priority, which goes by the document.
+void TestDipSwitchChoices::masterStays()
+{
+    load(everything());
+    Window::click(page, "radioOduMaster");
+    window->use(
+        documents::with(window->dialog.document(), {{"SettingInfo.installation.OduFunctionMs", QVariant()}}));
+    window->showPage(MainDialog::DipSwitchPage);
+    QCOMPARE(checkedOf("radioOduMaster radioOduSlave"), QStringLiteral("radioOduMaster"));
+    QCOMPARE(style("labelODUFunctionMaster"), labelEnabled);
+    for (const char *name : {"radioOduMaster", "radioOduSlave"}) {
+        QVERIFY(Window::enabled(page, name));
+        QCOMPARE(style(name), radioEnabled);
+    }
+    QVERIFY(!Window::shownItself(page, "groupBoxSilentModePriority"));
+    QVERIFY(!Window::enabled(page, "groupBoxSilentModePriority"));
+    QVERIFY(done());
+}
+
+// The first load shows the flag, and then takes it away as it finds no heater.
+void TestDipSwitchChoices::dhwOnlyIsLostWithoutHeater()
+{
+    const QString tank = QStringLiteral("radioDhwNotUse radioDhwUse radioDhwOnly");
+    const auto showPage = [this] { window->showPage(MainDialog::DipSwitchPage); };
+    load({{"product", "aquabox"}});
+    Window::click(page, "radioDhwOnly");
+    QCOMPARE(window->changes(showPage), flags("is_boosterht_onlyMode CLR"));
+    QCOMPARE(checkedOf(tank), QStringLiteral("radioDhwOnly"));
+    QCOMPARE(bank(2).mid(1, 2), QStringLiteral("11"));
+    QCOMPARE(window->changes(showPage), QVariantMap());
+    QCOMPARE(checkedOf(tank), QStringLiteral("radioDhwUse"));
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"),
+             QStringLiteral("radioSolarThermalKitNotuse"));
+    QCOMPARE(bank(2).mid(1, 2), QStringLiteral("01"));
+    // The flag that only the clicks on the tank's radios write.
+    QCOMPARE(documents::with(window->dialog.document(), flags("is_power_hotwater SET")),
+             window->dialog.document());
 }
 
 void TestDipSwitchChoices::silentSubCategoryFollowsMaster()
