@@ -96,9 +96,17 @@ void TestSettingFunction::startsWithTheTextsOfTheForm_data()
     QTest::newRow("labelEndTime") << "Silent Mode End Time";
     QTest::newRow("labelLock") << "Lock";
     QTest::newRow("labelAll") << "All Button Lock";
+    QTest::newRow("radioAllButtonNone") << "Not use";
+    QTest::newRow("radioAllButtonUse") << "Use";
     QTest::newRow("labelOnOff") << "On/Off Button Lock";
+    QTest::newRow("radioOnOffButtonNone") << "Not use";
+    QTest::newRow("radioOnOffButtonUse") << "Use";
     QTest::newRow("labelOperationMode") << "Operation Mode Button\nLock";
+    QTest::newRow("radioOperationModeButtonNone") << "Not use";
+    QTest::newRow("radioOperationModeButtonUse") << "Use";
     QTest::newRow("labelDHW") << "DHW On/Off Button\nLock";
+    QTest::newRow("radioDhwOnOffNone") << "Not use";
+    QTest::newRow("radioDhwOnOffUse") << "Use";
     QTest::newRow("labelODEFunction") << "ODU Function";
     QTest::newRow("labelDSR") << "Defrost/Snow Removal";
 }

@@ -37,6 +37,8 @@ private slots:
     void timesAreSelectedInOrder();
     void timesThatAreNotListedAreReplaced_data();
     void timesThatAreNotListedAreReplaced();
+    void missingGroupsTakeTheLastValue_data();
+    void missingGroupsTakeTheLastValue();
     void timesBecomeText_data();
     void timesBecomeText();
     void halfDaysBecomeText_data();
@@ -307,6 +309,36 @@ void TestSettingSilentTimes::timesThatAreNotListedAreReplaced()
                  documents::with(documents::standard("R410"),
                                  {{clock + ".ampm", "AM"}, {clock + ".hour", 0}, {clock + ".min", 0}}));
     }
+}
+
+// The lists are selected in the order of start hour, start minute, end minute, end hour; those that leave
+// their item write, and the half of the day follows the hour.
+void TestSettingSilentTimes::missingGroupsTakeTheLastValue_data()
+{
+    QTest::addColumn<QVariantMap>("shown");
+    QTest::addColumn<QString>("missing");
+    QTest::addColumn<QVariant>("written");
+    const QVariantMap midnight{{endClock + ".hour", 0}};
+    QTest::newRow("hours last") << QVariantMap() << func + "silentTimer" << QVariant("AM");
+    QTest::newRow("minute last") << documents::joined(midnight, {{startClock + ".min", 30}})
+                                 << func + "silentTimer" << QVariant(0);
+    QTest::newRow("nothing left") << documents::joined(
+        midnight, {{startClock + ".hour", 0}, {startClock + ".ampm", "AM"}})
+                                  << func + "silentTimer" << QVariant();
+    QTest::newRow("one clock") << QVariantMap() << startClock << QVariant("AM");
+}
+
+// A missing group isn't made anew: its name takes each value in turn.
+void TestSettingSilentTimes::missingGroupsTakeTheLastValue()
+{
+    QFETCH(QVariantMap, shown);
+    QFETCH(QString, missing);
+    QFETCH(QVariant, written);
+    show(shown);
+    show({{missing, QVariant()}});
+    QCOMPARE(Window::shown(page, "comboSilentStartHour"), QStringLiteral("00"));
+    QCOMPARE(Window::shown(page, "comboSilentStartMin"), QStringLiteral("00"));
+    QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), {{missing, written}}));
 }
 
 void TestSettingSilentTimes::timesBecomeText_data()
