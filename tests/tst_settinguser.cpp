@@ -208,10 +208,13 @@ void TestSettingUser::languageChangeKeepsPositions()
 
 void TestSettingUser::languageChangeSelectsWhereNothingWas()
 {
-    show({{year, 2014}});
+    show({{year, 2014}, {brightness, "BRIGHTNESS50"}});
     QCOMPARE(combo("comboDateYear")->currentIndex(), -1);
+    QCOMPARE(combo("comboBrightness")->currentIndex(), -1);
     QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
     QCOMPARE(combo("comboDateYear")->currentIndex(), 0);
+    // This list needs no words and isn't filled again.
+    QCOMPARE(combo("comboBrightness")->currentIndex(), -1);
 }
 
 void TestSettingUser::otherLanguageLoadsAndSaves()

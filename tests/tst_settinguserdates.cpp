@@ -1,5 +1,6 @@
 #include "support/usertabtest.h"
 
+#include <QScopeGuard>
 #include <QSignalSpy>
 
 // The User tab's date and summer time.
@@ -28,6 +29,18 @@ private slots:
     void summerDatesShow();
     void datesAreSelectedInOrder();
     void daysInLanguageKeepTheIndex();
+    void withoutLanguageNothingChosenIsUnset_data();
+    void withoutLanguageNothingChosenIsUnset();
+    void withoutLanguageCaptionsAreEmpty();
+
+private:
+    /// No text has a language until what is returned goes; then English is in force again.
+    auto withoutLanguage() const
+    {
+        window->dialog.setLanguageDocument({});
+        window->dialog.changeLanguage();
+        return qScopeGuard([this] { window->speak(); });
+    }
 };
 
 void TestSettingUserDates::summerTimeOnIsNotChecked()
@@ -288,6 +301,51 @@ void TestSettingUserDates::daysInLanguageKeepTheIndex()
     QCOMPARE(list->currentIndex(), 0);
     QCOMPARE(Window::items(list), headed("Day", 1, 31));
     QCOMPARE(changed.size(), 0);
+}
+
+void TestSettingUserDates::withoutLanguageNothingChosenIsUnset_data()
+{
+    QTest::addColumn<QVariantMap>("written");
+    QTest::newRow("comboDateYear") << QVariantMap{{year, unset}};
+    QTest::newRow("comboDateMonth") << QVariantMap{{mday, unset}};
+    QTest::newRow("comboDateDay") << QVariantMap{{mday, unset}};
+    QTest::newRow("comboStartMonth") << QVariantMap{{startMonth, unset}, {startDay, unset}};
+    QTest::newRow("comboStartDay") << QVariantMap{{startDay, unset}};
+    QTest::newRow("comboEndMonth") << QVariantMap{{endMonth, unset}, {endDay, unset}};
+    QTest::newRow("comboEndDay") << QVariantMap{{endDay, unset}};
+    QTest::newRow("comboScreenSaverTimer")
+        << QVariantMap{{user + "backlightControl.dimmTimeSet", "BACKLIGHTS"}};
+}
+
+// A list on no item shows the text of its caption then: none.
+void TestSettingUserDates::withoutLanguageNothingChosenIsUnset()
+{
+    QFETCH(QVariantMap, written);
+    const auto language = withoutLanguage();
+    show(documents::joined(dated, {{summerTime, "SET"}}));
+    const auto leave = [this] { combo(QTest::currentDataTag())->setCurrentIndex(-1); };
+    QCOMPARE(window->changes(leave), written);
+    QCOMPARE(Window::enabled(page, "comboDateDay"), QByteArray("comboDateMonth") != QTest::currentDataTag());
+}
+
+void TestSettingUserDates::withoutLanguageCaptionsAreEmpty()
+{
+    const auto language = withoutLanguage();
+    show(documents::joined(dated, {{summerTime, "SET"}}));
+    QCOMPARE(Window::items(page, "comboDateYear"), headed(QString(), 2015, 2037));
+    for (const char *months : {"comboDateMonth", "comboStartMonth", "comboEndMonth"}) {
+        QCOMPARE(Window::items(page, months), headed(QString(), 1, 12));
+    }
+    for (const char *days : {"comboDateDay", "comboStartDay", "comboEndDay"}) {
+        QCOMPARE(Window::items(page, days), headed(QString(), 1, 31));
+    }
+    QCOMPARE(Window::items(page, "comboScreenSaverTimer"), (QStringList{"15", "30", "60"}));
+    QCOMPARE(Window::shown(page, "comboScreenSaverTimer"), QStringLiteral("30"));
+    QCOMPARE(changesOf("comboScreenSaverTimer", "60"),
+             (QVariantMap{{user + "backlightControl.dimmTimeSet", "BACKLIGHT60S"}}));
+    // A year that isn't listed is lost: with a language it would be 0.
+    show({{year, 2014}});
+    QCOMPARE(stored(year).toInt(), unset);
 }
 
 CALORA_TEST_MAIN(TestSettingUserDates)
