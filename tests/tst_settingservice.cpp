@@ -27,6 +27,8 @@ private slots:
     void typingWritesAtOnce();
     void emptyingDiffers_data();
     void emptyingDiffers();
+    void slotsWriteTheFieldsText_data();
+    void slotsWriteTheFieldsText();
     void patterns();
     void telephoneRefusesLetters();
     void sixteenthCharacterIsRefused_data();
@@ -209,6 +211,35 @@ void TestSettingService::emptyingDiffers()
     QCOMPARE(field->text(), QString());
     window->showPage(MainDialog::SettingPage, MainDialog::ServiceTab);
     QCOMPARE(field->text(), shownAgain);
+}
+
+void TestSettingService::slotsWriteTheFieldsText_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("writtenForNothing");
+    QTest::newRow("lineEditOfficeName") << "SettingInfo.svc.svcContact.company"
+                                        << "-";
+    QTest::newRow("lineEditInstallerName") << "SettingInfo.svc.svcContact.installerName"
+                                           << "77";
+    QTest::newRow("lineEditTelephone") << "SettingInfo.svc.svcContact.phoneNumber"
+                                       << "77";
+}
+
+// Whatever text they are told; the company's alone asks whether that is empty.
+void TestSettingService::slotsWriteTheFieldsText()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, writtenForNothing);
+    show({{path, "77"}});
+    window->use(documents::with(documents::standard("R410"), {{path, "x"}}));
+    const auto tell = [this](const QString &text) {
+        const QByteArray slot = QByteArray("on_") + QTest::currentDataTag() + "_textChanged";
+        QVERIFY(QMetaObject::invokeMethod(page, slot, Q_ARG(QString, text)));
+    };
+    QCOMPARE(window->changes([tell] { tell(QString()); }), (QVariantMap{{path, writtenForNothing}}));
+    window->use(documents::with(documents::standard("R410"), {{path, "x"}}));
+    QCOMPARE(window->changes([tell] { tell("88"); }), (QVariantMap{{path, "77"}}));
+    QCOMPARE(edit(QTest::currentDataTag())->text(), QStringLiteral("77"));
 }
 
 void TestSettingService::patterns()
