@@ -77,7 +77,10 @@ QString verdict(const Row &row)
     if (row.atMost <= 0) {
         return {};
     }
-    return median(row.ratios) <= row.atMost ? QStringLiteral("good") : QStringLiteral("missed");
+    if (median(row.ratios) <= row.atMost) {
+        return QStringLiteral("good");
+    }
+    return row.forced.isEmpty() ? QStringLiteral("missed") : QStringLiteral("missed: ") + row.forced;
 }
 
 } // namespace

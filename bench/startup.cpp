@@ -10,6 +10,9 @@
 #include <QScreen>
 #include <QThread>
 
+#include <algorithm>
+#include <iterator>
+
 namespace bench {
 
 namespace {
@@ -41,7 +44,7 @@ struct Start {
 
 /// Starts a program; tells when its window gets its first colour, and its memory once it rests. The
 /// background is black, and a window has none of its own until the program paints it.
-Start start(const QString &program)
+Start start(const QString &program, const QStringList &arguments = {})
 {
     constexpr unsigned long rest = 400;
     const QRgb background = middle();
@@ -49,7 +52,7 @@ Start start(const QString &program)
     process.setStandardErrorFile(QProcess::nullDevice());
     Start result;
     result.firstPaint = timed([&] {
-        process.start(program, QStringList());
+        process.start(program, arguments);
         waitFor([&] { return middle() != background; }, "the first paint");
     });
     QThread::msleep(rest);
@@ -65,8 +68,13 @@ struct Told {
     double number;
 };
 
-/// What the tour tells, in its order.
-std::vector<Told> tour()
+/// What the tour tells: each page's shows in their order, and the memory at its end.
+struct Tour {
+    std::vector<Told> shows;
+    Memory visited;
+};
+
+Tour tour()
 {
     QProcess process;
     process.start(QStringLiteral(CALORA_TOUR), QStringList());
@@ -79,43 +87,79 @@ std::vector<Told> tour()
             told.push_back({QString::fromUtf8(cells.at(0)), cells.at(1).toDouble()});
         }
     }
-    if (process.exitCode() != 0 || told.empty()) {
+    constexpr int sizes = 2;
+    if (process.exitCode() != 0 || told.size() <= sizes) {
         qFatal("The tour failed");
     }
-    return told;
+    const auto memory = told.end() - sizes;
+    return {{told.begin(), memory}, {memory[0].number, memory[1].number}};
+}
+
+struct Run {
+    Start bare;
+    Start text;
+    Start tool;
+    Tour tour;
+};
+
+std::vector<Run> startByTurns()
+{
+    std::vector<Run> all;
+    for (int run = 0; run < runs; ++run) {
+        const Start bare = start(QStringLiteral(CALORA_BARE));
+        const Start text = start(QStringLiteral(CALORA_BARE), {QStringLiteral("--text")});
+        const Start tool = start(QStringLiteral(CALORA_EXECUTABLE));
+        all.push_back({bare, text, tool, tour()});
+    }
+    return all;
+}
+
+/// What is measured, the most that it may be, and how to get it from a start or from the end of the tour.
+struct Measure {
+    const char *what;
+    double atMost;
+    std::function<double(const Run &)> ratio;
+    QString forced = {};
+};
+
+std::vector<Measure> measures()
+{
+    const auto forced = QStringLiteral("text, and every page built with the window");
+    const char *const ofText = "the same, of a bare window with a line of text";
+    return {
+        {"process start to first paint", 1.6,
+         [](const Run &run) { return run.tool.firstPaint / run.bare.firstPaint; }, forced},
+        {ofText, 0, [](const Run &run) { return run.text.firstPaint / run.bare.firstPaint; }},
+        {"resident memory after start", 1.3,
+         [](const Run &run) { return run.tool.memory.resident / run.bare.memory.resident; }, forced},
+        {ofText, 0, [](const Run &run) { return run.text.memory.resident / run.bare.memory.resident; }},
+        {"memory of its own after start", 0,
+         [](const Run &run) { return run.tool.memory.own / run.bare.memory.own; }},
+        {"resident memory after visiting every page", 1.6,
+         [](const Run &run) { return run.tour.visited.resident / run.bare.memory.resident; }},
+        {"memory of its own after visiting every page", 0,
+         [](const Run &run) { return run.tour.visited.own / run.bare.memory.own; }},
+    };
 }
 
 } // namespace
 
 std::vector<Row> startRows()
 {
-    const QString bareWindow = QStringLiteral("bare Qt window");
-    Row paint{QStringLiteral("process start to first paint"), bareWindow, {}, 1.6};
-    Row memory{QStringLiteral("resident memory after start"), bareWindow, {}, 1.3};
-    Row own{QStringLiteral("memory of its own after start"), bareWindow, {}, 0};
-    Row visited{QStringLiteral("resident memory after visiting every page"), bareWindow, {}, 1.6};
-    Row ownVisited{QStringLiteral("memory of its own after visiting every page"), bareWindow, {}, 0};
-    std::vector<Row> shows;
-    for (int run = 0; run < runs; ++run) {
-        const Start bare = start(QStringLiteral(CALORA_BARE));
-        const Start tool = start(QStringLiteral(CALORA_EXECUTABLE));
-        paint.ratios.push_back(tool.firstPaint / bare.firstPaint);
-        memory.ratios.push_back(tool.memory.resident / bare.memory.resident);
-        own.ratios.push_back(tool.memory.own / bare.memory.own);
-        std::vector<Told> told = tour();
-        ownVisited.ratios.push_back(told.back().number / bare.memory.own);
-        told.pop_back();
-        visited.ratios.push_back(told.back().number / bare.memory.resident);
-        told.pop_back();
-        shows.resize(told.size());
-        for (std::size_t show = 0; show < told.size(); ++show) {
-            shows[show].what = told[show].name;
-            shows[show].ratios.push_back(told[show].number / frame);
-        }
+    const std::vector<Run> all = startByTurns();
+    std::vector<Row> rows;
+    const auto add = [&](const QString &what, const char *yardstick, double atMost,
+                         const std::function<double(const Run &)> &ratio, const QString &forced = {}) {
+        Numbers ratios;
+        std::transform(all.begin(), all.end(), std::back_inserter(ratios), ratio);
+        rows.push_back({what, QLatin1String(yardstick), ratios, atMost, forced});
+    };
+    for (const Measure &measure : measures()) {
+        add(QLatin1String(measure.what), "bare Qt window", measure.atMost, measure.ratio, measure.forced);
     }
-    std::vector<Row> rows{paint, memory, own, visited, ownVisited};
-    for (const Row &show : shows) {
-        rows.push_back({show.what, QStringLiteral("one frame"), show.ratios, 1});
+    for (std::size_t show = 0; show < all.front().tour.shows.size(); ++show) {
+        add(all.front().tour.shows[show].name, "one frame", 1,
+            [show](const Run &run) { return run.tour.shows.at(show).number / frame; });
     }
     return rows;
 }
