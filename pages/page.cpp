@@ -4,7 +4,6 @@
 #include "document/util.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QRadioButton>
@@ -71,25 +70,20 @@ void Page::saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton 
     }
 }
 
-void Page::saveValue(const ValueRow &row) { saveJsonData(QLatin1String(row.path), shownValue(row)); }
-
-QJsonValue Page::shownValue(const ValueRow &row)
+QJsonValue Page::shownValue(Shown shown, const QString &item)
 {
-    const auto celsius = [](int shown) {
-        return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
+    const auto celsius = [](int number) {
+        return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(number) : number;
     };
-    const QString shownText = row.combo->currentText();
-    switch (row.shown) {
+    switch (shown) {
     case Shown::Index:
-        return row.combo->currentIndex() + row.offset;
+        break;
     case Shown::Temperature:
-        return celsius(mainDialog->textWithoutTwoChars(shownText));
+        return celsius(mainDialog->textWithoutTwoChars(item));
     case Shown::Kelvin:
-        return celsius(mainDialog->textWithoutOneChar(shownText));
-    case Shown::Number:
-        return shownText.toInt();
+        return celsius(mainDialog->textWithoutOneChar(item));
     case Shown::Key:
-        return mainDialog->languageKeyOrText(shownText);
+        return mainDialog->languageKeyOrText(item);
     }
     return {};
 }

@@ -41,10 +41,8 @@ protected:
     static void setCaptions(const std::vector<CaptionRow> &rows);
     /// Saves the word of the row that `button` stands in.
     void saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton *button);
-    /// Saves what the row's combo box shows.
-    void saveValue(const ValueRow &row);
-    /// The document value of what the row's combo box shows.
-    static QJsonValue shownValue(const ValueRow &row);
+    /// The document value of an item's text; null where the index tells it.
+    static QJsonValue shownValue(Shown shown, const QString &item);
 
     // Radios and labels
     /// Unchecks radios of an auto-exclusive group, which stay unchecked.

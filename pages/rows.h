@@ -25,11 +25,10 @@ enum class Shown {
     Index,       ///< the index plus the row's offset is the value
     Temperature, ///< the text is a number and two unit characters; the value is in °C whatever is shown
     Kelvin,      ///< the text is a number and "K"; under °F it goes through the table all the same
-    Number,      ///< the text is the number
     Key,         ///< the value is the language key of the text
 };
 
-/// A combo box that saves what it shows at a path.
+/// A combo box that saves the item chosen in it at a path.
 struct ValueRow {
     QComboBox *combo;
     const char *path;

@@ -242,11 +242,23 @@ void InstallationDWH::enableDisinfection()
     ui->groupBoxDisinfectSub->setEnabled(ui->radioDisinfectionUse->isChecked());
 }
 
-void InstallationDWH::save(const QComboBox *combo)
+const ValueRow &InstallationDWH::row(const QComboBox *combo) const
 {
-    const auto row = std::find_if(values.cbegin(), values.cend(),
-                                  [combo](const ValueRow &each) { return each.combo == combo; });
-    saveValue(*row);
+    return *std::find_if(values.cbegin(), values.cend(),
+                         [combo](const ValueRow &each) { return each.combo == combo; });
+}
+
+void InstallationDWH::save(const QComboBox *combo, const QString &item)
+{
+    const ValueRow &list = row(combo);
+    saveJsonData(QLatin1String(list.path), shownValue(list.shown, item));
+    validationCheck();
+}
+
+void InstallationDWH::save(const QComboBox *combo, int index)
+{
+    const ValueRow &list = row(combo);
+    saveJsonData(QLatin1String(list.path), index + list.offset);
     validationCheck();
 }
 
@@ -258,25 +270,34 @@ void InstallationDWH::choose(const QRadioButton *radio)
 
 void InstallationDWH::on_hideButton_clicked() { toggle(ui->hideButton, ui->frame); }
 
-void InstallationDWH::on_comboHotWaterMin_currentTextChanged(const QString &) { save(ui->comboHotWaterMin); }
-
-void InstallationDWH::on_comboHotWaterMax_currentTextChanged(const QString &) { save(ui->comboHotWaterMax); }
-
-void InstallationDWH::on_comboTankWaterMin_currentTextChanged(const QString &)
+void InstallationDWH::on_comboHotWaterMin_currentTextChanged(const QString &text)
 {
-    save(ui->comboTankWaterMin);
+    save(ui->comboHotWaterMin, text);
 }
 
-void InstallationDWH::on_comboInletWaterMax_currentTextChanged(const QString &)
+void InstallationDWH::on_comboHotWaterMax_currentTextChanged(const QString &text)
 {
-    save(ui->comboInletWaterMax);
+    save(ui->comboHotWaterMax, text);
 }
 
-void InstallationDWH::on_comboHeatPump_currentTextChanged(const QString &) { save(ui->comboHeatPump); }
-
-void InstallationDWH::on_comboTankHeatingHysterisis_currentTextChanged(const QString &)
+void InstallationDWH::on_comboTankWaterMin_currentTextChanged(const QString &text)
 {
-    save(ui->comboTankHeatingHysterisis);
+    save(ui->comboTankWaterMin, text);
+}
+
+void InstallationDWH::on_comboInletWaterMax_currentTextChanged(const QString &text)
+{
+    save(ui->comboInletWaterMax, text);
+}
+
+void InstallationDWH::on_comboHeatPump_currentTextChanged(const QString &text)
+{
+    save(ui->comboHeatPump, text);
+}
+
+void InstallationDWH::on_comboTankHeatingHysterisis_currentTextChanged(const QString &text)
+{
+    save(ui->comboTankHeatingHysterisis, text);
 }
 
 void InstallationDWH::on_radioUnderFloorNotUse_clicked() { choose(ui->radioUnderFloorNotUse); }
@@ -297,15 +318,24 @@ void InstallationDWH::on_radioDisinfectionUse_clicked()
     validationCheck();
 }
 
-void InstallationDWH::on_comboSchedule1_currentIndexChanged(int) { save(ui->comboSchedule1); }
+void InstallationDWH::on_comboSchedule1_currentIndexChanged(int index) { save(ui->comboSchedule1, index); }
 
-void InstallationDWH::on_comboSchedule2_currentIndexChanged(int) { save(ui->comboSchedule2); }
+void InstallationDWH::on_comboSchedule2_currentIndexChanged(int index) { save(ui->comboSchedule2, index); }
 
-void InstallationDWH::on_comboMaxTemp_currentTextChanged(const QString &) { save(ui->comboMaxTemp); }
+void InstallationDWH::on_comboMaxTemp_currentTextChanged(const QString &text)
+{
+    save(ui->comboMaxTemp, text);
+}
 
-void InstallationDWH::on_comboCutOffDuration_currentIndexChanged(int) { save(ui->comboCutOffDuration); }
+void InstallationDWH::on_comboCutOffDuration_currentIndexChanged(int index)
+{
+    save(ui->comboCutOffDuration, index);
+}
 
-void InstallationDWH::on_comboMaxTempDuration_currentIndexChanged(int) { save(ui->comboMaxTempDuration); }
+void InstallationDWH::on_comboMaxTempDuration_currentIndexChanged(int index)
+{
+    save(ui->comboMaxTempDuration, index);
+}
 
 void InstallationDWH::validationCheck()
 {
@@ -363,9 +393,12 @@ void InstallationDWH::changeLanguageInCombobox()
     refill(ui->comboSchedule1, languageTexts(dayKeys()));
 }
 
-void InstallationDWH::on_comboHeatingDurationTime_currentIndexChanged(int)
+void InstallationDWH::on_comboHeatingDurationTime_currentIndexChanged(int index)
 {
-    save(ui->comboHeatingDurationTime);
+    save(ui->comboHeatingDurationTime, index);
 }
 
-void InstallationDWH::on_comboStopDurationTime_currentIndexChanged(int) { save(ui->comboStopDurationTime); }
+void InstallationDWH::on_comboStopDurationTime_currentIndexChanged(int index)
+{
+    save(ui->comboStopDurationTime, index);
+}

@@ -70,7 +70,10 @@ private:
     void loadTankHeating();
     void loadDisinfection();
     bool isDisinfectionOffered(const QString &tankHeaterUse) const;
-    void save(const QComboBox *combo);
+    const ValueRow &row(const QComboBox *combo) const;
+    /// Saves what the item of that text or index stands for, and checks.
+    void save(const QComboBox *combo, const QString &item);
+    void save(const QComboBox *combo, int index);
     void choose(const QRadioButton *radio);
 
     std::unique_ptr<Ui::InstallationDWH> ui;

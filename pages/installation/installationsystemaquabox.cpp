@@ -146,16 +146,16 @@ void InstallationSystemAquabox::on_radioHsmodeNotuse_clicked() { choose(ui->radi
 
 void InstallationSystemAquabox::on_radioHsmodeUse_clicked() { choose(ui->radioHsmodeUse); }
 
-void InstallationSystemAquabox::on_comboKnightType_currentTextChanged(const QString &)
+void InstallationSystemAquabox::on_comboKnightType_currentTextChanged(const QString &text)
 {
     validationCheck();
-    saveValue({ui->comboKnightType, "SettingInfo.installation.kNightType", Shown::Key});
+    saveJsonData(installation("kNightType"), shownValue(Shown::Key, text));
 }
 
-void InstallationSystemAquabox::on_comboWater_currentTextChanged(const QString &)
+void InstallationSystemAquabox::on_comboWater_currentTextChanged(const QString &text)
 {
     validationCheck();
-    saveValue({ui->comboWater, "SettingInfo.installation.waterFlowRate", Shown::Number});
+    saveJsonData(installation("waterFlowRate"), text.toInt());
 }
 
 void InstallationSystemAquabox::on_radioRefrigerantNotuse_clicked() { choose(ui->radioRefrigerantNotuse); }

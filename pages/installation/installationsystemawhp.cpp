@@ -126,9 +126,9 @@ void InstallationSystemAWHP::choose(const QAbstractButton *button)
         button);
 }
 
-void InstallationSystemAWHP::save(const ValueRow &row)
+void InstallationSystemAWHP::save(const char *key, const QJsonValue &value)
 {
-    saveValue(row);
+    saveJsonData(installation(key), value);
     validataionCheck();
 }
 
@@ -226,49 +226,44 @@ void InstallationSystemAWHP::on_radio3rdUse_clicked()
 void InstallationSystemAWHP::on_comboHysterisis_currentIndexChanged(int index)
 {
     const bool last = mainDialog->isFahrenheit() && index == lastHysteresisItem;
-    saveJsonData(installation("circuitMainZone.hysterisisMainZone"), last ? lastHysteresis : index);
-    validataionCheck();
+    save("circuitMainZone.hysterisisMainZone", last ? lastHysteresis : index);
 }
 
+// By the list's index, whatever the text: a language may follow the number with any word.
 void InstallationSystemAWHP::on_comboValveClosingTime_currentTextChanged(const QString &)
 {
-    save({ui->comboValveClosingTime, "SettingInfo.installation.circuitMainZone.controlTimeMainZone",
-          Shown::Index, firstClosingTime});
+    save("circuitMainZone.controlTimeMainZone", ui->comboValveClosingTime->currentIndex() + firstClosingTime);
 }
 
-void InstallationSystemAWHP::on_comboStep_currentIndexChanged(int)
+void InstallationSystemAWHP::on_comboStep_currentIndexChanged(int index)
 {
-    save({ui->comboStep, "SettingInfo.installation.smartGrid.smartGridMode", Shown::Index});
+    save("smartGrid.smartGridMode", index);
 }
 
-void InstallationSystemAWHP::on_comboHeaterOnTemperature_currentTextChanged(const QString &)
+void InstallationSystemAWHP::on_comboHeaterOnTemperature_currentTextChanged(const QString &text)
 {
-    save({ui->comboHeaterOnTemperature, "SettingInfo.installation.eheater_onoff.heater1_value",
-          Shown::Temperature});
+    save("eheater_onoff.heater1_value", shownValue(Shown::Temperature, text));
 }
 
 // In °F the number goes through the table of temperatures as well, which leaves none that is listed.
 void InstallationSystemAWHP::on_comboAntiFreezingTemp_currentTextChanged(const QString &text)
 {
-    const int shown = mainDialog->textWithoutOneChar(text);
-    const int kelvin = mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
-    saveJsonData(installation("antiFreezeTemp"), antiFreezeWord(kelvin));
-    validataionCheck();
+    save("antiFreezeTemp", antiFreezeWord(shownValue(Shown::Kelvin, text).toInt()));
 }
 
-void InstallationSystemAWHP::on_comboPreRun_currentIndexChanged(int)
+void InstallationSystemAWHP::on_comboPreRun_currentIndexChanged(int index)
 {
-    save({ui->comboPreRun, "SettingInfo.installation.pumpPreOverRun.preRun", Shown::Index, firstRun});
+    save("pumpPreOverRun.preRun", index + firstRun);
 }
 
-void InstallationSystemAWHP::on_comboOverRun_currentIndexChanged(int)
+void InstallationSystemAWHP::on_comboOverRun_currentIndexChanged(int index)
 {
-    save({ui->comboOverRun, "SettingInfo.installation.pumpPreOverRun.overRun", Shown::Index, firstRun});
+    save("pumpPreOverRun.overRun", index + firstRun);
 }
 
-void InstallationSystemAWHP::on_comboDelayTime_currentIndexChanged(int)
+void InstallationSystemAWHP::on_comboDelayTime_currentIndexChanged(int index)
 {
-    save({ui->comboDelayTime, "SettingInfo.installation.hotWaterTankHeater.tankHeaterDelay", Shown::Index});
+    save("hotWaterTankHeater.tankHeaterDelay", index);
 }
 
 void InstallationSystemAWHP::on_comboControlMode_currentTextChanged(const QString &)
@@ -280,16 +275,14 @@ void InstallationSystemAWHP::on_comboControlMode_currentTextChanged(const QStrin
     validataionCheck();
 }
 
-void InstallationSystemAWHP::on_comboControlTemp_currentTextChanged(const QString &)
+void InstallationSystemAWHP::on_comboControlTemp_currentTextChanged(const QString &text)
 {
-    save({ui->comboControlTemp, "SettingInfo.installation.boilerOfThirdParty.thirdPartyTemp",
-          Shown::Temperature});
+    save("boilerOfThirdParty.thirdPartyTemp", shownValue(Shown::Temperature, text));
 }
 
-void InstallationSystemAWHP::on_combo3rdHysterisis_currentTextChanged(const QString &)
+void InstallationSystemAWHP::on_combo3rdHysterisis_currentTextChanged(const QString &text)
 {
-    save({ui->combo3rdHysterisis, "SettingInfo.installation.boilerOfThirdParty.thirdPartyHysterisis",
-          Shown::Kelvin});
+    save("boilerOfThirdParty.thirdPartyHysterisis", shownValue(Shown::Kelvin, text));
 }
 
 // The messages go under the name of the system section.
@@ -310,9 +303,8 @@ void InstallationSystemAWHP::validataionCheck()
 
 void InstallationSystemAWHP::on_comboHeatingPriority_currentIndexChanged(int index)
 {
-    saveJsonData(installation("hotWaterTankHeater.tankHeaterPriority"),
-                 index == 0 ? QStringLiteral("HP_ONLY") : QStringLiteral("HP_BH_BOTH"));
-    validataionCheck();
+    save("hotWaterTankHeater.tankHeaterPriority",
+         index == 0 ? QStringLiteral("HP_ONLY") : QStringLiteral("HP_BH_BOTH"));
 }
 
 void InstallationSystemAWHP::changeLanguage()

@@ -81,7 +81,8 @@ private slots:
 
 private:
     void choose(const QAbstractButton *button);
-    void save(const ValueRow &row);
+    /// Saves a value of the installation settings, and checks.
+    void save(const char *key, const QJsonValue &value);
     void choose2ndCircuit(const QAbstractButton *button);
     void chooseWaterTankHeater(const QAbstractButton *button);
 

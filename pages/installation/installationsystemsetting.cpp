@@ -123,9 +123,9 @@ void InstallationSystemSetting::choose(const QAbstractButton *button)
         button);
 }
 
-void InstallationSystemSetting::save(const ValueRow &row)
+void InstallationSystemSetting::save(const char *key, const QJsonValue &value)
 {
-    saveValue(row);
+    saveJsonData(installation(key), value);
     validationCheck();
 }
 
@@ -173,21 +173,19 @@ void InstallationSystemSetting::on_comboBoxSensingTemp_currentTextChanged(const 
     emit refreshInstallationPageSignal();
 }
 
-void InstallationSystemSetting::on_comboBoxAirTemp_currentTextChanged(const QString &)
+void InstallationSystemSetting::on_comboBoxAirTemp_currentTextChanged(const QString &text)
 {
-    save({ui->comboBoxAirTemp, "SettingInfo.installation.sensorDefine.airTempLocation", Shown::Key});
+    save("sensorDefine.airTempLocation", shownValue(Shown::Key, text));
 }
 
 void InstallationSystemSetting::on_comboWaterRpmDuty_currentTextChanged(const QString &text)
 {
-    saveJsonData(installation("pumpRPM.pumpRPMValue"), QString(text).remove(QLatin1Char('%')).toInt());
-    validationCheck();
+    save("pumpRPM.pumpRPMValue", QString(text).remove(QLatin1Char('%')).toInt());
 }
 
 void InstallationSystemSetting::on_comboWaterpumpRPM_currentTextChanged(const QString &text)
 {
-    saveJsonData(installation("pumpRPM.pumpRPMValue"), text.toInt() / 10);
-    validationCheck();
+    save("pumpRPM.pumpRPMValue", text.toInt() / 10);
 }
 
 void InstallationSystemSetting::on_comboDryContactInstallation_currentTextChanged(const QString &)
@@ -201,48 +199,43 @@ void InstallationSystemSetting::on_comboDryContactInstallation_currentTextChange
 
 void InstallationSystemSetting::on_comboCnEXT_currentIndexChanged(int index)
 {
-    saveJsonData(installation("digitalInput"), QStringLiteral("STEP") + QString::number(index));
-    validationCheck();
+    save("digitalInput", QStringLiteral("STEP") + QString::number(index));
 }
 
 void InstallationSystemSetting::on_comboCentral_currentTextChanged(const QString &text)
 {
-    saveJsonData(installation("cc_address"), text.toUpper());
-    validationCheck();
+    save("cc_address", text.toUpper());
 }
 
 // The text is read as decimal though it shows hexadecimal digits, on purpose: "10" stores 10 and "0a" 0.
-void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &)
+void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &text)
 {
-    save({ui->comboModbus, "SettingInfo.installation.modbusAddress", Shown::Number});
+    save("modbusAddress", text.toInt());
 }
 
-void InstallationSystemSetting::on_comboBoxScreedStep_currentTextChanged(const QString &)
+void InstallationSystemSetting::on_comboBoxScreedStep_currentTextChanged(const QString &arg1)
 {
-    save({ui->comboBoxScreedStep, "SettingInfo.installation.cement_cure.cmt_step", Shown::Number});
+    save("cement_cure.cmt_step", arg1.toInt());
 }
 
-void InstallationSystemSetting::on_comboBoxScreedMaxTemp_currentTextChanged(const QString &)
+void InstallationSystemSetting::on_comboBoxScreedMaxTemp_currentTextChanged(const QString &arg1)
 {
-    save({ui->comboBoxScreedMaxTemp, "SettingInfo.installation.cement_cure.cmt_maxTemp", Shown::Temperature});
+    save("cement_cure.cmt_maxTemp", shownValue(Shown::Temperature, arg1));
 }
 
-void InstallationSystemSetting::on_comboOperationTime_currentIndexChanged(int)
+void InstallationSystemSetting::on_comboOperationTime_currentIndexChanged(int index)
 {
-    save({ui->comboOperationTime, "SettingInfo.installation.pumpOperationByForce.ByForceRuntime",
-          Shown::Index, firstRuntime});
+    save("pumpOperationByForce.ByForceRuntime", index + firstRuntime);
 }
 
-void InstallationSystemSetting::on_comboBoxScreedHolding_currentIndexChanged(int)
+void InstallationSystemSetting::on_comboBoxScreedHolding_currentIndexChanged(int index)
 {
-    save({ui->comboBoxScreedHolding, "SettingInfo.installation.cement_cure.cmt_holding", Shown::Index,
-          firstHolding});
+    save("cement_cure.cmt_holding", index + firstHolding);
 }
 
-void InstallationSystemSetting::on_comboOperationPeriod_currentIndexChanged(int)
+void InstallationSystemSetting::on_comboOperationPeriod_currentIndexChanged(int index)
 {
-    save({ui->comboOperationPeriod, "SettingInfo.installation.pumpOperationByForce.ByForcePeriod",
-          Shown::Index, firstPeriod});
+    save("pumpOperationByForce.ByForcePeriod", index + firstPeriod);
 }
 
 // A failed product section ends the check before the tab's result is joined, on purpose.

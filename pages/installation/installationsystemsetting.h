@@ -72,7 +72,8 @@ private slots:
 
 private:
     void choose(const QAbstractButton *button);
-    void save(const ValueRow &row);
+    /// Saves a value of the installation settings, and checks.
+    void save(const char *key, const QJsonValue &value);
 
     void loadProduct(const QString &product);
     void loadSensing();
