@@ -46,6 +46,8 @@ private slots:
     void writesInFahrenheit_data();
     void writesInFahrenheit();
     void lastHysteresisInFahrenheitIsFive();
+    void openingWritesTheAntiFreezeStep_data();
+    void openingWritesTheAntiFreezeStep();
     void showsValues_data();
     void showsValues();
     void showsValuesInFahrenheit_data();
@@ -299,6 +301,35 @@ void TestInstallationAwhpValues::lastHysteresisInFahrenheitIsFive()
         QMetaObject::invokeMethod(awhp, "on_comboHysterisis_currentIndexChanged", Q_ARG(int, 4));
     }),
              (QVariantMap{{hysteresis, 5}}));
+}
+
+void TestInstallationAwhpValues::openingWritesTheAntiFreezeStep_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QVariantMap>("written");
+    const QVariantMap lost{{antiFreeze, ""}};
+    for (const char *step : {"STEP0", "STEP1", "STEP2", "STEP3"}) {
+        QTest::addRow("%s in °F", step) << "FAHRENHEIT" << step << lost;
+        QTest::addRow("%s in °C", step) << "CENTIGRADE" << step << QVariantMap();
+    }
+    QTest::newRow("first item in °F") << "FAHRENHEIT"
+                                      << "STEP4" << QVariantMap();
+    QTest::newRow("no item in °C") << "CENTIGRADE"
+                                   << "STEP5" << lost;
+}
+
+// The show of the opened section fills the list, which leaves its first item chosen, and selects with the
+// signals live. In °F no item reads as a listed number.
+void TestInstallationAwhpValues::openingWritesTheAntiFreezeStep()
+{
+    QFETCH(QString, unit);
+    QFETCH(QString, stored);
+    QFETCH(QVariantMap, written);
+    for (const char *refrigerant : {"R32", "R410"}) {
+        section->load({{antiFreeze, stored}}, refrigerant, unit);
+        QCOMPARE(section->window.changes([this] { open(); }), written);
+    }
 }
 
 void TestInstallationAwhpValues::showsValues_data()

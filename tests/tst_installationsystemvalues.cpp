@@ -307,6 +307,7 @@ void TestInstallationSystemValues::showsWords_data()
     const QString input = installation("digitalInput");
     row("value", "comboCnEXT", {{input, "STEP3"}}, "Single emergency stop");
     row("empty", "comboCnEXT", {{input, ""}}, "Not use");
+    row("without the fifth", "comboCnEXT", {{input, "STEP4"}}, "Not use");
     row("fifth", "comboCnEXT", {{input, "STEP4"}, {flag("isEmergencyAllStop"), "SET"}}, "All emergency stop");
 }
 
