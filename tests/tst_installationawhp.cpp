@@ -187,7 +187,8 @@ void TestInstallationAwhp::showsGroups()
 void TestInstallationAwhp::secondCircuitEnablesItsRows()
 {
     const auto rows = [this] {
-        return state({"comboValveClosingTime", "comboHysterisis"}, {"label2ndValve", "label2ndHysterisis"});
+        return state({"bulletAwhp2", "comboValveClosingTime", "bulletAwhp3", "comboHysterisis"},
+                     {"label2ndValve", "label2ndHysterisis"});
     };
     load();
     QCOMPARE(rows(), off);
@@ -202,7 +203,7 @@ void TestInstallationAwhp::secondCircuitEnablesItsRows()
 
 void TestInstallationAwhp::smartGridEnablesItsRow()
 {
-    const auto row = [this] { return state({"comboStep"}, {"labelSmartgridStep"}); };
+    const auto row = [this] { return state({"bulletAwhp5", "comboStep"}, {"labelSmartgridStep"}); };
     load();
     QCOMPARE(row(), off);
     open();
@@ -215,7 +216,7 @@ void TestInstallationAwhp::smartGridEnablesItsRow()
 void TestInstallationAwhp::boostHeaterEnablesItsRows()
 {
     const auto rows = [this] {
-        return state({"comboHeatingPriority", "comboDelayTime"},
+        return state({"bulletAwhp9", "comboHeatingPriority", "bulletAwhp10", "comboDelayTime"},
                      {"labelWaterTankPriority", "labelWaterTankTime"});
     };
     load(heatPumpGroups());

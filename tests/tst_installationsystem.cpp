@@ -227,8 +227,10 @@ void TestInstallationSystem::enforcedCirculationDimsItsRows()
 {
     const auto check = [this](bool used) {
         const QString style = used ? "color : #555555" : "color : rgba(55,55,55,30%)";
-        QCOMPARE(Window::enabled(section->page, "comboOperationPeriod"), used);
-        QCOMPARE(Window::enabled(section->page, "comboOperationTime"), used);
+        for (const char *name :
+             {"bulletSystem12", "comboOperationPeriod", "bulletSystem13", "comboOperationTime"}) {
+            QCOMPARE(Window::enabled(section->page, name), used);
+        }
         QCOMPARE(Window::find(section->page, "labelOperationPeriod")->styleSheet(), style);
         QCOMPARE(Window::find(section->page, "labelOperationTime")->styleSheet(), style);
     };

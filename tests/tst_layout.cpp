@@ -7,6 +7,7 @@
 #include "pages/installation/installationsystemsetting.h"
 
 #include <QGroupBox>
+#include <QLayout>
 
 #include <algorithm>
 
@@ -18,6 +19,28 @@ int told(const QString &stop, const QStringList &faults)
         QWARN(qPrintable(stop + ": " + fault));
     }
     return faults.size();
+}
+
+/// The role of what stands at `place` in a group box.
+QString roleAt(const QGroupBox *box, int place)
+{
+    const QWidget *widget = box->layout()->itemAt(place)->widget();
+    return widget != nullptr ? widget->property("role").toString() : QString();
+}
+
+/// The group boxes with something to set, but those whose caption is a heading.
+QList<QGroupBox *> rowsOf(const QWidget *section)
+{
+    QList<QGroupBox *> rows;
+    const auto boxes = section->findChildren<QGroupBox *>();
+    for (QGroupBox *box : boxes) {
+        const bool sets = box->findChild<QComboBox *>(QString(), Qt::FindDirectChildrenOnly) != nullptr
+            || box->findChild<QRadioButton *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+        if (sets && roleAt(box, 0) != "heading") {
+            rows.append(box);
+        }
+    }
+    return rows;
 }
 
 QPoint onPage(const QWidget *widget) { return widget->mapTo(widget->window(), QPoint()); }
@@ -67,6 +90,8 @@ private slots:
     void hasRoom();
     void controlsStandInOneColumn_data();
     void controlsStandInOneColumn();
+    void rowsBeginWithBullets_data();
+    void rowsBeginWithBullets();
     void pagesEndAtOneEdge_data();
     void pagesEndAtOneEdge();
     void openHeadersEndStraight();
@@ -155,6 +180,39 @@ void TestLayout::controlsStandInOneColumn()
         }
     }
     QVERIFY(measured > 150);
+}
+
+// On the Installation tab, also those below a heading or below another row.
+void TestLayout::rowsBeginWithBullets_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::newRow("InstallationSystemAWHP") << 18;
+    QTest::newRow("InstallationSystemAquabox") << 7;
+    // With those of both products.
+    QTest::newRow("InstallationSystemSetting") << 15 + 18 + 7;
+    QTest::newRow("InstallationCool") << 13;
+    QTest::newRow("InstallationHeat") << 11;
+    QTest::newRow("InstallationaAuto") << 13;
+    QTest::newRow("InstallationDWH") << 14;
+}
+
+void TestLayout::rowsBeginWithBullets()
+{
+    const Window window;
+    const auto *area = Window::find(&window.dialog, "installationScrollArea");
+    const auto widgets = area->findChildren<QWidget *>();
+    const auto section = std::find_if(widgets.begin(), widgets.end(), [](const QWidget *widget) {
+        return qstrcmp(widget->metaObject()->className(), QTest::currentDataTag()) == 0;
+    });
+    QVERIFY(section != widgets.end());
+    const QList<QGroupBox *> rows = rowsOf(*section);
+    QTEST(rows.size(), "rows");
+    for (const QGroupBox *row : rows) {
+        const QByteArray name = row->objectName().toUtf8();
+        QVERIFY2(roleAt(row, 0) == "bullet", name);
+        QVERIFY2(row->layout()->itemAt(0)->widget()->property("text") == QString("· "), name);
+        QVERIFY2(roleAt(row, 1) == "caption", name);
+    }
 }
 
 // The cards of every page reach from one margin to the other, or to the scroll bar.

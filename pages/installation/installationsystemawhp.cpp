@@ -65,7 +65,9 @@ void InstallationSystemAWHP::enable2ndCircuit()
     const bool used = ui->radio2ndUse->isChecked();
     style::apply(ui->label2ndValve, setOpacity(used));
     style::apply(ui->label2ndHysterisis, setOpacity(used));
+    ui->bulletAwhp2->setEnabled(used);
     ui->comboValveClosingTime->setEnabled(used);
+    ui->bulletAwhp3->setEnabled(used);
     ui->comboHysterisis->setEnabled(used);
 }
 
@@ -73,6 +75,7 @@ void InstallationSystemAWHP::enableSmartGrid()
 {
     const bool used = ui->radioSgUse->isChecked();
     style::apply(ui->labelSmartgridStep, setOpacity(used));
+    ui->bulletAwhp5->setEnabled(used);
     ui->comboStep->setEnabled(used);
 }
 
@@ -82,7 +85,9 @@ void InstallationSystemAWHP::enableWaterTankHeater()
     const bool used = ui->radioWaterTankHeaterUse->isChecked();
     style::apply(ui->labelWaterTankPriority, setOpacity(used));
     style::apply(ui->labelWaterTankTime, setOpacity(used));
+    ui->bulletAwhp9->setEnabled(used);
     ui->comboHeatingPriority->setEnabled(used);
+    ui->bulletAwhp10->setEnabled(used);
     ui->comboDelayTime->setEnabled(used);
 }
 

@@ -99,7 +99,9 @@ void InstallationSystemSetting::enableEnforcedCirculation()
                               : QStringLiteral("color : rgba(55,55,55,30%)");
     style::apply(ui->labelOperationPeriod, look);
     style::apply(ui->labelOperationTime, look);
+    ui->bulletSystem12->setEnabled(used);
     ui->comboOperationPeriod->setEnabled(used);
+    ui->bulletSystem13->setEnabled(used);
     ui->comboOperationTime->setEnabled(used);
 }
 
