@@ -7,9 +7,7 @@
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
 
-#include <QBoxLayout>
 #include <QFileDialog>
-#include <QGroupBox>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -45,10 +43,6 @@ private slots:
     }
 
     void declaresItsOperations();
-    void formIsAsSettled();
-    void rowIsAsSettled();
-    void buttonsHaveThreePictures();
-    void rowTellsItsLanguage();
     void listsLanguageFiles();
     void listsNothingInAnEmptyFolder();
     void opensAndCloses();
@@ -131,101 +125,6 @@ void TestLanguageMenu::declaresItsOperations()
     QCOMPARE(Window::ownSignals(row(0)), QStringList{"clickedModifyButton(QString)"});
     QCOMPARE(list()->metaObject()->superClass()->className(), "QListWidget");
     QVERIFY(Window::ownSlots(list()).isEmpty());
-}
-
-void TestLanguageMenu::formIsAsSettled()
-{
-    QCOMPARE(menu()->size(), QSize(176, 255));
-    QCOMPARE(menu()->minimumSize(), QSize(176, 255));
-    QCOMPARE(menu()->maximumSize(), QSize(176, 16777215));
-    QCOMPARE(menu()->styleSheet(),
-             QString("QWidget#LanguageMenu{\n\tborder : 1px solid #000000;\nbackground-color: white;\n}"));
-    const auto *outer = menu()->findChild<QVBoxLayout *>("verticalLayout_2");
-    QCOMPARE(menu()->layout(), outer);
-    QCOMPARE(outer->spacing(), 0);
-    QCOMPARE(outer->contentsMargins(), QMargins());
-    const auto *frame = Window::find<QFrame>(menu(), "frame");
-    QCOMPARE(frame->minimumWidth(), 176);
-    QCOMPARE(frame->maximumWidth(), 176);
-    QCOMPARE(frame->frameShape(), QFrame::StyledPanel);
-    QCOMPARE(frame->styleSheet(),
-             QString("QFrame#frame {\n\tborder: 2px solid #ECECEC;\n\tbackground-color: white;\n}"));
-    QCOMPARE(frame->layout()->objectName(), QString("verticalLayout"));
-    QCOMPARE(frame->layout()->contentsMargins(), QMargins());
-    QCOMPARE(list()->maximumWidth(), 176);
-    QCOMPARE(list()->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QCOMPARE(list()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-    QCOMPARE(list()->sizeAdjustPolicy(), QAbstractScrollArea::AdjustToContents);
-    QVERIFY(list()->hasAutoScroll());
-    QVERIFY(list()->styleSheet().contains("rgb(158, 158, 158)"));
-    QCOMPARE(Window::find<QFrame>(menu(), "line")->frameShape(), QFrame::HLine);
-    const auto *box = Window::find<QGroupBox>(menu(), "groupBox");
-    QVERIFY(box->title().isEmpty());
-    QCOMPARE(box->font().family(), QString("Noto Sans"));
-    QCOMPARE(box->font().pointSize(), 11);
-    QCOMPARE(box->styleSheet(),
-             QString("border-top : 1px solid #ffffff;\nbackground-color: rgb(255, 255, 255);"));
-    QCOMPARE(box->layout()->objectName(), QString("horizontalLayout"));
-    QCOMPARE(box->layout()->contentsMargins(), QMargins());
-}
-
-void TestLanguageMenu::rowIsAsSettled()
-{
-    LanguageItem item(nullptr);
-    QCOMPARE(item.size(), QSize(176, 51));
-    QCOMPARE(item.maximumSize(), QSize(176, 51));
-    QCOMPARE(item.styleSheet(),
-             QString("QWidget {\n\toutline: none;\n\tborder: none;\n\tborder-bottom: "
-                     "1px solid #D2D2D2;\n}\n\n"));
-    const auto *layout = qobject_cast<QHBoxLayout *>(item.layout());
-    QCOMPARE(layout->objectName(), QString("horizontalLayout"));
-    const auto *label = Window::find<QLabel>(&item, "labelLanguage");
-    const auto *button = Window::find<QPushButton>(&item, "buttonModify");
-    QCOMPARE(layout->count(), 3);
-    QCOMPARE(layout->itemAt(0)->widget(), label);
-    QCOMPARE(layout->itemAt(1)->spacerItem()->sizeHint(), QSize(140, 20));
-    QCOMPARE(layout->itemAt(2)->widget(), button);
-    QCOMPARE(label->font().family(), QString("Noto Sans"));
-    QCOMPARE(label->font().pointSize(), 10);
-    QCOMPARE(label->styleSheet(), QString("border:none;"));
-    QCOMPARE(button->minimumSize(), QSize(16, 16));
-    QCOMPARE(button->maximumSize(), QSize(16, 16));
-    QCOMPARE(button->styleSheet(),
-             QString("QPushButton {\nborder : none;\noutline : none;\nimage: "
-                     "url(:/images/ic_language_edit.png);\n}\n"));
-}
-
-void TestLanguageMenu::buttonsHaveThreePictures()
-{
-    for (const char *name : {"newButton", "loadButton"}) {
-        const auto *button = Window::find<QPushButton>(menu(), name);
-        QCOMPARE(button->minimumSize(), QSize(77, 26));
-        QCOMPARE(button->maximumSize(), QSize(77, 26));
-        QVERIFY(!button->autoDefault());
-        for (const char *picture : {"normal", "over", "press"}) {
-            const QString path = QStringLiteral(":/images/btn_language_%1.png").arg(QLatin1String(picture));
-            QVERIFY2(button->styleSheet().contains(path), picture);
-            QVERIFY2(QFile::exists(path), picture);
-        }
-    }
-    QCOMPARE(Window::find<QPushButton>(menu(), "newButton")->styleSheet(),
-             Window::find<QPushButton>(menu(), "loadButton")->styleSheet());
-    window->speak("~");
-    QCOMPARE(Window::find<QPushButton>(menu(), "newButton")->text(), QString("New"));
-    QCOMPARE(Window::find<QPushButton>(menu(), "loadButton")->text(), QString("Load"));
-}
-
-void TestLanguageMenu::rowTellsItsLanguage()
-{
-    LanguageItem item(nullptr);
-    QSignalSpy clicked(&item, &LanguageItem::clickedModifyButton);
-    item.setLanguage("Česky <b>1</b>");
-    QCOMPARE(item.language(), QString("Česky <b>1</b>"));
-    QCOMPARE(Window::find<QLabel>(&item, "labelLanguage")->text(), QString("Česky <b>1</b>"));
-    item.show();
-    Window::click(&item, "buttonModify");
-    QCOMPARE(clicked.size(), 1);
-    QCOMPARE(clicked.at(0).at(0).toString(), QString("Česky <b>1</b>"));
 }
 
 void TestLanguageMenu::listsLanguageFiles()
