@@ -1,8 +1,8 @@
+#include "app/fonts.h"
 #include "app/maindialog.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QFontDatabase>
 
 namespace {
 
@@ -29,25 +29,6 @@ QByteArray platformArgument()
     // The frameless window moves itself in global coordinates, which not every platform offers.
     return named.isEmpty() ? QByteArrayLiteral("xcb") : named;
 #endif
-}
-
-void loadFonts()
-{
-    for (const char *file :
-         {"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf", "NotoSans-Regular.ttf"}) {
-        const QString path = QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(file);
-        if (QFontDatabase::addApplicationFont(path) == -1) {
-            qWarning("Failed to load %s", file);
-        }
-    }
-    // The medium face registers under a longer name than the one that is asked for; the face of the product
-    // page's headings is used where it is installed.
-    QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
-    QFont::insertSubstitution(QStringLiteral("Noto Sans CJK KR Bold"), QStringLiteral("Noto Sans"));
-    // Each call replaces the one before; pages and style sheets ask for the other families by name.
-    for (const char *family : {"Noto Sans", "Noto Sans Light", "Noto Sans Med"}) {
-        QApplication::setFont(QFont(QLatin1String(family)));
-    }
 }
 
 } // namespace
