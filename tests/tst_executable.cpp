@@ -16,6 +16,9 @@
 
 namespace {
 
+/// All that the tool ever tells: from then on every message is discarded.
+const QByteArray firstMessage = "main() release mode\n";
+
 const QString own = QFileInfo(QStringLiteral(CALORA_EXECUTABLE)).fileName();
 
 /// What a helper program prints.
@@ -40,6 +43,10 @@ public:
     Run(const QString &folder, const With &with)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        // A Qt that knows of a journal tells that what it has to say, unless it writes to a terminal.
+        environment.insert("QT_FORCE_STDERR_LOGGING", "1");
+        environment.insert("QT_LOGGING_RULES", "*=false;default=true");
+        environment.remove("QT_MESSAGE_PATTERN");
         for (auto variable = with.environment.begin(); variable != with.environment.end(); ++variable) {
             environment.insert(variable.key(), variable.value());
         }
@@ -199,8 +206,7 @@ void TestExecutable::showsItsWindow()
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
     QCOMPARE(run.standardOutput(), QByteArray());
-    const QByteArray told = run.standardError();
-    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+    QCOMPARE(run.standardError(), firstMessage);
 }
 
 void TestExecutable::ignoresArguments_data()
@@ -228,6 +234,7 @@ void TestExecutable::ignoresArguments()
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
     QCOMPARE(run.standardOutput(), QByteArray());
+    QCOMPARE(run.standardError(), firstMessage);
 }
 
 void TestExecutable::isNotScaled_data()
@@ -258,8 +265,7 @@ void TestExecutable::isNotScaled()
     QVERIFY(run.isShown());
     QCOMPARE(run.size(), QSize(1440, 800));
     QCOMPARE(run.picture(), plain);
-    const QByteArray told = run.standardError();
-    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+    QCOMPARE(run.standardError(), firstMessage);
 }
 
 void TestExecutable::isNotScaledByTheDesktop()
@@ -297,6 +303,7 @@ void TestExecutable::runsWithoutItsFiles_data()
     QTest::addColumn<QStringList>("missing");
     QTest::newRow("fonts") << QStringList{"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf",
                                           "NotoSans-Regular.ttf"};
+    QTest::newRow("one font") << QStringList{"NotoSans-Medium.ttf"};
     QTest::newRow("language.ini") << QStringList{"language/language.ini"};
     QTest::newRow("English") << QStringList{"language/English.json"};
     QTest::newRow("language folder") << QStringList{"language/language.ini", "language/English.json",
@@ -321,8 +328,7 @@ void TestExecutable::runsWithoutItsFiles()
     QCOMPARE(run.size(), QSize(1440, 800));
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
-    const QByteArray told = run.standardError();
-    QVERIFY2(told.isEmpty() || told == "main() release mode\n", told);
+    QCOMPARE(run.standardError(), firstMessage);
 }
 
 void TestExecutable::endsByTheWindowSystem()
