@@ -24,6 +24,7 @@ private slots:
     void openedFileIsChangedAndSavedOverItself();
     void newR32InFahrenheit();
     void incompleteSetupIsNotSaved();
+    void choiceTakenBackIsNotSaved();
     void openedAquabox();
     void languageChangesOnEveryPage();
 
@@ -307,6 +308,39 @@ void TestJourneys::incompleteSetupIsNotSaved()
     installer.tab("installationTabButton");
     QVERIFY(installer.save(path));
     QCOMPARE(Installer::content(path), Installer::expected(documents::standard("R32"), "date-only.tsv"));
+}
+
+// Back to the item that asks for a choice.
+void TestJourneys::choiceTakenBackIsNotSaved()
+{
+    Installer installer;
+    const Window &window = installer.window;
+    installer.startNew("R32");
+    installer.goToDipSwitches();
+    installer.goToSettings();
+    installer.tab("installationTabButton");
+    installer.tab("userTabButton");
+    installer.enterDate(2026, 1, 1);
+    const QString path = installer.folder.filePath("taken-back.json");
+    QVERIFY(installer.save(path));
+    const QByteArray saved = Installer::content(path);
+    const auto marked = [&](bool mark) {
+        for (const char *name : {"userValidationIcon", "labelErrorSetting"}) {
+            QCOMPARE(Window::visible(&window.dialog, name), mark);
+        }
+        QVERIFY(!Window::visible(&window.dialog, "functionValidationIcon"));
+        QVERIFY(!Window::visible(&window.dialog, "installationValidationIcon"));
+    };
+    marked(false);
+    Window::choose(window.page<SettingUser>(), "comboDateYear", "Year");
+    marked(true);
+    messages::clear();
+    QVERIFY(!installer.save());
+    QCOMPARE(messages::all(),
+             QStringList{"MainDialog::on_saveButton_clicked save is failed validation : false"});
+    QCOMPARE(Installer::content(path), saved);
+    installer.goToValidation();
+    QCOMPARE(installer.message(), QStringLiteral("Setup is not complete"));
 }
 
 void TestJourneys::openedAquabox()
