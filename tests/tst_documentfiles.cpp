@@ -1,6 +1,8 @@
 #include "support/documentwindow.h"
 #include "support/faults.h"
 
+#include "pages/installation/installationcool.h"
+#include "pages/operation/settinguser.h"
 #include "pages/product/select.h"
 
 // New and Open, through the real file dialogs.
@@ -53,6 +55,7 @@ private slots:
     void openDialogLooks();
     void dialogsListJsonFiles();
     void openKeepsTheUnit();
+    void openedFahrenheitWaitsForItsRadio();
     void openLoadsTheStandingPageAnew();
     void cancelledOpenChangesNothing_data();
     void cancelledOpenChangesNothing();
@@ -291,6 +294,27 @@ void TestDocumentFiles::openKeepsTheUnit()
     window->dialog.setTempUnit("FAHRENHEIT");
     window->open(window->path("c.json"));
     QCOMPARE(window->dialog.tempUnit(), QString("FAHRENHEIT"));
+}
+
+// In a fresh run the lists are in °C though the file, and so the User tab, tell otherwise.
+void TestDocumentFiles::openedFahrenheitWaitsForItsRadio()
+{
+    const QVariantMap fahrenheit{{"SettingInfo.user.tempUnit.tempConversion", "FAHRENHEIT"}};
+    put(window->path("f.json"), documents::with(documents::standard("R32"), fahrenheit).toJson());
+    window->open(window->path("f.json"));
+    const auto limits = [this] {
+        window->showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+        return Window::items(window->page<InstallationCool>(), "comboTemperatureIndoorMax");
+    };
+    const QStringList celsius{"24°C", "25°C", "26°C", "27°C", "28°C", "29°C", "30°C"};
+    QCOMPARE(limits(), celsius);
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    QVERIFY(Window::checked(window->page<SettingUser>(), "radioFahreheit"));
+    QCOMPARE(limits(), celsius);
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    Window::click(window->page<SettingUser>(), "radioFahreheit");
+    QCOMPARE(window->dialog.tempUnit(), QString("FAHRENHEIT"));
+    QCOMPARE(limits(), (QStringList{"76°F", "78°F", "80°F", "82°F", "84°F", "86°F"}));
 }
 
 // Both pages are shown for Open, also when the wizard stands on one of them.
