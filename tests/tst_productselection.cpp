@@ -45,6 +45,8 @@ private slots:
     void showingMarksTheStep();
     void showingAnAquaboxStartsR410();
     void newClearsAllRadios();
+    void newShowsThePageBeforeItClears_data();
+    void newShowsThePageBeforeItClears();
     void highTemperatureWritesItsFlags();
     void aquaboxWritesAndThenLoadsR410();
     void aquaboxTakesR410WithEachSpec();
@@ -350,6 +352,46 @@ void TestProductSelection::newClearsAllRadios()
     makeAquabox();
     Window::click(&window->dialog, "newButton");
     showsAwhpAloneOnNew();
+}
+
+void TestProductSelection::newShowsThePageBeforeItClears_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::newRow("from the first page") << int(MainDialog::SelectPage);
+    QTest::newRow("from this page") << int(MainDialog::ProductPage);
+    QTest::newRow("from the dip switches") << int(MainDialog::DipSwitchPage);
+    QTest::newRow("from the settings") << int(MainDialog::SettingPage);
+    QTest::newRow("from the result") << int(MainDialog::ValidationPage);
+}
+
+// From another page, showing this one finds the former choices still made and completes the step, which
+// clearing them then doesn't take back.
+void TestProductSelection::newShowsThePageBeforeItClears()
+{
+    QFETCH(int, from);
+    Window::click(page, "radioButtonMiddleTemp");
+    Window::click(page, "radioButtonR32");
+    const QJsonDocument worked = documents::with(documents::standard("R32"), {{"rsv.extra", "x"}});
+    window->showPage(from);
+    window->use(worked);
+    messages::clear();
+    Window::click(&window->dialog, "newButton");
+    const bool completed = from != MainDialog::ProductPage;
+    QCOMPARE(messages::all(),
+             (QStringList{"ProductSelection::newJsonData",
+                          "ProductSelection::validationCheck radioButton product spec false"}));
+    QCOMPARE(productDone(), completed);
+    const auto *step = Window::find<QPushButton>(&window->dialog, "productSelectionButton");
+    QVERIFY(step->styleSheet().contains("btn_step_completed.png"));
+    QVERIFY(!Window::shownItself(&window->dialog, "labelErrorProduct"));
+    QVERIFY(checked("radioButtonAwhp"));
+    for (const char *name : {"radioButtonMiddleTemp", "radioButtonR32", "radioButtonR410"}) {
+        QVERIFY2(!checked(name), name);
+    }
+    const DialogState &state = window->dialog.members();
+    QVERIFY(!state.dipSwitchDone && !state.settingDone && !state.functionValid && !state.userValid
+            && !state.serviceValid && !state.installationValid);
+    QCOMPARE(window->dialog.document(), worked);
 }
 
 void TestProductSelection::highTemperatureWritesItsFlags()
