@@ -52,6 +52,8 @@ private slots:
     void looksUpValues();
     void looksUpKeys_data();
     void looksUpKeys();
+    void looksUpKeysOfOtherValues_data();
+    void looksUpKeysOfOtherValues();
     void sharedTextsGiveTheFirstKey();
     void emptyKeyCountsAsNone();
     void settingADocumentTellsNoPage();
@@ -359,6 +361,45 @@ void TestLookup::looksUpKeys()
     QFETCH(QString, key);
     QCOMPARE(dialog().languageKey(text), key);
     QCOMPARE(dialog().languageKeyOrText(text), key.isEmpty() ? text : key);
+    QVERIFY(messages::all().isEmpty());
+}
+
+void TestLookup::looksUpKeysOfOtherValues_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QStringList>("equal");
+    QTest::addColumn<QStringList>("different");
+    const auto row = [](const char *name, const char *value, const QStringList &equal,
+                        const QStringList &different) {
+        QTest::newRow(name) << QByteArray(value) << equal << different;
+    };
+    row("whole number", "7", {"7", "07", "+7"}, {"", "8", "7.0", "seven"});
+    row("fraction", "7.5", {"7.5", "7.50", "75e-1"}, {"", "7", "7,5"});
+    row("zero", "0", {"0", "-0"}, {"", "false", "zero"});
+    row("true", "true", {"true", "TRUE", "1", "yes", "Save", " "}, {"", "0", "false", "False"});
+    row("false", "false", {"false", "FALSE", "0", ""}, {"true", "1", "Save"});
+    row("null", "null", {""}, {"null", "0"});
+    row("object", R"({"a":"b"})", {}, {"", "a", "b", R"({"a":"b"})"});
+    row("list", R"(["a"])", {}, {"", "a", R"(["a"])"});
+}
+
+// A value that is no text is compared as QVariants are: the text is turned into what the value is, or null
+// into an empty text. Such a value wins over a later key that has the very text.
+void TestLookup::looksUpKeysOfOtherValues()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QStringList, equal);
+    QFETCH(QStringList, different);
+    for (const QString &text : equal + different) {
+        const bool isEqual = equal.contains(text);
+        dialog().setLanguageDocument(QJsonDocument::fromJson("{\"other\":" + value + '}'));
+        QVERIFY2(dialog().languageKey(text) == (isEqual ? "other" : ""), qPrintable(quoted(text)));
+        QCOMPARE(dialog().languageKeyOrText(text), isEqual ? QString("other") : text);
+        QJsonObject both = dialog().languageDocument().object();
+        both.insert("text", text);
+        dialog().setLanguageDocument(QJsonDocument(both));
+        QCOMPARE(dialog().languageKey(text), QString(isEqual ? "other" : "text"));
+    }
     QVERIFY(messages::all().isEmpty());
 }
 
