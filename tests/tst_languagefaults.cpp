@@ -9,6 +9,7 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 // A language folder that vanishes, can't be written or has no room while the tool runs: the language in force
@@ -88,6 +89,8 @@ private slots:
     void languageIsTakenIn();
     void languageIsMade_data() { folderFaults(); }
     void languageIsMade();
+    void madeLanguageIsForgotten_data();
+    void madeLanguageIsForgotten();
     void toolIsStarted_data() { folderFaults(); }
     void toolIsStarted();
     void languageFileFails_data();
@@ -216,6 +219,52 @@ void TestLanguageFaults::languageIsMade()
     QCOMPARE(text("newButton"), QString("New"));
     QCOMPARE(text("labelCurrentLanguage"), QString("English"));
     QCOMPARE(filesOfTheFolder(), before);
+}
+
+void TestLanguageFaults::madeLanguageIsForgotten_data()
+{
+    QTest::addColumn<bool>("readable");
+    QTest::newRow("language.ini can't be written") << true;
+    QTest::newRow("language.ini is a folder") << false;
+}
+
+// The file is written, but the name can't be: the language that is remembered comes back where it can be
+// read; else the window's own texts are the new ones and the pages keep theirs.
+void TestLanguageFaults::madeLanguageIsForgotten()
+{
+    QFETCH(bool, readable);
+    Fault fault;
+    if (readable) {
+        fault = faults::permissions(languagefolder::iniPath(), QFile::ReadOwner);
+        if (!fault.holds) {
+            QSKIP("This machine doesn't let the fault be made");
+        }
+    } else {
+        QVERIFY(QFile::remove(languagefolder::iniPath()) && QDir().mkpath(languagefolder::iniPath()));
+    }
+    const QString path = languagefolder::file("Ours.json");
+    Window::click(&dialog(), "languageCombobox");
+    const auto save = [&](UserLanguageEditPopup *editor) {
+        for (const char *key : {"New", "Producttype"}) {
+            dialog().setLanguageSnapshotText(key, "x");
+        }
+        messages::clear();
+        filedialogs::answer([editor] { Window::click(editor, "saveButton"); }, path);
+        QVERIFY(!editor->isVisible());
+    };
+    QVERIFY(modal::drive<UserLanguageEditPopup>([this] { Window::click(menu(), "newButton"); }, save));
+    QCOMPARE(
+        messages::all().filter(QRegularExpression("^(UserLanguageEditPopup|LanguageMenu|MainDialog)::")),
+        (QStringList{"UserLanguageEditPopup::on_saveButton_clicked saveFilePath: " + quoted(path), unwritable,
+                     readable ? loaded + ' ' + quoted(languagefolder::file("English.json")) : unreadable}));
+    const QJsonObject made = QJsonDocument::fromJson(content(path)).object();
+    QCOMPARE(made.size(), languagefolder::textCount);
+    QCOMPARE(made.value("New").toString(), QString("x"));
+    QCOMPARE(text("newButton"), QString(readable ? "New" : "x"));
+    QCOMPARE(text("labelProductType"), QString("Product type"));
+    QCOMPARE(text("labelCurrentLanguage"), QString("English"));
+    QCOMPARE(list()->count(), 3);
+    QVERIFY(!dialog().members().languageMenuOpen);
 }
 
 void TestLanguageFaults::toolIsStarted()
