@@ -4,6 +4,7 @@
 
 #include "languages/languagemenu.h"
 
+#include <QChildEvent>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -19,6 +20,19 @@ QByteArray asFile(const QMap<QString, QVariant> &texts)
 {
     return QJsonDocument(QJsonObject::fromVariantMap(texts)).toJson();
 }
+
+/// Tells in the log when a widget gets a child.
+class ChildWatch : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::ChildAdded) {
+            qDebug() << "child";
+        }
+        return false;
+    }
+};
 
 } // namespace
 
@@ -39,6 +53,7 @@ private slots:
     void openedFileHoldsNoTexts();
     void openedFileStaysInForceAfterClose();
     void savesANewLanguage();
+    void saveGoesInOrder();
     void saveIsCancelled();
     void saveCantWrite();
     void nameLosesItsExtension_data();
@@ -189,6 +204,35 @@ void TestLanguageEditorFiles::savesANewLanguage()
     QVERIFY(dialog().members().languageMenuWidget != popup);
     QCOMPARE(dialog().languageMap(), expected);
     QCOMPARE(dialog().languageSnapshotMap(), expected);
+}
+
+// The popup is built anew, the window gets its texts, the remembered language is loaded, the popup counts as
+// closed, the editor closes. An empty text tells of each lookup.
+void TestLanguageEditorFiles::saveGoesInOrder()
+{
+    const QString path = languagefolder::file("Deutsch.json");
+    const LanguageMenu *popup = dialog().members().languageMenuWidget;
+    int changed = 0;
+    connect(&dialog(), &MainDialog::changeInstallationLanguage, editor.get(), [&] {
+        ++changed;
+        QVERIFY(dialog().members().languageMenuWidget != popup);
+        QVERIFY(!dialog().members().languageMenuOpen);
+        QVERIFY(editor->isVisible());
+        dialog().setLanguageMenuOpen(true);
+    });
+    dialog().setLanguageSnapshotText("New", QString());
+    ChildWatch watch;
+    dialog().installEventFilter(&watch);
+    dialog().setLanguageMenuOpen(true);
+    press("saveButton", path);
+    QCOMPARE(changed, 1);
+    QVERIFY(!dialog().members().languageMenuOpen);
+    QVERIFY(!editor->isVisible());
+    const QString empty = "MainDialog::languageValue language value is empty";
+    QCOMPARE(messages::all(),
+             (QStringList{"UserLanguageEditPopup::on_saveButton_clicked saveFilePath: " + quoted(path),
+                          "child", quoted("New"), empty, "MainDialog::loadLanguageData path: " + quoted(path),
+                          quoted("New"), empty, quoted("New"), empty}));
 }
 
 void TestLanguageEditorFiles::saveIsCancelled()
