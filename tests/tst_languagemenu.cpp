@@ -9,6 +9,7 @@
 
 #include <QFileDialog>
 #include <QListWidget>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -52,6 +53,8 @@ private slots:
     void pressOnTheDialogCloses();
     void minimizingCloses();
     void languageMenuToggles();
+    void bothTogglesGoTogether_data();
+    void bothTogglesGoTogether();
     void rowSwitchesTheLanguage();
     void languageInForceIsReloaded();
     void switchLeavesTheDocumentAlone();
@@ -61,12 +64,14 @@ private slots:
     void nameThatCantBeSaved();
     void tenLanguagesScroll();
     void newOpensTheEditor();
+    void loadClosesBeforeItAsks();
     void loadTakesAFileIn();
     void loadIsCancelled();
     void loadOfAFileOfTheFolder();
     void modifyReachesNoFile();
     void modifyReachesAFilePutThere();
-    void replacedPopupStaysHidden();
+    void replacedPopupStaysAsItIs_data();
+    void replacedPopupStaysAsItIs();
 
 private:
     static QString unreachableFolder()
@@ -260,6 +265,36 @@ void TestLanguageMenu::languageMenuToggles()
     QVERIFY(messages::all().isEmpty());
 }
 
+void TestLanguageMenu::bothTogglesGoTogether_data()
+{
+    QTest::addColumn<bool>("boxFirst");
+    QTest::newRow("opened by the box") << true;
+    QTest::newRow("opened by the slot") << false;
+}
+
+// What one of them opens, the other closes; each opens at its own place.
+void TestLanguageMenu::bothTogglesGoTogether()
+{
+    QFETCH(bool, boxFirst);
+    const auto toggle = [this](bool box) {
+        if (box) {
+            open();
+        } else {
+            Window::invoke(&dialog(), "languageMenu");
+        }
+    };
+    const int bars = Window::find(&dialog(), "toolbarGroupBox")->height()
+        + Window::find(&dialog(), "titleFrame")->height();
+    QVERIFY(bars != 100);
+    for (const bool box : {boxFirst, !boxFirst}) {
+        toggle(box);
+        QVERIFY(isOpen() && menu()->isVisible());
+        QCOMPARE(menu()->y(), box ? bars : 100);
+        toggle(!box);
+        verifyClosed();
+    }
+}
+
 void TestLanguageMenu::rowSwitchesTheLanguage()
 {
     addLanguage("Other", languagefolder::marked("+"));
@@ -412,6 +447,13 @@ void TestLanguageMenu::newOpensTheEditor()
     QVERIFY(messages::contain("FrameLess::~FrameLess()...2"));
 }
 
+void TestLanguageMenu::loadClosesBeforeItAsks()
+{
+    open();
+    QVERIFY(modal::drive<QFileDialog>([this] { Window::click(menu(), "loadButton"); },
+                                      [this](const QFileDialog *) { verifyClosed(); }));
+}
+
 void TestLanguageMenu::loadTakesAFileIn()
 {
     QTemporaryDir elsewhere;
@@ -482,16 +524,34 @@ void TestLanguageMenu::modifyReachesAFilePutThere()
     QCOMPARE(dialog().languageValue("New"), QString("New+"));
 }
 
-void TestLanguageMenu::replacedPopupStaysHidden()
+void TestLanguageMenu::replacedPopupStaysAsItIs_data()
 {
-    open();
-    LanguageMenu *former = menu();
+    QTest::addColumn<bool>("wasOpen");
+    QTest::newRow("hidden") << false;
+    QTest::newRow("open") << true;
+}
+
+// It is neither closed nor deleted; the box and the flag go by the new one alone.
+void TestLanguageMenu::replacedPopupStaysAsItIs()
+{
+    QFETCH(bool, wasOpen);
+    const QPointer<LanguageMenu> former = menu();
+    if (wasOpen) {
+        open();
+    }
     dialog().rebuildLanguageMenu();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(menu() != former);
-    QVERIFY(!isOpen());
+    verifyClosed();
+    QVERIFY(!former.isNull());
     QCOMPARE(former->parentWidget(), &dialog());
+    QCOMPARE(former->isVisible(), wasOpen);
     QCOMPARE(dialog().findChildren<LanguageMenu *>().size(), 2);
-    QVERIFY(!menu()->isVisible());
+    open();
+    QVERIFY(isOpen() && menu()->isVisible());
+    open();
+    verifyClosed();
+    QCOMPARE(former->isVisible(), wasOpen);
 }
 
 CALORA_TEST_MAIN(TestLanguageMenu)
