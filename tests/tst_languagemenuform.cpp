@@ -1,3 +1,4 @@
+#include "support/mouse.h"
 #include "support/window.h"
 
 #include "languages/languageitem.h"
@@ -6,6 +7,8 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QListWidget>
+#include <QPainter>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 // What the popup that lists the languages is made of.
@@ -14,12 +17,15 @@ class TestLanguageMenuForm : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { mouse::moveTo(QPoint(2, 2)); }
     void init() { window = std::make_unique<Window>(); }
     void cleanup() { window.reset(); }
 
     void formIsAsSettled();
     void rowIsAsSettled();
+    void scrollBarKeepsOffTheEnds();
     void buttonsHaveThreePictures();
+    void buttonsAreTheirPictureAlone();
     void rowTellsItsLanguage();
 
 private:
@@ -91,6 +97,33 @@ void TestLanguageMenuForm::rowIsAsSettled()
                      "url(:/images/ic_language_edit.png);\n}\n"));
 }
 
+// A grey handle on white, with two pixels of white above and below.
+void TestLanguageMenuForm::scrollBarKeepsOffTheEnds()
+{
+    menu()->setLanguageList({"a", "b", "c", "d", "e", "f", "g", "h", "i"});
+    Window::click(&window->dialog, "languageCombobox");
+    QScrollBar *bar = list()->verticalScrollBar();
+    QTRY_VERIFY(bar->isVisible());
+    for (const bool top : {true, false}) {
+        bar->setValue(top ? bar->minimum() : bar->maximum());
+        const QImage seen = bar->grab().toImage();
+        QCOMPARE(seen.width(), 6);
+        QVector<int> grey;
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x) {
+                QCOMPARE(seen.pixelColor(x, y), seen.pixelColor(0, y));
+            }
+            if (seen.pixelColor(0, y) == QColor(158, 158, 158)) {
+                grey.append(y);
+            } else {
+                QCOMPARE(seen.pixelColor(0, y), QColor(Qt::white));
+            }
+        }
+        QVERIFY(grey.size() >= 24 && grey.last() - grey.first() == grey.size() - 1);
+        QCOMPARE(top ? grey.first() : seen.height() - 1 - grey.last(), 2);
+    }
+}
+
 void TestLanguageMenuForm::buttonsHaveThreePictures()
 {
     for (const char *name : {"newButton", "loadButton"}) {
@@ -109,6 +142,23 @@ void TestLanguageMenuForm::buttonsHaveThreePictures()
     window->speak("~");
     QCOMPARE(Window::find<QPushButton>(menu(), "newButton")->text(), QString("New"));
     QCOMPARE(Window::find<QPushButton>(menu(), "loadButton")->text(), QString("Load"));
+}
+
+// There is neither a border nor, with the focus, an outline.
+void TestLanguageMenuForm::buttonsAreTheirPictureAlone()
+{
+    QImage picture(77, 26, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter(&picture).drawImage(0, 0, QImage(":/images/btn_language_normal.png"));
+    Window::click(&window->dialog, "languageCombobox");
+    for (const char *name : {"newButton", "loadButton"}) {
+        auto *button = Window::find<QPushButton>(menu(), name);
+        button->setText(QString());
+        QCOMPARE(button->grab().toImage().convertToFormat(picture.format()), picture);
+        button->setFocus(Qt::TabFocusReason);
+        QVERIFY(button->hasFocus());
+        QCOMPARE(button->grab().toImage().convertToFormat(picture.format()), picture);
+    }
 }
 
 void TestLanguageMenuForm::rowTellsItsLanguage()
