@@ -9,7 +9,11 @@
 #include "pages/product/dipswitchsettingstatus.h"
 #include "pages/product/productselection.h"
 
+#include <QAbstractItemModel>
+#include <QJsonObject>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 // In which order pages do what they do when they are shown, and sections are refreshed: the log tells of each
 // check, and here of what changes on the window, too.
@@ -57,6 +61,8 @@ private slots:
 
     void signalRefreshesSections_data();
     void signalRefreshesSections();
+    void sectionIsShown_data();
+    void sectionIsShown();
     void productPageIsShown();
     void dipSwitchPageIsShown();
     void functionTabIsShown();
@@ -71,15 +77,29 @@ private:
         new Watch(Window::find(&window->dialog, "validationButton"), QEvent::StyleChange, "step");
         messages::clear();
     }
+    /// The one section of a class.
+    QWidget *section(const QByteArray &className) const
+    {
+        for (QWidget *each : window->dialog.findChildren<QWidget *>()) {
+            if (each->metaObject()->className() == className) {
+                return each;
+            }
+        }
+        qFatal("No %s", className.constData());
+    }
     template <class Sender, class Signal>
     void watch(const Sender *sender, Signal signal, const QString &told)
     {
         connect(sender, signal, this, [told] { Watch::tell(told); });
     }
+    /// What has been told, each only once in a row: what was seen, checks, and lookups of a text in vain.
     static QStringList told()
     {
-        QStringList lines = messages::all().filter(QRegularExpression("^(seen:|\\w+::validationCheck)"));
+        QStringList lines = messages::all().filter(
+            QRegularExpression("^(seen:|\"|\\w+::(validationCheck|SettingUser))"));
         lines.replaceInStrings(QRegularExpression("^(seen: |.*?::)"), QString());
+        lines.replaceInStrings(QRegularExpression("^\".*"), "language");
+        lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
         return lines;
     }
 
@@ -102,16 +122,68 @@ void TestOrder::signalRefreshesSections()
     QFETCH(QByteArray, sender);
     QFETCH(QStringList, sections);
     window->showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
-    QObject *section = nullptr;
-    for (QWidget *each : window->dialog.findChildren<QWidget *>()) {
-        section = each->metaObject()->className() == sender ? each : section;
-    }
-    QVERIFY(section != nullptr);
     messages::clear();
-    QVERIFY(Window::invoke(section, "refreshInstallationPageSignal"));
+    QVERIFY(Window::invoke(section(sender), "refreshInstallationPageSignal"));
     QStringList checked = messages::all().filter(QRegularExpression("^Installation\\w+::"));
     checked.replaceInStrings(QRegularExpression("::.*"), QString());
     QCOMPARE(checked, sections);
+}
+
+void TestOrder::sectionIsShown_data()
+{
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("InstallationSystemSetting") << QStringList{
+        "validationCheck true", "language", "validationCheck succeed!!", "validationCheck true"};
+    QTest::newRow("InstallationCool")
+        << QStringList{"loaded", "lists", "language", "SettingUser validation succeed!"};
+    QTest::newRow("InstallationHeat")
+        << QStringList{"loaded", "lists", "language", "SettingUser validation succeed!"};
+    QTest::newRow("InstallationDWH") << QStringList{"loaded", "lists", "SettingUser validation succeed!",
+                                                    "values", "SettingUser validation succeed!"};
+}
+
+// A title tells of the language by the lack of its text, the radios of the load, whose slots check as well in
+// the system settings.
+void TestOrder::sectionIsShown()
+{
+    QFETCH(QStringList, expected);
+    const QString installation = "SettingInfo.installation.";
+    const QJsonDocument plant = documents::everything("R32");
+    window->use(plant);
+    window->showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    QWidget *page = section(QTest::currentDataTag());
+    for (const char *name :
+         {"radioDryManual", "radioFanCoilUse", "radioControlTypeManual", "radioUnderFloorUse"}) {
+        if (const auto *radio = page->findChild<QRadioButton *>(name)) {
+            watch(radio, &QRadioButton::toggled, "loaded");
+        }
+    }
+    for (const char *name : {"comboTemperatureIndoorMin", "comboTankWaterMin"}) {
+        if (auto *combo = page->findChild<QComboBox *>(name)) {
+            window->dialog.setComboItems(combo, {"another list"}, 0);
+            watch(combo->model(), &QAbstractItemModel::rowsInserted, "lists");
+        }
+    }
+    if (auto *day = page->findChild<QComboBox *>("comboSchedule1")) {
+        watch(day, &QComboBox::currentTextChanged, "values");
+    }
+    window->use(documents::with(plant,
+                                {{installation + "drycontactAuto", "AUTO_OFF"},
+                                 {installation + "UFH_stop.FCU_disable", "CLR"},
+                                 {installation + "hotwater_addData.UFH_priority", "SET"},
+                                 {installation + "disinfect_time.day", 3},
+                                 {"SettingInfo.func.waterCtrBasisAirHeat.ctrType", "AUTO"}}));
+    QJsonObject texts = window->dialog.languageDocument().object();
+    for (const char *title : {"SystemSetting", "Cool", "Heat"}) {
+        texts.remove(title);
+    }
+    window->dialog.setLanguageDocument(QJsonDocument(texts));
+    messages::clear();
+    page->hide();
+    page->show();
+    const QStringList lines = told();
+    QVERIFY(lines.contains("loaded"));
+    QCOMPARE(lines.mid(lines.size() - expected.size()), expected);
 }
 
 // AWHP is clicked by the load, and its slot checks before it is told here.
@@ -151,8 +223,7 @@ void TestOrder::functionTabIsShown()
                                  {"SettingInfo.func.silentTimer.end.min", 0}}));
     watchTheStep();
     window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
-    QCOMPARE(told(),
-             (QStringList{"loaded", "step", "validationCheck succeed!", "validationCheck succeed!", "time"}));
+    QCOMPARE(told(), (QStringList{"loaded", "step", "validationCheck succeed!", "time"}));
 }
 
 void TestOrder::serviceTabIsShown()
