@@ -1,7 +1,7 @@
 // The yardstick of the tool's start: a Qt program that loads the same four fonts and shows an empty dialog of
 // the same size; with --text one that holds a line of text.
 
-#include "bench/fonts.h"
+#include "app/fonts.h"
 
 #include <QDialog>
 #include <QLabel>

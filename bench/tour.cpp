@@ -2,8 +2,8 @@
 // each show took and how much memory it has then. The benchmark starts it, since a process shows a page for
 // the first time only once.
 
+#include "app/fonts.h"
 #include "app/maindialog.h"
-#include "bench/fonts.h"
 #include "bench/measure.h"
 
 #include <QPushButton>
@@ -75,9 +75,6 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     qInstallMessageHandler(discardMessage);
     loadFonts();
-    QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
-    QFont::insertSubstitution(QStringLiteral("Noto Sans CJK KR Bold"), QStringLiteral("Noto Sans"));
-    QApplication::setFont(QFont(QStringLiteral("Noto Sans Med")));
     MainDialog dialog;
     dialog.show();
     while (!dialog.windowHandle()->isExposed()) {

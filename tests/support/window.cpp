@@ -1,9 +1,10 @@
 #include "support/window.h"
 
+#include "app/fonts.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFile>
-#include <QFontDatabase>
 #include <QFrame>
 #include <QJsonObject>
 #include <QMetaMethod>
@@ -167,13 +168,7 @@ void prepareApplication()
 #endif
     // The tests answer Qt's own dialogs.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    for (const char *face : {"Medium", "Bold", "Light", "Regular"}) {
-        QFontDatabase::addApplicationFont(QCoreApplication::applicationDirPath()
-                                          + QStringLiteral("/NotoSans-%1.ttf").arg(QLatin1String(face)));
-    }
-    QFont::insertSubstitution(QStringLiteral("Noto Sans Med"), QStringLiteral("Noto Sans Medium"));
-    QFont::insertSubstitution(QStringLiteral("Noto Sans CJK KR Bold"), QStringLiteral("Noto Sans"));
-    QApplication::setFont(QFont(QStringLiteral("Noto Sans Medium")));
+    loadFonts();
 }
 
 int runTests(QObject *tests, int argc, char *argv[])
