@@ -158,7 +158,8 @@ std::vector<Row> startRows()
         add(QLatin1String(measure.what), "bare Qt window", measure.atMost, measure.ratio, measure.forced);
     }
     for (std::size_t show = 0; show < all.front().tour.shows.size(); ++show) {
-        add(all.front().tour.shows[show].name, "one frame", 1,
+        const Told &told = all.front().tour.shows[show];
+        add(told.name, "one frame", 1,
             [show](const Run &run) { return run.tour.shows.at(show).number / frame; });
     }
     return rows;

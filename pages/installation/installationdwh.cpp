@@ -242,7 +242,7 @@ void InstallationDWH::enableDisinfection()
     ui->groupBoxDisinfectSub->setEnabled(ui->radioDisinfectionUse->isChecked());
 }
 
-const ValueRow &InstallationDWH::row(const QComboBox *combo) const
+const ValueRow &InstallationDWH::rowOf(const QComboBox *combo) const
 {
     return *std::find_if(values.cbegin(), values.cend(),
                          [combo](const ValueRow &each) { return each.combo == combo; });
@@ -250,14 +250,14 @@ const ValueRow &InstallationDWH::row(const QComboBox *combo) const
 
 void InstallationDWH::save(const QComboBox *combo, const QString &item)
 {
-    const ValueRow &list = row(combo);
+    const ValueRow &list = rowOf(combo);
     saveJsonData(QLatin1String(list.path), shownValue(list.shown, item));
     validationCheck();
 }
 
 void InstallationDWH::save(const QComboBox *combo, int index)
 {
-    const ValueRow &list = row(combo);
+    const ValueRow &list = rowOf(combo);
     saveJsonData(QLatin1String(list.path), index + list.offset);
     validationCheck();
 }

@@ -70,7 +70,7 @@ private:
     void loadTankHeating();
     void loadDisinfection();
     bool isDisinfectionOffered(const QString &tankHeaterUse) const;
-    const ValueRow &row(const QComboBox *combo) const;
+    const ValueRow &rowOf(const QComboBox *combo) const;
     /// Saves what the item of that text or index stands for, and checks.
     void save(const QComboBox *combo, const QString &item);
     void save(const QComboBox *combo, int index);
