@@ -4,13 +4,13 @@
 #include <QDebug>
 #include <QFontDatabase>
 
-/// Loads the tool's fonts, which lie beside the executable, and sets that of the application. The log tells
-/// of one that is missing; the system's own then takes its place.
-inline void loadFonts()
+/// Loads the tool's fonts from the folder where they lie, beside the executable, and sets that of the
+/// application. The log tells of one that is missing; the system's own then takes its place.
+inline void loadFonts(const QString &folder = QCoreApplication::applicationDirPath())
 {
     for (const char *file :
          {"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf", "NotoSans-Regular.ttf"}) {
-        const QString path = QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(file);
+        const QString path = folder + QLatin1Char('/') + QLatin1String(file);
         if (QFontDatabase::addApplicationFont(path) == -1) {
             qWarning("Failed to load %s", file);
         }
