@@ -237,7 +237,7 @@ void TestOrder::serviceTabIsShown()
     QCOMPARE(told(), (QStringList{"loaded", "valid"}));
 }
 
-// As above.
+// The slot of a list checks before it is told here.
 void TestOrder::userTabIsShown()
 {
     const auto *page = window->page<SettingUser>();
