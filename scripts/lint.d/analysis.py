@@ -101,7 +101,7 @@ def kind(source):
         return "product"
     if has_main(source) and "Q_DECLARE_METATYPE" not in content(Path(source)):
         return "programs"
-    return folder
+    return str(Path(source).parent)
 
 
 DECLARED = re.compile(r"^(?:struct|class|enum(?: class)?|using) (?:[\w:]+::)?(\w+)"
@@ -140,7 +140,8 @@ def joined_command(commands, source):
                 words.insert(2, word)
             elif word == "-isystem" and command[at + 1] not in words:
                 words[2:2] = [word, command[at + 1]]
-    return words
+    # By names of another source; the compiler has looked at each alone.
+    return [*words, "-Wno-shadow"] if len(commands) > 1 else words
 
 
 def place(sources, commands):
@@ -223,7 +224,7 @@ def main():
         tool, group, stale = item
         folder, made = place(group, [commands[source] for source in group])
         good, output = TOOLS[tool][0](folder, made, group)
-        if not good and len(group) > 1 and ("clang-diagnostic-error" in output or "fatal error" in output):
+        if not good and len(group) > 1 and re.search(r"clang-diagnostic|errors? generated", output):
             # Some that can't be read as one.
             half = len(group) // 2
             return judge((tool, group[:half], stale)) + judge((tool, group[half:], stale))

@@ -68,8 +68,6 @@ def main():
     if "--aims" in sys.argv[1:]:
         for aim in aims:
             print(f"sizes: {aim}")
-    elif aims:
-        print(f"sizes: {len(aims)} past the size to aim for (scripts/lint.d/sizes.py --aims lists them)")
     finish("sizes", findings)
 
 
