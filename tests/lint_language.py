@@ -84,7 +84,11 @@ class LintLanguage(unittest.TestCase):
 
     def test_texts_fit(self):
         self.names("WATER has 2 lines", self.planted(WATER="Wa\nter"))
-        self.names("'Jahreszahl' has 10 characters", self.planted(Year="Jahreszahl"))
+        self.names("'Kalenderjahr' has 12 characters", self.planted(Year="Kalenderjahr"))
+        self.names("has 24 characters", self.planted(Cycle_Heater="Heat pump + boost heater"))
+        self.names("has 32 characters", self.planted(SingleEmergencyStop="Emergency stop of this unit only"))
+        self.assertEqual(self.lint(self.planted(Cycle_Heater="Heat pump, boost heater",
+                                                SingleEmergencyStop="Emergency stop, this unit only")), (0, []))
         self.names("has 18 characters", self.planted(Thermostat="Raumthermostatwerk"))
         self.names("it would underline", self.planted(Both="Heat & cool"))
         self.names("taken for markup", self.planted(Both="<b>Both</b>"))
