@@ -22,12 +22,14 @@ bool replaceContent(const QString &path, const QByteArray &content)
         return false;
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadWrite)) {
+    // Unbuffered: the one write comes right after the file is cut and tells itself whether there was room,
+    // and nothing is left to be flushed.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
         return false;
     }
-    file.resize(0);
-    file.write(content);
-    return true;
+    const bool written = file.resize(0) && file.write(content) == content.size();
+    file.close(); // which tells by error() alone
+    return written && file.error() == QFileDevice::NoError;
 }
 
 } // namespace files

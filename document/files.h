@@ -13,8 +13,9 @@ namespace files {
 /// The bytes of the file; nothing when it can't be opened.
 std::optional<QByteArray> read(const QString &path);
 
-/// Opens the file for reading and writing, creates it when missing, and replaces its content. False when it
-/// can't be opened; then nothing is changed.
-bool replaceContent(const QString &path, const QByteArray &content);
+/// Opens the file for reading and writing, creates it when missing, cuts it and writes the content at once.
+/// False when any of it fails, up to closing: nothing is changed when the file can't be opened or cut; after
+/// that it may be empty or short.
+[[nodiscard]] bool replaceContent(const QString &path, const QByteArray &content);
 
 } // namespace files

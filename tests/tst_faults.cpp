@@ -169,14 +169,18 @@ void TestFaults::diskFills()
         window->save(file());
     }
     QCOMPARE(DocumentWindow::told(),
-             QStringList{"MainDialog::on_saveButton_clicked save file finished " + quoted(file())});
+             (QStringList{"MainDialog::saveJsonFile: " + quoted(file()),
+                          "MainDialog::on_saveButton_clicked save file finished " + quoted(file())}));
     QCOMPARE(content(file()), whole.left(written));
     QCOMPARE(window->members().filePath, file());
     QVERIFY(!window->members().isNewFile);
     QCOMPARE(window->dialog.document(), documents::standard("R32"));
 
     QFile::remove(folder() + "/filler");
+    messages::clear();
     QVERIFY(window->save(QString()).title.isEmpty());
+    QCOMPARE(DocumentWindow::told(),
+             QStringList{"MainDialog::on_saveButton_clicked save file finished " + quoted(file())});
     QCOMPARE(content(file()), whole);
 }
 

@@ -352,7 +352,7 @@ void TestLanguageFaults::diskIsFull()
         QCOMPARE(content(languagefolder::iniPath()), QByteArray());
     }
     QCOMPARE(messages::all(),
-             (QStringList{loaded + ' ' + quoted(languagefolder::file(".json")),
+             (QStringList{unwritable, loaded + ' ' + quoted(languagefolder::file(".json")),
                           unreadable + ' ' + quoted(languagefolder::file(".json"))}));
     QCOMPARE(text("labelCurrentLanguage"), QString());
     QCOMPARE(text("newButton"), QString("New"));
