@@ -5,6 +5,7 @@
 #include "pages/installation/installationdwh.h"
 #include "pages/installation/installationheat.h"
 #include "pages/installation/installationsystemsetting.h"
+#include "pages/product/dipswitchsettingstatus.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -51,6 +52,7 @@ private slots:
     void leavesNoTrace();
     void isTheSameDocument_data();
     void isTheSameDocument();
+    void isSavedAsAnEmptyFile();
 
 private:
     void open(const QByteArray &content);
@@ -167,6 +169,30 @@ void TestBadFiles::isTheSameDocument()
     open(content);
     walk();
     QCOMPARE(documents::changes(documents::standard("R32"), installer->window.dialog.document()), more);
+}
+
+// The ticks and marks are those of the document before, so Save isn't refused.
+void TestBadFiles::isSavedAsAnEmptyFile()
+{
+    installer.reset();
+    installer = std::make_unique<Installer>();
+    open(documents::with(documents::standard("R32"),
+                         {{"SettingInfo.user.DateInfo.year", 2025},
+                          {"SettingInfo.user.DateInfo.month", 6},
+                          {"SettingInfo.user.DateInfo.mday", 15}})
+             .toJson());
+    Window::click(installer->window.page<DipSwitchSettingStatus>(), "radioOperationBoth");
+    installer->goToSettings();
+    installer->tab("userTabButton");
+    installer->tab("installationTabButton");
+    installer->goToValidation();
+    QCOMPARE(installer->message(), QString("Complete!"));
+
+    open(standardText().left(5000));
+    installer->goToValidation();
+    QCOMPARE(installer->message(), QString("Complete!"));
+    QVERIFY(!installer->save());
+    QCOMPARE(Installer::content(installer->folder.filePath("bad.json")), QByteArray());
 }
 
 CALORA_TEST_MAIN(TestBadFiles)
