@@ -97,6 +97,8 @@ private slots:
     void languageFileFails();
     void deepNesting();
     void diskIsFull();
+    void noRoomForWhatIsTakenIn_data();
+    void noRoomForWhatIsTakenIn();
 
 private:
     static void folderFaults();
@@ -359,6 +361,43 @@ void TestLanguageFaults::diskIsFull()
     choose(0);
     verifyEnglish();
     QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
+}
+
+void TestLanguageFaults::noRoomForWhatIsTakenIn_data()
+{
+    QTest::addColumn<int>("room");
+    QTest::addColumn<QString>("remembered");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("not even for the name") << 0 << QString() << "English";
+    QTest::newRow("for half of it") << 4500 << "Italiano"
+                                    << "Italiano";
+}
+
+// A part of it would be a language without texts; what the former file of that name held is gone.
+void TestLanguageFaults::noRoomForWhatIsTakenIn()
+{
+    QFETCH(int, room);
+    QFETCH(QString, remembered);
+    QFETCH(QString, shown);
+    if (!faults::SizeLimit::possible()) {
+        QSKIP("This machine doesn't let the disk be limited");
+    }
+    QTemporaryDir elsewhere;
+    put(elsewhere.filePath("Italiano.json"), languagefolder::marked("?"));
+    put(languagefolder::file("Italiano.json"), "{}");
+    Window::click(&dialog(), "languageCombobox");
+    const auto load = [this, room] {
+        const faults::SizeLimit limit(static_cast<quint64>(room));
+        Window::click(menu(), "loadButton");
+    };
+    filedialogs::answer(load, elsewhere.filePath("Italiano.json"));
+    QCOMPARE(messages::all().contains(unwritable), remembered.isEmpty());
+    QCOMPARE(dialog().languageDocument(), QJsonDocument::fromJson(languagefolder::marked("?")));
+    QCOMPARE(text("newButton"), QString("New?"));
+    QCOMPARE(text("labelCurrentLanguage"), shown);
+    QCOMPARE(content(languagefolder::iniPath()), remembered.toUtf8());
+    QCOMPARE(QDir(languagefolder::path()).entryList(QDir::Files),
+             (QStringList{"English.json", "language.ini", "Other.json"}));
 }
 
 int main(int argc, char *argv[])
