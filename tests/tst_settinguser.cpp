@@ -277,14 +277,14 @@ void TestSettingUser::radiosShow_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("checked");
-    QTest::addColumn<QByteArray>("unchecked");
-    const QByteArray celsius("radioCelicious");
-    const QByteArray fahrenheit("radioFahreheit");
-    const QByteArray off("radioSummerTimeNotuse");
-    const QByteArray on("radioSummerTimeUse");
-    const QByteArray white("radioWhite");
-    const QByteArray black("radioBlack");
+    QTest::addColumn<QString>("checked");
+    QTest::addColumn<QString>("unchecked");
+    const QString celsius("radioCelicious");
+    const QString fahrenheit("radioFahreheit");
+    const QString off("radioSummerTimeNotuse");
+    const QString on("radioSummerTimeUse");
+    const QString white("radioWhite");
+    const QString black("radioBlack");
     QTest::newRow("fahrenheit") << tempConversion << QVariant("fahrenheit") << fahrenheit << celsius;
     QTest::newRow("centigrade") << tempConversion << QVariant("centigrade") << celsius << fahrenheit;
     QTest::newRow("summer time") << summerTime << QVariant("set") << on << off;
@@ -297,23 +297,23 @@ void TestSettingUser::radiosShow_data()
     QTest::newRow("black again") << theme << QVariant("black") << black << white;
     QTest::newRow("unknown theme keeps black") << theme << QVariant("x") << black << white;
     QTest::newRow("theme missing keeps black") << theme << QVariant() << black << white;
-    QTest::newRow("unknown unit") << tempConversion << QVariant("x") << QByteArray() << celsius;
-    QTest::newRow("unit missing") << tempConversion << QVariant() << QByteArray() << fahrenheit;
+    QTest::newRow("unknown unit") << tempConversion << QVariant("x") << QString() << celsius;
+    QTest::newRow("unit missing") << tempConversion << QVariant() << QString() << fahrenheit;
 }
 
 void TestSettingUser::radiosShow()
 {
     QFETCH(QString, path);
     QFETCH(QVariant, value);
-    QFETCH(QByteArray, checked);
-    QFETCH(QByteArray, unchecked);
+    QFETCH(QString, checked);
+    QFETCH(QString, unchecked);
     show({{path, value}});
-    QVERIFY(!Window::checked(page, unchecked.constData()));
+    QVERIFY(!Window::checked(page, qPrintable(unchecked)));
     if (checked.isEmpty()) {
         QVERIFY(!Window::checked(page, "radioCelicious"));
         QVERIFY(!Window::checked(page, "radioFahreheit"));
     } else {
-        QVERIFY(Window::checked(page, checked.constData()));
+        QVERIFY(Window::checked(page, qPrintable(checked)));
     }
     QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), {{path, value}}));
 }
