@@ -93,6 +93,25 @@ rm "$own/calora-configurator"
 start
 check "a lost executable comes again" started 1.0 "$own" ''
 
+# Damage under the right mark, as an interrupted copy by other means or a loss of power leaves it.
+: >"$own/calora-configurator"
+start
+check "an empty executable is repaired" started 1.0 "$own" ''
+truncate --size=20 "$own/calora-configurator"
+start
+check "a truncated executable is repaired" started 1.0 "$own" ''
+truncate --size=20 "$own/calora-configurator"
+truncate --size="$(stat -c %s "$model/calora-configurator")" "$own/calora-configurator"
+start
+check "an executable with a hole is repaired" started 1.0 "$own" ''
+: >"$own/NotoSans-Bold.ttf"
+start
+check "an empty font is repaired" holds "$own/NotoSans-Bold.ttf" 'face of 1.0'
+chmod a-x "$own/calora-configurator"
+start
+check "a lost permission comes again" started 1.0 "$own" ''
+check "the languages stay as they are" holds "$own/language/English.json" 'my English'
+
 # Failures: one line, and what was there stays as it was. A stand-in for cp fills the disk.
 deliver 2.0
 before=$(state)
@@ -109,6 +128,122 @@ check "a home that can't be written is told in one line" refused $? "cannot set 
 (unset HOME && start)
 check "no home is told in one line" refused "$(($? ? 1 : 0))" HOME
 
+# The copy fails at each file in turn, as on a disk that runs full, or is killed there. Stand-ins do the work of cp and mv
+# file by file, until the count in the file "left" is used up; the file that cp stops at is cut short.
+for tool in cp mv; do
+    cat >"$work/bin/$tool" <<'SH'
+#!/bin/bash
+tick() {
+    left=$(($(cat "$work/left") - 1))
+    echo "$left" >"$work/left"
+    ((left)) && return
+    [[ ! -e $work/kill ]] || { kill -KILL "$PPID"; exit 1; }
+    [[ -z ${1:-} ]] || truncate --size=5 "$1"
+    echo "${0##*/}: error writing: No space left on device" >&2
+    exit 1
+}
+target=${@: -1}
+if [[ ${0##*/} == cp ]]; then
+    /bin/cp "$@" || exit
+    find "$target" -type f | while read -r file; do tick "$file" || exit; done || exit
+    exit 0
+fi
+options=()
+for file in "${@:1:$#-1}"; do
+    case $file in
+    -*) options+=("$file") ;;
+    *) tick && /bin/mv "${options[@]}" "$file" "$target" || exit ;;
+    esac
+done
+SH
+    chmod +x "$work/bin/$tool"
+done
+export work
+# Each file is one of either version as a whole, and the mark still that of the former.
+consistent() {
+    local file
+    for file in calora-configurator NotoSans-Bold.ttf; do
+        cmp -s "$own/$file" "$model/$file" || cmp -s "$own/$file" "$work/former/$file" || return
+    done
+    is "$(state_of language/language.ini language/English.json)" "$users" && holds "$own/version" 1.0
+}
+state_of() { (cd "$own" && sha256sum "$@"); }
+deliver 1.0
+start
+rm -f "$own/language/Suomi.json"
+users=$(state_of language/language.ini language/English.json)
+cp -R "$own" "$work/former"
+deliver 2.0
+echo 'Finnish of 2.0' >"$model/language/Suomi.json"
+for way in full kill; do
+    rm -f "$work/kill"
+    [[ $way == full ]] || touch "$work/kill"
+    for ((n = 1; n < 100; n++)); do
+        rm -rf "$own"
+        cp -R "$work/former" "$own"
+        echo "$n" >"$work/left"
+        PATH=$work/bin:$PATH start
+        code=$?
+        ((code != 7)) || break
+        check "$way at file $n: told" refused "$code" "cannot set up $own"
+        check "$way at file $n: no half file, no early mark" consistent
+        [[ $way == kill ]] || check "$way at file $n: nothing is left" is "$(find "$own" -name '.*')" ''
+        rm -rf "$own"/.new.*
+        start
+        check "$way at file $n: the next start mends it" started 2.0 "$own" ''
+        check "$way at file $n: all of it" holds "$own/NotoSans-Bold.ttf" 'face of 2.0'
+    done
+    check "$way: all files had their turn" is "$((n > 10))" 1
+done
+
+# Ended in the midst of the copy, by Ctrl+C, a closed terminal or the end of the session, which reach the whole group.
+rm "$work/bin/mv"
+# shellcheck disable=SC2016  # the stand-in expands them
+printf '#!/bin/sh\n/bin/cp "$@"\n: >"$work/copied"\nexec sleep 60\n' >"$work/bin/cp"
+wait_until() { # command...
+    local tries
+    for ((tries = 0; tries < 100; tries++)); do
+        "$@" && return
+        sleep 0.1
+    done
+    return 1
+}
+nothing_half_made() { is "$(find "$own" -name '.*')" ''; }
+rm -rf "$own"
+cp -R "$work/former" "$own"
+before=$(state)
+for signal in HUP INT TERM HUP INT TERM HUP INT TERM; do
+    rm -f "$work/copied"
+    PATH=$work/bin:$PATH setsid env --default-signal "$launcher" >"$work/out" 2>"$work/err" &
+    group=$!
+    wait_until test -e "$work/copied"
+    kill -s "$signal" -- "-$group"
+    wait "$group" 2>/dev/null
+    check "$signal in the midst ends it" is "$(($? > 128))" 1
+    check "$signal in the midst leaves nothing" wait_until nothing_half_made
+    check "$signal in the midst changes nothing" is "$(state)" "$before"
+done
+
+# Where no program may be run: a file system without such permissions, and one that is mounted so.
+not_started() { is "$1" 126 && is "$(wc -l <"$work/err")" 1 && grep -qF "cannot start $2/calora-configurator" "$work/err"; }
+# shellcheck disable=SC2016  # the stand-in expands them
+printf '#!/bin/sh\n/bin/cp "$@" && chmod a-x "$3/calora-configurator"\n' >"$work/bin/cp"
+PATH=$work/bin:$PATH start
+check "a home without permission to execute is told in one line" not_started $? "$own"
+rm "$work/bin/cp"
+own_mounts=(unshare --mount)
+((EUID == 0)) || own_mounts+=(--map-root-user)
+mkdir "$work/noexec"
+# shellcheck disable=SC2016  # the inner shell expands them
+if "${own_mounts[@]}" mount -t tmpfs -o noexec tmpfs "$work/noexec" 2>/dev/null; then
+    XDG_DATA_HOME=$work/noexec "${own_mounts[@]}" sh -c 'mount -t tmpfs -o noexec tmpfs "$XDG_DATA_HOME" && exec "$0"' \
+        "$launcher" >"$work/out" 2>"$work/err"
+    check "a home mounted without permission to execute is told in one line" not_started $? "$work/noexec/calora-configurator"
+else
+    echo "no mounts here: a home mounted without permission to execute is skipped"
+fi
+
+start
 XDG_DATA_HOME=$work/data start
 check "the folder for data is heeded" started 2.0 "$work/data/calora-configurator" ''
 XDG_DATA_HOME=relative start
