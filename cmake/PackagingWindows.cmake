@@ -11,7 +11,7 @@ execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libwinpthread.a
     OUTPUT_VARIABLE threads_library OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 set(licensed
     "Qt Core, Gui and Widgets with their plugins, linked in=/usr/share/doc/libqt5core5a/copyright"
-    "libstdc++.a and libgcc.a, linked in=${cxx_library}"
+    "libstdc++.a, libgcc.a and libssp.a, linked in=${cxx_library}"
     "libwinpthread.a and the start-up code, linked in=${threads_library}"
     ${font_files})
 install(CODE "
