@@ -1,5 +1,7 @@
 #include "app/paintedbutton.h"
 
+#include "app/plaintext.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -70,5 +72,5 @@ void PaintedButton::drawText(QPainter &painter, const QRect &place) const
     const bool shown = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
     large.setUnderline(large.underline() || shown);
     painter.setFont(large);
-    painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, text);
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, plaintext::shown(text));
 }

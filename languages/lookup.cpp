@@ -1,6 +1,7 @@
 // Languages: files, lookup, and the change of every text in the window.
 
 #include "app/maindialog.h"
+#include "app/plaintext.h"
 #include "document/files.h"
 #include "languages/languagemenu.h"
 #include "ui_maindialog.h"
@@ -140,9 +141,9 @@ void MainDialog::loadDefaultLanguageJsonFile()
 
 void MainDialog::changeOwnTexts()
 {
-    ui->newButton->setText(languageValue(QStringLiteral("New")));
-    ui->openButton->setText(languageValue(QStringLiteral("Open")));
-    ui->saveButton->setText(languageValue(QStringLiteral("Save")));
+    plaintext::setText(ui->newButton, languageValue(QStringLiteral("New")));
+    plaintext::setText(ui->openButton, languageValue(QStringLiteral("Open")));
+    plaintext::setText(ui->saveButton, languageValue(QStringLiteral("Save")));
     ui->labelLanguage->setText(languageValue(QStringLiteral("Language")));
     ui->labelSlide1->setText(languageValue(QStringLiteral("ProductSelection")));
     ui->labelSlide2->setText(languageValue(QStringLiteral("DipSwitchSettingStatus")));

@@ -1,12 +1,10 @@
 #include "pages/page.h"
 
 #include "app/maindialog.h"
+#include "app/plaintext.h"
 #include "document/util.h"
 
-#include <QAbstractButton>
 #include <QJsonDocument>
-#include <QLabel>
-#include <QRadioButton>
 
 #include <algorithm>
 #include <limits>
@@ -54,9 +52,9 @@ void Page::setCaptions(const std::vector<CaptionRow> &rows)
     for (const CaptionRow &row : rows) {
         const QString caption = mainDialog->languageValue(QLatin1String(row.key));
         if (auto *label = qobject_cast<QLabel *>(row.widget)) {
-            label->setText(caption);
+            plaintext::setText(label, caption);
         } else if (auto *button = qobject_cast<QAbstractButton *>(row.widget)) {
-            button->setText(caption);
+            plaintext::setText(button, caption);
         }
     }
 }

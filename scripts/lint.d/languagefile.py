@@ -179,10 +179,6 @@ def shown(key, text):
     """What wouldn't look right in the place of the key."""
     kind = places()[key]
     found = []
-    if "&" in text:
-        found.append(f"{key} holds '&': it would underline the letter behind it and vanish")
-    if "<" in text:
-        found.append(f"{key} holds '<': the text could be taken for markup")
     if any(unicodedata.category(letter) == "Cc" and letter != "\n" for letter in text):
         found.append(f"{key} holds a tab or another control character")
     bare = text[1:] if kind == "suffix" and text.startswith(" ") else text

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+// What is read from files is shown letter for letter: "<" makes no markup, and "&" neither vanishes nor makes
+// a shortcut. What is longer than any screen is shown as far as plaintext::shown() goes, since drawing it
+// whole would take minutes. To style sheets these classes are those of Qt that they derive from.
+
+/// A label of plain text, with or without a buddy.
+class PlainLabel : public QLabel
+{
+public:
+    explicit PlainLabel(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool drawsItself() const;
+    int textFlags() const;
+    QSize sizeForWidth(int width) const;
+};
+
+class PlainRadioButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+class PlainPushButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+namespace plaintext {
+
+/// The text, but cut off after a thousand characters.
+QString shown(const QString &text);
+
+/// Sets a text that a "&" makes no shortcut of. For labels with a buddy, and for buttons.
+void setText(QLabel *label, const QString &text);
+void setText(QAbstractButton *button, const QString &text);
+
+} // namespace plaintext
