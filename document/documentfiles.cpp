@@ -58,7 +58,7 @@ bool MainDialog::openNewJsonFile(const QString &refrigerant)
         return false;
     }
     state.filePath = path;
-    ui->pathLabel->setText(name);
+    ui->pathLabel->showPath(name);
     state.isNewFile = true;
     state.tempUnit = Util::readJsonValue(state.document, QLatin1String(unitPath)).toString();
     return true;
@@ -79,7 +79,7 @@ bool MainDialog::openJsonFile()
         return false;
     }
     state.filePath = selectedFile;
-    ui->pathLabel->setText(selectedFile);
+    ui->pathLabel->showPath(selectedFile);
     state.isNewFile = false;
     ui->productSelectionButton->setEnabled(false);
     setStepCompleted(true, 1);
