@@ -8,6 +8,7 @@
 #include "fuzz/target.h"
 
 #include "support/languagefolder.h"
+#include "support/openedfiles.h"
 
 #include <QComboBox>
 #include <QJsonArray>
@@ -60,6 +61,7 @@ private:
     QVector<QPair<int, int>> selections() const;
     void load();
     void expectTexts(const QByteArray &content) const;
+    void expectNothingOpened() const;
 
     Pages pages;
     QList<QComboBox *> combos = pages.window.dialog.findChildren<QComboBox *>();
@@ -142,6 +144,19 @@ void Languages::expectTexts(const QByteArray &content) const
     }
 }
 
+// A label that took its text for markup would load the pictures of it as soon as it is measured.
+void Languages::expectNothingOpened() const
+{
+    for (const QLabel *each : pages.window.dialog.findChildren<QLabel *>()) {
+        each->sizeHint();
+    }
+    for (const QString &path : openedfiles::all()) {
+        if (!path.startsWith(languagefolder::path())) {
+            fail("a text opens a file", path.toUtf8());
+        }
+    }
+}
+
 void Languages::run(const QByteArray &input)
 {
     static const QRegularExpression form(QStringLiteral("^English ([0-5]) ([0-3])$"));
@@ -158,7 +173,9 @@ void Languages::run(const QByteArray &input)
     spreadSelections();
     const QJsonDocument document = pages.document();
     const auto selected = selections();
+    openedfiles::clear();
     change(QStringLiteral("Input"));
+    expectNothingOpened();
     if (pages.document() != document) {
         fail("a language reaches the document", changes(document, pages.document()).join('\n').toUtf8());
     }
