@@ -162,6 +162,10 @@ QStringList range(int lower, int upper, const QString &suffix, int step)
 
 void prepareApplication()
 {
+    // Without /proc Qt can't tell, and "/language" would lie at the root of the disk.
+    if (QCoreApplication::applicationDirPath().isEmpty()) {
+        qFatal("The folder of this program is unknown; is /proc mounted?");
+    }
     QCoreApplication::setApplicationName(QStringLiteral("Calora configurator"));
 #ifdef Q_OS_WIN
     QApplication::setStyle(QStringLiteral("Fusion"));
