@@ -25,11 +25,13 @@ bool ValueList::hasPopup() const
     return findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
 }
 
-// The delegate that a popup has by itself leaves what the style sheet says of items undrawn.
+// The delegate that a popup has by itself leaves what the style sheet says of items undrawn. Whether the
+// popup is there tells nothing: a press of the mouse builds it before it comes here.
 void ValueList::showPopup()
 {
-    if (!hasPopup()) {
-        setItemDelegate(new QStyledItemDelegate(this));
+    if (itemPainter == nullptr) {
+        itemPainter = new QStyledItemDelegate(this);
+        setItemDelegate(itemPainter);
     }
     QComboBox::showPopup();
 }

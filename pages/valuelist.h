@@ -22,4 +22,6 @@ protected:
 
 private:
     bool hasPopup() const;
+
+    QAbstractItemDelegate *itemPainter = nullptr;
 };

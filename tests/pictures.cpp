@@ -141,7 +141,9 @@ void takeLanguageMenu(Album &album, const Window &window)
 void takeList(Album &album, const Window &window, const char *name)
 {
     auto *list = Window::find<QComboBox>(window.page<SettingUser>(), name);
-    list->showPopup();
+    mouse::moveTo(middleOf(list));
+    mouse::press();
+    mouse::release();
     album.add(QStringLiteral("popup-") + name, onScreen(window.dialog));
     mouse::moveTo(list->view()->viewport()->mapToGlobal(QPoint(40, 40)));
     album.add(QStringLiteral("popup-%1-over").arg(name), onScreen(window.dialog));

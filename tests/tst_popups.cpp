@@ -1,4 +1,5 @@
 #include "pages/valuelist.h"
+#include "support/mouse.h"
 #include "support/window.h"
 
 #include <QAbstractItemView>
@@ -16,6 +17,7 @@ private slots:
     void noneIsBuiltBeforeItIsOpened();
     void looksAsItsList();
     void opensBelowItsList();
+    void marksItsItemCalmly_data();
     void marksItsItemCalmly();
     void itemsDoNotSetTheWidth();
 
@@ -78,13 +80,34 @@ void TestPopups::opensBelowItsList()
     timer->hidePopup();
 }
 
+void TestPopups::marksItsItemCalmly_data()
+{
+    // Lists that nothing else here opens: what the first opening makes stays.
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("opened by keys") << "comboBrightness" << false;
+    QTest::newRow("opened by mouse") << "comboDateMonth" << true;
+}
+
 void TestPopups::marksItsItemCalmly()
 {
-    auto *timer = Window::find<QComboBox>(&window->dialog, "comboScreenSaverTimer");
-    timer->showPopup();
-    const QAbstractItemView *view = timer->view();
+    QFETCH(QString, list);
+    QFETCH(bool, byMouse);
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *opened = Window::find<QComboBox>(&window->dialog, qPrintable(list));
+    if (byMouse) {
+        mouse::place(window->dialog, QPoint(0, 0));
+        mouse::moveTo(opened->mapToGlobal(opened->rect().center()));
+        mouse::press();
+        mouse::release();
+    } else {
+        QTest::keyClick(opened, Qt::Key_Space);
+    }
+    const QAbstractItemView *view = opened->view();
+    QVERIFY(view->isVisible());
     QVERIFY(view->currentIndex().isValid());
     const QRect row = view->visualRect(view->currentIndex());
+    QVERIFY(row.height() >= 28);
     const QImage marked = view->viewport()->grab(row).toImage();
     const QColor accent(0xA5, 0x00, 0x34);
     QCOMPARE(marked.pixelColor(1, row.height() / 2), accent);
@@ -102,7 +125,7 @@ void TestPopups::marksItsItemCalmly()
     const auto other = view->model()->index(view->currentIndex().row() == 0 ? 1 : 0, 0);
     const QRect place = view->visualRect(other);
     QCOMPARE(view->viewport()->grab(place).toImage().pixelColor(1, place.height() / 2), QColor(Qt::white));
-    timer->hidePopup();
+    opened->hidePopup();
 }
 
 void TestPopups::itemsDoNotSetTheWidth()
