@@ -2,6 +2,8 @@
 
 #include "app/frameless.h"
 #include "app/jsonlist.h"
+#include "app/radiogroups.h"
+#include "app/radioring.h"
 #include "app/windowshadow.h"
 #include "languages/languagemenu.h"
 #include "pages/installation/installationaauto.h"
@@ -44,6 +46,7 @@ MainDialog::MainDialog(QWidget *parent)
     updateMaximumButtonUi(isMaximized());
     initCFTable();
     initUi();
+    new RadioRing(this);
 }
 
 MainDialog::~MainDialog() = default;
@@ -64,6 +67,7 @@ void MainDialog::initUi()
         mark->hide();
     }
     ui->sideGroupBox->hide();
+    ui->newButton->setFocus(); // not the first button of the title bar
     ui->labelVersion->setText(QStringLiteral("Orvo Heating Configurator SW ver. 1.0 / RMC SW ver. 3.03.1b"));
     state.languageIniPath = QCoreApplication::applicationDirPath() + QStringLiteral("/language/language.ini");
     loadLanguageData(state.languageIniPath);
@@ -208,6 +212,12 @@ bool MainDialog::eventFilter(QObject *object, QEvent *event)
         return true;
     }
     return QDialog::eventFilter(object, event);
+}
+
+bool MainDialog::focusNextPrevChild(bool next)
+{
+    radiogroups::placeTabStops(this);
+    return QDialog::focusNextPrevChild(next);
 }
 
 // Return presses no button and Esc leaves the dialog open: the tool ends through its close button or the

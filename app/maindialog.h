@@ -168,6 +168,7 @@ private slots:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

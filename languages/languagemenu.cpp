@@ -2,6 +2,7 @@
 
 #include "app/maindialog.h"
 #include "document/files.h"
+#include "languages/languagebox.h"
 #include "languages/languageitem.h"
 #include "languages/userlanguageeditpopup.h"
 #include "ui_languagemenu.h"
@@ -9,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileDialog>
+#include <QKeyEvent>
 
 LanguageMenu::LanguageMenu(QWidget *parent)
     : QWidget(parent)
@@ -34,6 +36,45 @@ void LanguageMenu::setLanguageList(const QStringList &names)
         item->setSizeHint(row->size());
         ui->listWidget->setItemWidget(item, row);
         connect(row, &LanguageItem::clickedModifyButton, this, &LanguageMenu::clickedModifyButton);
+    }
+}
+
+void LanguageMenu::takeKeys(const QString &language)
+{
+    int row = 0;
+    for (int index = 0; index < ui->listWidget->count(); ++index) {
+        row = rowAt(index)->language() == language ? index : row;
+    }
+    ui->listWidget->setCurrentRow(row);
+    ui->listWidget->setFocus(Qt::TabFocusReason);
+}
+
+const LanguageItem *LanguageMenu::rowAt(int index) const
+{
+    return static_cast<LanguageItem *>(ui->listWidget->itemWidget(ui->listWidget->item(index)));
+}
+
+// Left to itself, the focus would go on to the next widget that takes it, which is New.
+void LanguageMenu::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    auto *box = window()->findChild<LanguageBox *>();
+    if (box != nullptr && isAncestorOf(window()->focusWidget())) {
+        box->setFocus(Qt::PopupFocusReason);
+    }
+}
+
+// What the list and the buttons leave.
+void LanguageMenu::keyPressEvent(QKeyEvent *event)
+{
+    QListWidgetItem *item = ui->listWidget->currentItem();
+    const bool takes = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (takes && item != nullptr && ui->listWidget->hasFocus()) {
+        emit ui->listWidget->itemClicked(item);
+    } else if (event->key() == Qt::Key_Escape) {
+        closeMenu();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

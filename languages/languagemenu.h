@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class LanguageItem;
 class QListWidgetItem;
 namespace Ui {
 class LanguageMenu;
@@ -22,6 +23,14 @@ public:
     /// Adds one row per language, in the order of `names`.
     void setLanguageList(const QStringList &names);
 
+    /// Gives the list the keys, with the row of `language` as the current one, or the first row. Arrows
+    /// choose a row, Return takes it, Esc closes the popup.
+    void takeKeys(const QString &language);
+
+protected:
+    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
 private slots:
     void on_listWidget_itemClicked(QListWidgetItem *item);
     void on_newButton_clicked();
@@ -32,6 +41,7 @@ private slots:
 
 private:
     void closeMenu();
+    const LanguageItem *rowAt(int index) const;
 
     std::unique_ptr<Ui::LanguageMenu> ui;
 };

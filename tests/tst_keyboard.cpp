@@ -5,6 +5,7 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include <QAbstractButton>
+#include <QScrollArea>
 #include <QSet>
 
 namespace {
@@ -51,18 +52,46 @@ QList<QWidget *> groupOf(QWidget *widget)
     return group.isEmpty() ? QList<QWidget *>{widget} : group;
 }
 
-/// What Tab visits, from the widget that has the focus until it comes back to one that it has been to.
-QList<QWidget *> tabThrough()
+/// What Tab (or Shift and Tab) visits, from the widget that has the focus until it comes back to one that it
+/// has been to.
+QList<QWidget *> tabThrough(Qt::Key key = Qt::Key_Tab)
 {
     QList<QWidget *> visited;
     for (QWidget *at = QApplication::focusWidget(); !visited.contains(at); at = QApplication::focusWidget()) {
         visited.append(at);
-        QTest::keyClick(at, Qt::Key_Tab);
+        QTest::keyClick(at, key);
     }
     return visited;
 }
 
-QImage look(QWidget *widget) { return widget->grab().toImage(); }
+/// Whether it is no radio, or the checked one of its group, or the first one where none is checked.
+bool isChosen(QWidget *widget)
+{
+    const auto group = groupOf(widget);
+    const auto checked = std::find_if(group.begin(), group.end(), [](QWidget *each) {
+        const auto *radio = qobject_cast<QRadioButton *>(each);
+        return radio != nullptr && radio->isChecked();
+    });
+    return widget == (checked == group.end() ? group.first() : *checked);
+}
+
+/// The widget; a radio as it is seen in its window, with a few pixels around it.
+QImage look(QWidget *widget)
+{
+    if (qobject_cast<QRadioButton *>(widget) == nullptr) {
+        return widget->grab().toImage();
+    }
+    QWidget *above = widget;
+    while (above != nullptr && qobject_cast<QScrollArea *>(above) == nullptr) {
+        above = above->parentWidget();
+    }
+    if (above != nullptr) {
+        static_cast<QScrollArea *>(above)->ensureWidgetVisible(widget);
+    }
+    constexpr int around = 5;
+    const QRect place(widget->mapTo(widget->window(), QPoint()), widget->size());
+    return widget->window()->grab(place.adjusted(-around, -around, around, around)).toImage();
+}
 
 /// Whether the picture has a colour besides greys and the accent, such as the blue of a desktop's own focus.
 bool isForeign(const QImage &picture)
@@ -109,6 +138,10 @@ private slots:
     void tabReadsThePage_data() { refrigerants(); }
     void tabReadsThePage();
     void tabReadsTheEditor();
+    void radioIsRinged();
+    void clickNeedsNoRing();
+    void startsAtNew();
+    void windowButtonsArePressed();
     void menuShowsItsFocus();
     void tabsAreChosen();
     void arrowsChooseAsClicksDo_data() { refrigerants(); }
@@ -147,12 +180,16 @@ void TestKeyboard::tabReadsThePage()
 void TestKeyboard::readPage(const Window &window, const QString &stop)
 {
     const QList<QWidget *> visited = tabThrough();
+    QList<QWidget *> back = tabThrough(Qt::Key_Backtab);
+    std::reverse(back.begin() + 1, back.end());
+    QCOMPARE(namesOf(back), namesOf(visited));
     QSet<const QWidget *> reached;
     for (int index = 0; index < visited.size(); ++index) {
         QWidget *widget = visited.at(index);
         const QString where = stop + ": " + widget->objectName();
         const auto group = groupOf(widget);
         reached.unite(QSet<const QWidget *>(group.begin(), group.end()));
+        QVERIFY2(isChosen(widget), qPrintable(where + " isn't what is chosen"));
         QVERIFY2(showsFocus(widget), qPrintable(where + " hides its focus"));
         if (index > 0 && regionOf(widget) == regionOf(visited.at(index - 1))) {
             QVERIFY2(readsBefore(visited.at(index - 1), widget), qPrintable(where + " comes late"));
@@ -181,6 +218,75 @@ void TestKeyboard::tabReadsTheEditor()
     for (QWidget *widget : visited.mid(0, 6) + visited.mid(visited.size() - 3)) {
         QVERIFY2(showsFocus(widget), qPrintable(widget->objectName()));
     }
+}
+
+// A ring around it: what lies within looks as before.
+void TestKeyboard::radioIsRinged()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    for (const char *name : {"radioSummerTimeUse", "radioSummerTimeNotuse"}) {
+        auto *radio = Window::find<QRadioButton>(&window.dialog, name);
+        radio->clearFocus();
+        const QImage without = look(radio);
+        radio->setFocus(Qt::TabFocusReason);
+        const QImage with = look(radio);
+        const QRect inside = with.rect().adjusted(5, 5, -5, -5);
+        QVERIFY(with != without);
+        const int end = inside.left() + radio->sizeHint().width();
+        for (int x = inside.left(); x < end; ++x) {
+            for (int y = inside.top(); y <= inside.bottom(); ++y) {
+                QCOMPARE(with.pixelColor(x, y), without.pixelColor(x, y));
+            }
+        }
+        const QColor accent(0xA5, 0x00, 0x34);
+        const int middle = with.height() / 2;
+        QCOMPARE(with.pixelColor(inside.left() - 4, middle), accent);
+        QCOMPARE(with.pixelColor(inside.left() - 2, middle), QColor(Qt::white));
+        QCOMPARE(with.pixelColor(inside.left() + radio->sizeHint().width() + 3, middle), accent);
+    }
+}
+
+void TestKeyboard::clickNeedsNoRing()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *radio = Window::find<QRadioButton>(&window.dialog, "radioSummerTimeUse");
+    Window::click(radio);
+    QVERIFY(radio->hasFocus());
+    const QImage clicked = look(radio);
+    radio->clearFocus();
+    QCOMPARE(clicked, look(radio));
+}
+
+void TestKeyboard::startsAtNew()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    const auto *bar = Window::find(&window.dialog, "toolbarGroupBox");
+    QCOMPARE(QApplication::focusWidget(), Window::find(bar, "newButton"));
+}
+
+void TestKeyboard::windowButtonsArePressed()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    for (const char *name : {"closeButton", "maximumButton"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), Window::find(&window.dialog, name));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTRY_VERIFY(window.dialog.isMaximized());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTRY_VERIFY(!window.dialog.isMaximized());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), Window::find(&window.dialog, "minimizeButton"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTRY_VERIFY(window.dialog.isMinimized());
 }
 
 void TestKeyboard::menuShowsItsFocus()

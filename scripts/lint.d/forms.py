@@ -15,8 +15,8 @@ BARE = {"label", "pushButton", "radioButton", "checkBox", "comboBox", "spinBox",
 # Containers that place their children themselves.
 PLACING = {"PageStack", "QScrollArea", "QStackedWidget", "QTabWidget", "QToolBox", "QSplitter", "QMainWindow", "QDockWidget"}
 
-FOCUSED = {"ImageButton", "QCheckBox", "QComboBox", "QLineEdit", "QPushButton", "QSpinBox", "QDateEdit",
-           "PlainPushButton", "PlainRadioButton", "QTimeEdit", "TabButton", "ValueList"}
+FOCUSED = {"ContactLine", "ImageButton", "LanguageBox", "QCheckBox", "QComboBox", "QLineEdit", "QPushButton", "QSpinBox",
+           "QDateEdit", "PlainPushButton", "PlainRadioButton", "QTimeEdit", "TabButton", "ValueList"}
 
 
 def is_left_over(name):

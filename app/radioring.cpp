@@ -1,0 +1,95 @@
+#include "app/radioring.h"
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QRadioButton>
+
+namespace {
+
+/// Leaves room around the radio, and lets the ring be painted as it is.
+class RoomAround : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        const bool isMargin = metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin;
+        return isMargin ? 4 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_FocusFrame_Mask       ? 0
+            : hint == SH_FocusFrame_AboveWidget ? 1
+                                                : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+/// Puts the ring where keys lead the focus; a click needs none.
+class Follower : public QObject
+{
+public:
+    explicit Follower(RadioRing *follows)
+        : QObject(follows)
+        , ring(follows)
+    {
+    }
+
+    bool eventFilter(QObject *radio, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn) {
+            const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+            const bool byKeys = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+            ring->setWidget(byKeys ? static_cast<QWidget *>(radio) : nullptr);
+        } else if (event->type() == QEvent::FocusOut) {
+            ring->setWidget(nullptr);
+        }
+        return QObject::eventFilter(radio, event);
+    }
+
+private:
+    RadioRing *ring;
+};
+
+} // namespace
+
+RadioRing::RadioRing(QWidget *window)
+    : QFocusFrame(window)
+{
+    hide();
+    auto *room = new RoomAround;
+    room->setParent(this);
+    setStyle(room);
+    auto *follower = new Follower(this);
+    const auto radios = window->findChildren<QRadioButton *>();
+    for (QRadioButton *radio : radios) {
+        radio->installEventFilter(follower);
+    }
+}
+
+// A focus frame hides when its widget lies outside what is seen of a page, and stays so when the page scrolls
+// there.
+bool RadioRing::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool taken = QFocusFrame::eventFilter(watched, event);
+    if (event->type() == QEvent::Move && widget() != nullptr && widget()->isVisible()) {
+        show();
+        raise();
+    }
+    return taken;
+}
+
+void RadioRing::paintEvent(QPaintEvent *)
+{
+    const QWidget *radio = widget();
+    if (radio == nullptr) {
+        return;
+    }
+    // Not around the empty end of a radio that is wider than its text.
+    const int empty = qMax(0, radio->width() - radio->sizeHint().width());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(radio->palette().color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5 - empty, -0.5), 4, 4);
+}

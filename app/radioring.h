@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFocusFrame>
+
+class QRadioButton;
+
+/// The ring around the radio that keys have reached. It lies outside the radio, whose picture fills its left
+/// end.
+class RadioRing : public QFocusFrame
+{
+    Q_OBJECT
+
+public:
+    /// Serves all radios that the window has by now; the window owns it.
+    explicit RadioRing(QWidget *window);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
