@@ -11,7 +11,7 @@ InstallationaAuto::InstallationaAuto(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationaAuto>())
 {
     ui->setupUi(this);
-    collapse(ui->hideButton, ui->frame);
+    startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
 

@@ -44,7 +44,7 @@ InstallationCool::InstallationCool(QWidget *parent)
 {
     ui->setupUi(this);
     controls = waterControls(*ui);
-    collapse(ui->hideButton, ui->frame);
+    startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
 

@@ -76,7 +76,7 @@ InstallationDWH::InstallationDWH(QWidget *parent)
                {ui->radioUnderFloorUse, floorPriorityPath, "SET"},
                {ui->radioDisinfectionNotUse, disinfectionPath, "CLR"},
                {ui->radioDisinfectionUse, disinfectionPath, "SET"}};
-    collapse(ui->hideButton, ui->frame);
+    startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
 

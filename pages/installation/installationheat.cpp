@@ -40,7 +40,7 @@ InstallationHeat::InstallationHeat(QWidget *parent)
 {
     ui->setupUi(this);
     controls = waterControls(*ui);
-    collapse(ui->hideButton, ui->frame);
+    startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
 

@@ -44,7 +44,7 @@ InstallationSystemSetting::InstallationSystemSetting(QWidget *parent)
     // The heat pump section here too, on purpose.
     connect(this, &InstallationSystemSetting::refreshAquaboxCategory, ui->widgetAwhp,
             &InstallationSystemAWHP::refresh);
-    collapse(ui->hideButton, ui->frame);
+    startCollapsed(ui->hideButton, ui->frame);
     ui->widgetAwhp->hide();
     ui->widgetAquabox->hide();
     initDefaultRange();

@@ -13,15 +13,24 @@ public:
     explicit Section(QWidget *parent = nullptr);
 
 protected:
-    /// Starts closed: hides the body and gives the button its arrow.
-    void collapse(QPushButton *hideButton, QFrame *frame);
+    /// Starts closed, and lets a click anywhere on the header be one on its button.
+    void startCollapsed(QPushButton *hideButton, QFrame *frame);
     void toggle(QPushButton *hideButton, QFrame *frame);
     /// The guarded write: only while the section is open, and never into an empty document.
     void writeWhileExpanded(const QString &path, const QJsonValue &value) const;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     bool expanded = false;
 
 private:
+    /// Hides the body and gives the button its arrow.
+    void collapse(QPushButton *hideButton, QFrame *frame);
+    /// Scrolls as little as shows the section, or its upper part when it is higher than the page.
+    void scrollIntoView();
     /// Lets the header of the button end as the body below it goes on, or as a card of its own.
     static void styleHeader(const QPushButton *hideButton, bool open);
+
+    QPushButton *headerButton = nullptr;
+    bool headerPressed = false;
 };
