@@ -1,5 +1,7 @@
+#include "support/mouse.h"
 #include "support/window.h"
 
+#include "document/util.h"
 #include "pages/operation/settingservice.h"
 
 #include <QJsonObject>
@@ -29,6 +31,9 @@ private slots:
     void emptyingDiffers();
     void slotsWriteTheFieldsText_data();
     void slotsWriteTheFieldsText();
+    void firstClickSelects_data();
+    void firstClickSelects();
+    void firstDragSelectsItsOwn();
     void patterns();
     void telephoneRefusesLetters();
     void sixteenthCharacterIsRefused_data();
@@ -240,6 +245,42 @@ void TestSettingService::slotsWriteTheFieldsText()
     window->use(documents::with(documents::standard("R410"), {{path, "x"}}));
     QCOMPARE(window->changes([tell] { tell("88"); }), (QVariantMap{{path, "77"}}));
     QCOMPARE(edit(QTest::currentDataTag())->text(), QStringLiteral("77"));
+}
+
+void TestSettingService::firstClickSelects_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("lineEditOfficeName") << "company";
+    QTest::newRow("lineEditInstallerName") << "installerName";
+    QTest::newRow("lineEditTelephone") << "phoneNumber";
+}
+
+void TestSettingService::firstClickSelects()
+{
+    QFETCH(QString, path);
+    show({});
+    auto *line = edit(QTest::currentDataTag());
+    Window::click(&window->dialog, "serviceTabButton");
+    QTest::mouseClick(line, Qt::LeftButton);
+    QCOMPARE(line->selectedText(), QStringLiteral("-"));
+    QTest::keyClicks(line, "12");
+    QCOMPARE(line->text(), QStringLiteral("12"));
+    QCOMPARE(Util::readJsonValue(window->dialog.document(), "SettingInfo.svc.svcContact." + path).toString(),
+             QStringLiteral("12"));
+    // Further clicks put the cursor.
+    QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(12, line->height() / 2));
+    QVERIFY(!line->hasSelectedText());
+}
+
+void TestSettingService::firstDragSelectsItsOwn()
+{
+    show({});
+    auto *line = edit("lineEditOfficeName");
+    line->setText("abcdefgh");
+    mouse::place(window->dialog, QPoint(0, 0));
+    mouse::drag(line->mapToGlobal(QPoint(2, line->height() / 2)), QPoint(30, 0));
+    QVERIFY(line->hasSelectedText());
+    QVERIFY(line->selectedText() != line->text());
 }
 
 void TestSettingService::patterns()
