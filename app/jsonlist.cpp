@@ -4,6 +4,17 @@
 #include <QFileDialog>
 #include <QFileSystemModel>
 
+namespace {
+
+/// The text of the rest of the tool, and nothing of a frame that the window above may have.
+QString plainLook()
+{
+    return QStringLiteral("* { font-family: \"Noto Sans\"; font-size: 10pt; }"
+                          "QDialog { border: none; border-radius: 0; background-color: #f2f2f2; }");
+}
+
+} // namespace
+
 JsonList::JsonList(QObject *window)
     : QObject(window)
 {
@@ -15,8 +26,9 @@ bool JsonList::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {
         QObject *child = static_cast<QChildEvent *>(event)->child();
-        if (qobject_cast<QFileDialog *>(child) != nullptr) {
-            child->installEventFilter(this);
+        if (auto *dialog = qobject_cast<QFileDialog *>(child)) {
+            dialog->setStyleSheet(plainLook());
+            dialog->installEventFilter(this);
         }
     } else if (event->type() == QEvent::Show && watched != parent()) {
         if (auto *files = watched->findChild<QFileSystemModel *>()) {

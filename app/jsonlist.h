@@ -2,9 +2,10 @@
 
 #include <QObject>
 
-/// Makes the file dialogs of a window list JSON files. The filter "*.json;" is one for the dialogs of
-/// Windows, where a semicolon separates; Qt's own dialog takes it as part of the name, and would list no
-/// file. Attaches itself as event filter; a dialog of the system isn't touched.
+/// Serves the file dialogs of a window. It makes them list JSON files: the filter "*.json;" is one for the
+/// dialogs of Windows, where a semicolon separates; Qt's own dialog takes it as part of the name, and would
+/// list no file. And it gives them a plain look, whatever style sheet the window has. Attaches itself as
+/// event filter; a dialog of the system isn't touched.
 class JsonList : public QObject
 {
 public:

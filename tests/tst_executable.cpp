@@ -94,6 +94,29 @@ public:
         return before;
     }
 
+    /// The picture of another window of the tool once it shows what is expected, or the last one: its cursor
+    /// blinks.
+    QImage pictureOf(const QString &title, const QImage &expected = {}) const
+    {
+        QString other;
+        const QStringList search{
+            "search", "--onlyvisible",  "--all", "--pid", QString::number(process.processId()),
+            "--name", '^' + title + '$'};
+        QImage before;
+        for (int tries = 0; tries < 60; ++tries) {
+            QTest::qWait(100);
+            other = ask("xdotool", search);
+            const QImage now = other.isEmpty()
+                ? QImage()
+                : QGuiApplication::primaryScreen()->grabWindow(other.toULongLong()).toImage();
+            if (!now.isNull() && now == (expected.isNull() ? before : expected)) {
+                return now;
+            }
+            before = now;
+        }
+        return before;
+    }
+
     void clickAt(int x, int y) const
     {
         ask("xdotool",
@@ -136,6 +159,9 @@ QMap<QString, QByteArray> contents(const QString &folder)
 // The middle of the close button: 32 wide, 8 from the right end of a title bar 40 high.
 constexpr int closeX = 1440 - 8 - 16;
 constexpr int closeY = 20;
+// Within the button Open, the second one below.
+constexpr int openX = 155;
+constexpr int openY = 66;
 
 } // namespace
 
@@ -153,6 +179,8 @@ private slots:
     void isNotScaled_data();
     void isNotScaled();
     void isNotScaledByTheDesktop();
+    void hasNoDesktopsTheme_data();
+    void hasNoDesktopsTheme();
     void findsItsFilesFromAnywhere();
     void runsWithoutItsFiles_data();
     void runsWithoutItsFiles();
@@ -162,9 +190,13 @@ private slots:
     void picksItsPlatform();
 
 private:
+    QMap<QString, QString> userWith(const QStringList &files) const;
     QString folder() const { return home->filePath("calora"); }
 
     std::unique_ptr<QTemporaryDir> home;
+    QTemporaryDir userFolder;
+    /// The file dialog without a desktop, over one settings file.
+    QImage plainFiles;
     /// The window of a run with nothing special about it.
     QImage plain;
 };
@@ -278,6 +310,60 @@ void TestExecutable::isNotScaledByTheDesktop()
     ask("xprop", {"-root", "-remove", "RESOURCE_MANAGER"});
     QCOMPARE(size, QSize(1440, 800));
     QCOMPARE(picture, plain);
+}
+
+/// A user who has these files, which are what a file dialog starts with.
+QMap<QString, QString> TestExecutable::userWith(const QStringList &files) const
+{
+    const QString user = userFolder.path();
+    QDir(user + "/Desktop").removeRecursively();
+    QDir().mkpath(user + "/Desktop");
+    for (const QString &name : files) {
+        testfiles::put(user + "/Desktop/" + name, "{}");
+        QFile file(user + "/Desktop/" + name);
+        file.open(QIODevice::ReadWrite);
+        file.setFileTime(QDateTime(QDate(2020, 1, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
+    }
+    return {{"HOME", user}, {"XDG_CONFIG_HOME", user + "/.config"}};
+}
+
+void TestExecutable::hasNoDesktopsTheme_data()
+{
+    using Variables = QMap<QString, QString>;
+    QTest::addColumn<Variables>("variables");
+    QTest::newRow("GNOME") << Variables{{"XDG_CURRENT_DESKTOP", "GNOME"},
+                                        {"DESKTOP_SESSION", "gnome"},
+                                        {"GNOME_DESKTOP_SESSION_ID", "this-is-deprecated"}};
+    QTest::newRow("GNOME, by its session") << Variables{{"DESKTOP_SESSION", "gnome"}};
+    QTest::newRow("GNOME, by its number") << Variables{{"GNOME_DESKTOP_SESSION_ID", "1"}};
+    QTest::newRow("KDE") << Variables{
+        {"XDG_CURRENT_DESKTOP", "KDE"}, {"KDE_FULL_SESSION", "true"}, {"KDE_SESSION_VERSION", "5"}};
+    QTest::newRow("theme of Qt") << Variables{{"QT_QPA_PLATFORMTHEME", "gtk3"}};
+    QTest::newRow("style of Qt") << Variables{{"QT_STYLE_OVERRIDE", "windows"}};
+}
+
+// Its window and its file dialogs, with the files that they list, are what they are without a desktop.
+void TestExecutable::hasNoDesktopsTheme()
+{
+    using Variables = QMap<QString, QString>;
+    QFETCH(Variables, variables);
+    const auto filesSeen = [this](const QStringList &files, Variables with, const QImage &expected = {}) {
+        const Variables user = userWith(files);
+        for (auto each = user.begin(); each != user.end(); ++each) {
+            with.insert(each.key(), each.value());
+        }
+        Run run(folder(), {{}, with, {}});
+        [&] { QCOMPARE(run.picture(), plain); }();
+        run.clickAt(openX, openY);
+        return run.pictureOf("Json File", expected);
+    };
+    if (plainFiles.isNull()) {
+        plainFiles = filesSeen({"a.txt", "b.json"}, {});
+        QVERIFY(!plainFiles.isNull());
+        const QImage none = filesSeen({"a.txt"}, {});
+        QVERIFY(none.size() == plainFiles.size() && none != plainFiles);
+    }
+    QCOMPARE(filesSeen({"a.txt", "b.json"}, variables, plainFiles), plainFiles);
 }
 
 void TestExecutable::findsItsFilesFromAnywhere()

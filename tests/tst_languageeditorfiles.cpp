@@ -5,6 +5,7 @@
 #include "languages/languagemenu.h"
 
 #include <QChildEvent>
+#include <QFileDialog>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -45,6 +46,8 @@ private slots:
     void init() { open(); }
     void cleanup() { close(); }
 
+    void fileDialogsLookPlain_data();
+    void fileDialogsLookPlain();
     void opensAFile();
     void dialogsListLanguageFiles();
     void openIsCancelled();
@@ -87,6 +90,36 @@ private:
         Window::click(languages->itemWidget(languages->item(index)), "labelLanguage");
     }
 };
+
+void TestLanguageEditorFiles::fileDialogsLookPlain_data()
+{
+    QTest::addColumn<bool>("overTheEditor");
+    QTest::newRow("openButton") << true;
+    QTest::newRow("saveButton") << true;
+    QTest::newRow("openButton of the window") << false;
+}
+
+// As the window's text, and without the frame that the editor has.
+void TestLanguageEditorFiles::fileDialogsLookPlain()
+{
+    QFETCH(bool, overTheEditor);
+    const QByteArray name = QByteArray(QTest::currentDataTag()).split(' ').first();
+    const QWidget *owner = overTheEditor ? static_cast<QWidget *>(editor.get())
+                                         : Window::find(&dialog(), "toolbarGroupBox");
+    QVERIFY(modal::drive<QFileDialog>(
+        [&] { Window::click(owner, name.constData()); },
+        [&](QFileDialog *files) {
+            const QImage picture = files->grab().toImage();
+            for (const QPoint &place :
+                 {QPoint(0, 0), QPoint(picture.width() / 2, 0), QPoint(0, picture.height() / 2)}) {
+                QCOMPARE(picture.pixelColor(place), QColor(0xf2, 0xf2, 0xf2));
+            }
+            for (const char *part : {"lookInLabel", "fileNameEdit", "listView"}) {
+                QCOMPARE(Window::find(files, part)->font().pointSize(), 10);
+                QCOMPARE(Window::find(files, part)->font().family(), QString("Noto Sans"));
+            }
+        }));
+}
 
 void TestLanguageEditorFiles::opensAFile()
 {
