@@ -1,6 +1,7 @@
 #include "pages/valuelist.h"
 
 #include <QEvent>
+#include <QListView>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
@@ -32,6 +33,11 @@ void ValueList::showPopup()
     if (itemPainter == nullptr) {
         itemPainter = new QStyledItemDelegate(this);
         setItemDelegate(itemPainter);
+    }
+    // Each item measured by itself would keep a hand waiting.
+    constexpr int longList = 1000;
+    if (auto *rows = qobject_cast<QListView *>(view())) {
+        rows->setUniformItemSizes(count() > longList);
     }
     QComboBox::showPopup();
 }

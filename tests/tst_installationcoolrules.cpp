@@ -37,6 +37,7 @@ private slots:
     void limitsAreBroughtIn_data();
     void limitsAreBroughtIn();
     void absurdLimitsEndTheLists();
+    void distantLimitKeepsTheValue();
     void closedSectionWritesNothing();
     void basisBringsItsRangeAndDefaults();
     void fanCoilSlotsDiffer();
@@ -104,11 +105,19 @@ void TestInstallationCoolRules::limitsAreBroughtIn()
 void TestInstallationCoolRules::absurdLimitsEndTheLists()
 {
     driver->load({{lowLimit, 0}, {highLimit, 2147483647}, {pump + "time", 2147483647}});
-    QCOMPARE(driver->items("comboControlWaterTemp"), range(0, 999, "°C"));
-    QCOMPARE(driver->items("comboControlMainZoneTemp"), range(0, 999, "°C"));
+    QCOMPARE(driver->items("comboControlWaterTemp"), range(0, 29999, "°C"));
+    QCOMPARE(driver->items("comboControlMainZoneTemp"), range(0, 29999, "°C"));
     QCOMPARE(driver->items("comboTemperatureWaterMax"), range(22, 27, "°C"));
     driver->load({{lowLimit, -2147483647}, {highLimit, 2147483647}}, QStringLiteral("FAHRENHEIT"));
     QCOMPARE(driver->items("comboControlWaterTemp"), QStringList{"0°F"});
+}
+
+// A limit that is only far off makes a long list, which the value is in.
+void TestInstallationCoolRules::distantLimitKeepsTheValue()
+{
+    driver->load({{lowLimit, -9999}, {highLimit, 27}, {constant + "ctrTemp", 18}});
+    QCOMPARE(driver->items("comboControlWaterTemp").first(), QStringLiteral("-9999°C"));
+    QCOMPARE(driver->shown("comboControlWaterTemp"), QStringLiteral("18°C"));
 }
 
 void TestInstallationCoolRules::closedSectionWritesNothing()

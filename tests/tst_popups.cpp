@@ -3,6 +3,7 @@
 #include "support/window.h"
 
 #include <QAbstractItemView>
+#include <QListView>
 
 // A value list builds its popup when it is first opened: a hundred popups that are never seen would make the
 // start slow.
@@ -19,6 +20,7 @@ private slots:
     void opensBelowItsList();
     void marksItsItemCalmly_data();
     void marksItsItemCalmly();
+    void longListOpensAtOnce();
     void itemsDoNotSetTheWidth();
 
 private:
@@ -126,6 +128,19 @@ void TestPopups::marksItsItemCalmly()
     const QRect place = view->visualRect(other);
     QCOMPARE(view->viewport()->grab(place).toImage().pixelColor(1, place.height() / 2), QColor(Qt::white));
     opened->hidePopup();
+}
+
+// Its rows aren't measured one by one; those of a usual list are, since a language may break a line.
+void TestPopups::longListOpensAtOnce()
+{
+    for (const int length : {940, 10024}) {
+        ValueList list;
+        list.addItems(range(1, length, "°C"));
+        list.show();
+        list.showPopup();
+        QCOMPARE(qobject_cast<QListView *>(list.view())->uniformItemSizes(), length > 1000);
+        list.hidePopup();
+    }
 }
 
 void TestPopups::itemsDoNotSetTheWidth()

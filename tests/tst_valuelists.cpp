@@ -37,6 +37,8 @@ private slots:
     void unitIsAnyText();
     void fillsARange_data();
     void fillsARange();
+    void fillsLongRanges_data();
+    void fillsLongRanges();
     void fillsInSilence();
     void crossedRangeLeavesTheList();
     void selectsAValue_data();
@@ -229,6 +231,29 @@ void TestValueLists::fillsARange()
         QVERIFY(combo->itemData(index).isNull());
         QVERIFY(combo->itemIcon(index).isNull());
     }
+}
+
+void TestValueLists::fillsLongRanges_data()
+{
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("damaged limit") << -9999 << 24 << 10024 << "24°C";
+    QTest::newRow("longest") << -29975 << 24 << 30000 << "24°C";
+    QTest::newRow("cut") << -29976 << 24 << 30000 << "23°C";
+}
+
+// A document's value is in a list that a damaged limit has made long.
+void TestValueLists::fillsLongRanges()
+{
+    QFETCH(int, lower);
+    QFETCH(int, upper);
+    dialog().setRangeValueInComboBox(combo, lower, upper, MainDialog::Temperature, 1);
+    QTEST(combo->count(), "count");
+    QTEST(combo->itemText(combo->count() - 1), "last");
+    dialog().setComboByValue(combo, 18, MainDialog::Temperature);
+    QCOMPARE(combo->currentText(), QStringLiteral("18°C"));
 }
 
 void TestValueLists::fillsInSilence()

@@ -5,7 +5,7 @@
 namespace {
 
 /// Where a list ends whose limits in a damaged document lie far apart.
-constexpr int longest = 1000;
+constexpr int longest = 30000;
 
 ComboRule::Items temperatures(const comborules::LimitsOf &limits)
 {
