@@ -151,6 +151,12 @@ void takeList(Album &album, const Window &window, const char *name)
     leaveAll();
 }
 
+void takeFileDialog(Album &album, const QString &name, const QWidget *owner, const char *button)
+{
+    modal::drive<QFileDialog>([&] { Window::click(owner, button); },
+                              [&](const QFileDialog *dialog) { album.add(name, onScreen(*dialog)); });
+}
+
 void takeEditor(Album &album, Window &window)
 {
     window.dialog.setLanguageSnapshot(window.dialog.languageDocument());
@@ -163,13 +169,7 @@ void takeEditor(Album &album, Window &window)
         Window::type(Window::find<QLineEdit>(&editor, "searchLineEdit"), text);
         album.add(QStringLiteral("editor-search-") + text, onScreen(editor));
     }
-}
-
-void takeFileDialog(Album &album, const Window &window, const char *name)
-{
-    modal::drive<QFileDialog>(
-        [&] { Window::click(Window::find(&window.dialog, "toolbarGroupBox"), name); },
-        [&](const QFileDialog *dialog) { album.add(QStringLiteral("file-") + name, onScreen(*dialog)); });
+    takeFileDialog(album, QStringLiteral("file-editor-openButton"), &editor, "openButton");
 }
 
 // States of buttons: a row for each button, and a column for normal, over, press, focus and disabled
@@ -314,8 +314,9 @@ void takeWhatOpens(Album &album, Window &window)
     for (const int step : {1, 2, 3}) {
         window.dialog.setStepCompleted(true, step);
     }
-    takeFileDialog(album, window, "openButton");
-    takeFileDialog(album, window, "saveButton");
+    const auto *tools = Window::find(&window.dialog, "toolbarGroupBox");
+    takeFileDialog(album, QStringLiteral("file-openButton"), tools, "openButton");
+    takeFileDialog(album, QStringLiteral("file-saveButton"), tools, "saveButton");
 }
 
 void takeAll(Album &album)
