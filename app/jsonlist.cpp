@@ -3,6 +3,7 @@
 #include <QChildEvent>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QMessageBox>
 
 namespace {
 
@@ -29,6 +30,8 @@ bool JsonList::eventFilter(QObject *watched, QEvent *event)
         if (auto *dialog = qobject_cast<QFileDialog *>(child)) {
             dialog->setStyleSheet(plainLook());
             dialog->installEventFilter(this);
+        } else if (auto *question = qobject_cast<QMessageBox *>(child)) {
+            question->setTextFormat(Qt::PlainText); // it names a file
         }
     } else if (event->type() == QEvent::Show && watched != parent()) {
         if (auto *files = watched->findChild<QFileSystemModel *>()) {

@@ -44,6 +44,7 @@ private slots:
     void firstSaveReplacesAFile();
     void cancelledSaveAsksAgain();
     void laterSaveDoesNotAsk();
+    void questionNamesTheFileLetterForLetter();
     void openedFileIsOverwrittenInPlace();
     void savedFormIsCompactAndSorted();
     void savesADefaultDocumentWhole();
@@ -156,6 +157,17 @@ void TestDocumentSave::laterSaveDoesNotAsk()
     QVERIFY(window->save(window->path("other.json")).title.isEmpty());
     QCOMPARE(content(window->path("new.json")), sorted);
     QVERIFY(!QFile::exists(window->path("other.json")));
+}
+
+void TestDocumentSave::questionNamesTheFileLetterForLetter()
+{
+    const QString name = QStringLiteral("<b>a.json");
+    put(window->path(name), unsorted);
+    window->dialog.openNewJsonFile("R32");
+    window->completeSteps();
+    const filedialogs::Seen seen = window->save(window->path(name));
+    QVERIFY(seen.question.contains(name));
+    QVERIFY(seen.questionIsPlain);
 }
 
 void TestDocumentSave::openedFileIsOverwrittenInPlace()

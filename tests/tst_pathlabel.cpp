@@ -181,6 +181,7 @@ void TestPathLabel::selectsAndCopiesThePath()
 {
     QFETCH(QString, path);
     clipboard()->clear();
+    mouse::place(window->dialog, QPoint(40, 40));
     bar()->showPath(path);
     QTest::qWait(0);
     const QImage before = bar()->grab().toImage();

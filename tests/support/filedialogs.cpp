@@ -42,12 +42,13 @@ filedialogs::Seen filedialogs::answer(const std::function<void()> &action, const
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget *modal = QApplication::activeModalWidget();
         if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+            seen.questionIsPlain = box->textFormat() == Qt::PlainText;
             seen.question = closeBox(box);
         } else if (auto *dialog = qobject_cast<QFileDialog *>(modal);
                    dialog != nullptr && dialog->isVisible() && !answered) {
             answered = true;
             seen = {dialog->windowTitle(), dialog->directory().path(),
-                    dialog->nameFilters().join(QLatin1Char('|')), QString()};
+                    dialog->nameFilters().join(QLatin1Char('|')), QString(), false};
             // Not in here: a timer doesn't fire again below its own slot, and a box may come up.
             QTimer::singleShot(0, dialog, [dialog, path] {
                 if (path.isEmpty()) {

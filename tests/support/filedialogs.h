@@ -15,6 +15,8 @@ struct Seen {
     QString filter;
     /// The text of the box that the answer brought up, such as the question before a file is replaced.
     QString question;
+    /// Whether that text is drawn letter for letter.
+    bool questionIsPlain = false;
 };
 
 /// Runs `action`, types `path` into the file dialog that it opens, and accepts; an empty path cancels the
