@@ -1,5 +1,5 @@
-// The yardstick of the tool's start: a Qt program that loads the same four fonts and shows an empty dialog of
-// the same size; with --text one that holds a line of text.
+// The yardstick of the tool's start is this program with --text: it loads the same four fonts and shows a
+// dialog of the same size that holds a line of text. Without, the dialog is empty.
 
 #include "app/fonts.h"
 

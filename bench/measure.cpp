@@ -1,5 +1,6 @@
 #include "bench/measure.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QStringList>
@@ -66,6 +67,20 @@ Memory memoryOf(const QString &process)
         }
     }
     return memory;
+}
+
+double cpuTimeOf(const QString &process)
+{
+    const QDir threads(QStringLiteral("/proc/%1/task").arg(process));
+    double nanoseconds = 0;
+    const QStringList names = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &name : names) {
+        QFile file(threads.filePath(name + QStringLiteral("/schedstat")));
+        if (file.open(QIODevice::ReadOnly)) {
+            nanoseconds += file.readAll().split(' ').first().toDouble();
+        }
+    }
+    return nanoseconds / 1e6;
 }
 
 namespace {

@@ -33,6 +33,9 @@ struct Memory {
 };
 Memory memoryOf(const QString &process);
 
+/// Milliseconds that processors have worked for a process, in the system's code as in its own.
+double cpuTimeOf(const QString &process);
+
 /// One row: what is measured, by which yardstick, the ratios of the runs, and the most that the median may
 /// be; 0 for a row that is only told. What makes a row miss its mark for good stands with it.
 struct Row {

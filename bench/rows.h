@@ -7,7 +7,7 @@ class Window;
 /// The rows of the benchmark by subject. Each measures and returns its rows.
 namespace bench {
 
-/// Starts the tool, the bare program and the tour by turns: first paint, memory, and each page's shows.
+/// Starts the tool, its yardstick and the tour by turns: time and memory, and each page's shows.
 std::vector<Row> startRows();
 std::vector<Row> controlRows(Window &window);
 std::vector<Row> languageRows(Window &window);

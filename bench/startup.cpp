@@ -1,5 +1,5 @@
-// The start of the tool, seen from outside: the tool, the bare program and the tour run by turns, so that
-// what else the machine does meets all three.
+// The start of the tool, seen from outside: the tool, its yardstick and the tour run by turns, so that what
+// else the machine does meets all of them.
 
 #include "bench/rows.h"
 
@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QThread>
 
 #include <algorithm>
@@ -37,14 +38,21 @@ void waitFor(const std::function<bool()> &condition, const char *what)
     }
 }
 
+struct Program {
+    QString path;
+    QStringList arguments = {};
+};
+
 struct Start {
     double firstPaint = 0;
+    double cpuToFirstPaint = 0;
+    double cpuToRest = 0;
     Memory memory;
 };
 
-/// Starts a program; tells when its window gets its first colour, and its memory once it rests. The
-/// background is black, and a window has none of its own until the program paints it.
-Start start(const QString &program, const QStringList &arguments = {})
+/// Starts a program; tells when its window gets its first colour, and what it has taken then and once it
+/// rests. The background is black, and a window has none of its own until the program paints it.
+Start start(const Program &program)
 {
     constexpr unsigned long rest = 400;
     const QRgb background = middle();
@@ -52,11 +60,14 @@ Start start(const QString &program, const QStringList &arguments = {})
     process.setStandardErrorFile(QProcess::nullDevice());
     Start result;
     result.firstPaint = timed([&] {
-        process.start(program, arguments);
+        process.start(program.path, program.arguments);
         waitFor([&] { return middle() != background; }, "the first paint");
     });
+    const QString number = QString::number(process.processId());
+    result.cpuToFirstPaint = cpuTimeOf(number);
     QThread::msleep(rest);
-    result.memory = memoryOf(QString::number(process.processId()));
+    result.cpuToRest = cpuTimeOf(number);
+    result.memory = memoryOf(number);
     process.kill();
     process.waitForFinished();
     waitFor([&] { return middle() == background; }, "the window to go");
@@ -96,50 +107,75 @@ Tour tour()
 }
 
 struct Run {
-    Start bare;
     Start text;
+    Start bare;
     Start tool;
+    Start editor;
     Tour tour;
 };
 
+/// A Qt program of daily use, to compare with where it is installed.
+Program editor()
+{
+    return {QStandardPaths::findExecutable(QStringLiteral("featherpad")),
+            {QStringLiteral("--standalone"), QStringLiteral(CALORA_SETTINGS)}};
+}
+
 std::vector<Run> startByTurns()
 {
+    const QString bare = QStringLiteral(CALORA_BARE);
+    const Program other = editor();
     std::vector<Run> all;
     for (int run = 0; run < runs; ++run) {
-        const Start bare = start(QStringLiteral(CALORA_BARE));
-        const Start text = start(QStringLiteral(CALORA_BARE), {QStringLiteral("--text")});
-        const Start tool = start(QStringLiteral(CALORA_EXECUTABLE));
-        all.push_back({bare, text, tool, tour()});
+        Run turn;
+        turn.text = start({bare, {QStringLiteral("--text")}});
+        turn.bare = start({bare});
+        turn.tool = start({QStringLiteral(CALORA_EXECUTABLE)});
+        turn.editor = other.path.isEmpty() ? Start() : start(other);
+        turn.tour = tour();
+        all.push_back(turn);
     }
     return all;
 }
 
-/// What is measured, the most that it may be, and how to get it from a start or from the end of the tour.
+/// What is measured, the most that it may be, and how to get it from a turn and from the yardstick's start.
 struct Measure {
     const char *what;
     double atMost;
-    std::function<double(const Run &)> ratio;
-    QString forced = {};
+    std::function<double(const Run &)> get;
+    std::function<double(const Start &)> yardstick;
 };
 
 std::vector<Measure> measures()
 {
-    const auto forced = QStringLiteral("text, and every page built with the window");
-    const char *const ofText = "the same, of a bare window with a line of text";
-    return {
-        {"process start to first paint", 1.6,
-         [](const Run &run) { return run.tool.firstPaint / run.bare.firstPaint; }, forced},
-        {ofText, 0, [](const Run &run) { return run.text.firstPaint / run.bare.firstPaint; }},
-        {"resident memory after start", 1.3,
-         [](const Run &run) { return run.tool.memory.resident / run.bare.memory.resident; }, forced},
-        {ofText, 0, [](const Run &run) { return run.text.memory.resident / run.bare.memory.resident; }},
-        {"memory of its own after start", 0,
-         [](const Run &run) { return run.tool.memory.own / run.bare.memory.own; }},
-        {"resident memory after visiting every page", 1.6,
-         [](const Run &run) { return run.tour.visited.resident / run.bare.memory.resident; }},
+    const auto painted = [](const Start &start) { return start.cpuToFirstPaint; };
+    const auto rested = [](const Start &start) { return start.cpuToRest; };
+    const auto resident = [](const Start &start) { return start.memory.resident; };
+    const auto own = [](const Start &start) { return start.memory.own; };
+    std::vector<Measure> all{
+        {"processor time from start to first paint", 1.3, [=](const Run &run) { return painted(run.tool); },
+         painted},
+        {"the same, to the end of what waits for that paint", 0,
+         [=](const Run &run) { return rested(run.tool); }, rested},
+        {"the same to first paint, of a dialog without text", 0,
+         [=](const Run &run) { return painted(run.bare); }, painted},
+        {"time by the clock from start to first paint", 0, [](const Run &run) { return run.tool.firstPaint; },
+         [](const Start &start) { return start.firstPaint; }},
+        {"resident memory after start", 0.7, [=](const Run &run) { return resident(run.tool); }, resident},
+        {"the same, of a dialog without text", 0, [=](const Run &run) { return resident(run.bare); },
+         resident},
+        {"memory of its own after start", 0, [=](const Run &run) { return own(run.tool); }, own},
+        {"resident memory after visiting every page", 1,
+         [](const Run &run) { return run.tour.visited.resident; }, resident},
         {"memory of its own after visiting every page", 0,
-         [](const Run &run) { return run.tour.visited.own / run.bare.memory.own; }},
+         [](const Run &run) { return run.tour.visited.own; }, own},
     };
+    if (!editor().path.isEmpty()) {
+        all.insert(all.begin() + 2,
+                   {"the same to first paint, of a text editor on a settings file", 0,
+                    [=](const Run &run) { return painted(run.editor); }, painted});
+    }
+    return all;
 }
 
 } // namespace
@@ -149,17 +185,18 @@ std::vector<Row> startRows()
     const std::vector<Run> all = startByTurns();
     std::vector<Row> rows;
     const auto add = [&](const QString &what, const char *yardstick, double atMost,
-                         const std::function<double(const Run &)> &ratio, const QString &forced = {}) {
+                         const std::function<double(const Run &)> &ratio) {
         Numbers ratios;
         std::transform(all.begin(), all.end(), std::back_inserter(ratios), ratio);
-        rows.push_back({what, QLatin1String(yardstick), ratios, atMost, forced});
+        rows.push_back({what, QLatin1String(yardstick), ratios, atMost});
     };
     for (const Measure &measure : measures()) {
-        add(QLatin1String(measure.what), "bare Qt window", measure.atMost, measure.ratio, measure.forced);
+        add(QLatin1String(measure.what), "dialog with a line of text", measure.atMost,
+            [&](const Run &run) { return measure.get(run) / measure.yardstick(run.text); });
     }
     for (std::size_t show = 0; show < all.front().tour.shows.size(); ++show) {
-        const Told &told = all.front().tour.shows[show];
-        add(told.name, "one frame", 1,
+        const QString &name = all.front().tour.shows[show].name;
+        add(name, "one frame", name.startsWith(QLatin1String("first")) ? 0.5 : 1,
             [show](const Run &run) { return run.tour.shows.at(show).number / frame; });
     }
     return rows;

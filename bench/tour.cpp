@@ -46,12 +46,15 @@ void visitPages(const MainDialog &dialog, const char *when)
     auto *steps = dialog.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
     auto *tabs = dialog.findChild<QStackedWidget *>(QStringLiteral("settingStackedWidget"));
     for (const Stop &stop : stops) {
-        steps->setCurrentIndex(MainDialog::DataSavePage);
-        if (stop.tab >= 0) {
-            tabs->setCurrentIndex(stop.tab);
+        // A step is shown from one that is no stop, a further tab from the tab before it.
+        if (stop.tab <= MainDialog::FunctionTab) {
+            steps->setCurrentIndex(MainDialog::DataSavePage);
         }
         settle();
         const double time = bench::timed([&] {
+            if (stop.tab >= 0) {
+                tabs->setCurrentIndex(stop.tab);
+            }
             steps->setCurrentIndex(stop.step);
             QCoreApplication::processEvents();
         });
