@@ -34,6 +34,9 @@ void refuseDesktopTheme()
 #endif
 }
 
+/// The tool draws none. Looking for it loads drivers, which are half of the memory of a Qt program on X11.
+void refuseOpenGl() { qputenv("QT_XCB_GL_INTEGRATION", "none"); }
+
 QByteArray platformArgument()
 {
 #ifdef Q_OS_WIN
@@ -52,6 +55,7 @@ int main(int, char *[])
 {
     refuseScaling();
     refuseDesktopTheme();
+    refuseOpenGl();
     QByteArray platform = platformArgument();
     char name[] = "calorainstaller";
     char option[] = "-platform";

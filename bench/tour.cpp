@@ -75,6 +75,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    qputenv("QT_XCB_GL_INTEGRATION", "none"); // as the tool does
     const QApplication application(argc, argv);
     qInstallMessageHandler(discardMessage);
     loadFonts();

@@ -136,6 +136,12 @@ public:
         return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
 
+    /// The files that the process has in its memory.
+    QByteArray loaded() const
+    {
+        return testfiles::content(QStringLiteral("/proc/%1/maps").arg(process.processId()));
+    }
+
     QByteArray standardOutput() { return process.readAllStandardOutput(); }
     QByteArray standardError() { return process.readAllStandardError(); }
 
@@ -188,6 +194,7 @@ private slots:
     void leavesItsFolderAsItIs();
     void runsInAReadOnlyFolder();
     void picksItsPlatform();
+    void loadsNoOpenGl();
 
 private:
     QMap<QString, QString> userWith(const QStringList &files) const;
@@ -459,6 +466,15 @@ void TestExecutable::picksItsPlatform()
     QCOMPARE(run.picture(), plain);
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
+}
+
+void TestExecutable::loadsNoOpenGl()
+{
+    const Run run(folder(), {{}, {{"QT_XCB_GL_INTEGRATION", ""}}, {}});
+    QVERIFY(run.isShown());
+    const QByteArray loaded = run.loaded();
+    QVERIFY(loaded.contains("libQt5Widgets"));
+    QVERIFY(!loaded.contains("-glx-integration"));
 }
 
 int main(int argc, char *argv[])
