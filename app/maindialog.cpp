@@ -21,6 +21,30 @@
 #include <QDir>
 #include <QKeyEvent>
 
+namespace {
+
+QWidget *contentOf(QScrollArea *area, int margin = 0)
+{
+    auto *content = new QWidget(area);
+    area->setWidget(content);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addStretch();
+    return content;
+}
+
+/// Makes the next page of a scroll area's content, where it stays: moved there, it would be styled again.
+template <typename PageClass>
+PageClass *addPage(QWidget *content)
+{
+    auto *page = new PageClass(content);
+    auto *layout = static_cast<QVBoxLayout *>(content->layout());
+    layout->insertWidget(layout->count() - 1, page);
+    return page;
+}
+
+} // namespace
+
 MainDialog *mainDialog = nullptr;
 
 MainDialog::MainDialog(QWidget *parent)
@@ -47,6 +71,9 @@ MainDialog::MainDialog(QWidget *parent)
     initCFTable();
     initUi();
     new RadioRing(this);
+    // Each widget has asked to be styled soon, shown or not. What is shown is styled then, the rest is
+    // prepared after the first paint.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
 }
 
 MainDialog::~MainDialog() = default;
@@ -73,26 +100,12 @@ void MainDialog::initUi()
     loadLanguageData(state.languageIniPath);
 }
 
-void MainDialog::placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin)
-{
-    auto *content = new QWidget(area);
-    auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(margin, margin, margin, margin);
-    for (QWidget *page : pages) {
-        layout->addWidget(page);
-    }
-    layout->addStretch();
-    area->setWidget(content);
-    content->setLayout(layout);
-}
-
-// The pages connect to the language signal in the order in which they are made here; it is the order they are
+// The pages connect to the language signal in the order in which they stand here; it is the order they are
 // served in.
 
 void MainDialog::initDipSwitchSettingStatusPageUi()
 {
-    auto *page = new DipSwitchSettingStatus;
-    placeInScrollArea(ui->dipswitchSettingScrollArea, {page});
+    auto *page = addPage<DipSwitchSettingStatus>(contentOf(ui->dipswitchSettingScrollArea));
     connect(this, &MainDialog::changeInstallationLanguage, page, &DipSwitchSettingStatus::changeLanguage);
     connect(ui->productSelection, &ProductSelection::buttonClicked, page,
             &DipSwitchSettingStatus::changeImage);
@@ -116,19 +129,18 @@ void MainDialog::initSettingPageUi()
 
 void MainDialog::initSettingFunctionUi()
 {
-    auto *page = new SettingFunction;
-    placeInScrollArea(ui->functionScrollArea, {page});
+    auto *page = addPage<SettingFunction>(contentOf(ui->functionScrollArea));
     connect(this, &MainDialog::changeInstallationLanguage, page, &SettingFunction::changeLanguage);
 }
 
 void MainDialog::initSettingInstallationUi()
 {
-    auto *cool = new InstallationCool;
-    auto *heat = new InstallationHeat;
-    auto *automatic = new InstallationaAuto;
-    auto *hotWater = new InstallationDWH;
-    auto *system = new InstallationSystemSetting;
-    placeInScrollArea(ui->installationScrollArea, {system, cool, heat, automatic, hotWater}, 16);
+    QWidget *content = contentOf(ui->installationScrollArea, 16);
+    auto *system = addPage<InstallationSystemSetting>(content);
+    auto *cool = addPage<InstallationCool>(content);
+    auto *heat = addPage<InstallationHeat>(content);
+    auto *automatic = addPage<InstallationaAuto>(content);
+    auto *hotWater = addPage<InstallationDWH>(content);
 
     connect(this, &MainDialog::changeInstallationLanguage, cool, &InstallationCool::changeLanguage);
     connect(this, &MainDialog::changeInstallationLanguage, heat, &InstallationHeat::changeLanguage);
@@ -148,8 +160,7 @@ void MainDialog::initSettingInstallationUi()
 
 void MainDialog::initSettingUserUi()
 {
-    auto *page = new SettingUser;
-    placeInScrollArea(ui->userScrollArea, {page});
+    auto *page = addPage<SettingUser>(contentOf(ui->userScrollArea));
     connect(this, &MainDialog::changeInstallationLanguage, page, &SettingUser::changeLanguage);
 }
 
@@ -229,4 +240,20 @@ void MainDialog::keyPressEvent(QKeyEvent *event)
         return;
     }
     QDialog::keyPressEvent(event);
+}
+
+void MainDialog::paintEvent(QPaintEvent *event)
+{
+    QDialog::paintEvent(event);
+    if (!painted) {
+        painted = true;
+        QMetaObject::invokeMethod(this, &MainDialog::prepareHidden, Qt::QueuedConnection);
+    }
+}
+
+void MainDialog::prepareHidden()
+{
+    ui->stackedWidget->preparePages();
+    ui->settingStackedWidget->preparePages();
+    state.languageMenuWidget->prepareRows();
 }

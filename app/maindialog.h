@@ -170,21 +170,23 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     QString jsonFilter() const;
     QString unitSuffix(int unit) const;
     QString languageFilePath(const QString &name) const;
-    void placeInScrollArea(QScrollArea *area, std::initializer_list<QWidget *> pages, int margin = 0);
     void selectTab(Tab tab);
     void styleTabs(Tab tab);
     void captionPage(int page);
     void joinTabs();
     void closeLanguageMenu();
+    void prepareHidden();
 
     std::unique_ptr<Ui::MainDialog> ui;
     DialogState state;
     std::unique_ptr<FrameLess> frameLess;
+    bool painted = false;
 };
 
 /// The one dialog; set by its constructor as soon as the form is built.

@@ -3,4 +3,17 @@
 PageStack::PageStack(QWidget *parent)
     : QStackedWidget(parent)
 {
+    // Without a page yet: Qt styles the children of a widget along with it, and those that come later when
+    // they are shown.
+    ensurePolished();
+}
+
+void PageStack::preparePages(int first)
+{
+    if (QWidget *page = widget(first)) {
+        page->ensurePolished();
+        page->sizeHint();
+        QMetaObject::invokeMethod(
+            this, [this, first] { preparePages(first + 1); }, Qt::QueuedConnection);
+    }
 }

@@ -3,13 +3,17 @@
 #include <QStackedWidget>
 
 /// A stack that takes the room it is given. It asks no page how large it would like to be, so that a page
-/// that isn't shown isn't laid out.
+/// that isn't shown isn't laid out. Nor is such a page styled before it is shown, unless it is prepared.
 class PageStack : public QStackedWidget
 {
     Q_OBJECT
 
 public:
     explicit PageStack(QWidget *parent = nullptr);
+
+    /// Styles and measures the pages, one for each turn of the event loop: what is left to do when a page is
+    /// first shown is little then.
+    void preparePages(int first = 0);
 
     QSize sizeHint() const override { return {}; }
     QSize minimumSizeHint() const override { return {}; }

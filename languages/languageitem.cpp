@@ -6,6 +6,8 @@ LanguageItem::LanguageItem(QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::LanguageItem>())
 {
+    // The list would show it when it has its form, which would be laid out at once.
+    setVisible(parent != nullptr);
     ui->setupUi(this);
     // The line below the row is a border of its style sheet.
     setAttribute(Qt::WA_StyledBackground);

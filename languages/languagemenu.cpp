@@ -39,6 +39,14 @@ void LanguageMenu::setLanguageList(const QStringList &names)
     }
 }
 
+void LanguageMenu::prepareRows()
+{
+    const auto parts = ui->listWidget->findChildren<QWidget *>();
+    for (const QWidget *part : parts) {
+        part->ensurePolished();
+    }
+}
+
 void LanguageMenu::takeKeys(const QString &language)
 {
     int row = 0;

@@ -23,6 +23,9 @@ public:
     /// Adds one row per language, in the order of `names`.
     void setLanguageList(const QStringList &names);
 
+    /// Styles the rows, which otherwise happens when the menu is first shown.
+    void prepareRows();
+
     /// Gives the list the keys, with the row of `language` as the current one, or the first row. Arrows
     /// choose a row, Return takes it, Esc closes the popup.
     void takeKeys(const QString &language);
