@@ -8,6 +8,9 @@
 /// application. The log tells of one that is missing; the system's own then takes its place.
 inline void loadFonts(const QString &folder = QCoreApplication::applicationDirPath())
 {
+    // Reads the list of installed fonts. Read after the files are added, it would have each of them read
+    // again.
+    const QFontDatabase installed;
     for (const char *file :
          {"NotoSans-Medium.ttf", "NotoSans-Bold.ttf", "NotoSans-Light.ttf", "NotoSans-Regular.ttf"}) {
         const QString path = folder + QLatin1Char('/') + QLatin1String(file);
