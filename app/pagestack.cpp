@@ -12,7 +12,11 @@ void PageStack::preparePages(int first)
 {
     if (QWidget *page = widget(first)) {
         page->ensurePolished();
-        page->sizeHint();
+        // Those too that the page has hidden: a document may show them.
+        const auto parts = page->findChildren<QWidget *>();
+        for (const QWidget *part : parts) {
+            part->sizeHint();
+        }
         QMetaObject::invokeMethod(
             this, [this, first] { preparePages(first + 1); }, Qt::QueuedConnection);
     }
