@@ -92,10 +92,7 @@ QString verdict(const Row &row)
     if (row.atMost <= 0) {
         return {};
     }
-    if (median(row.ratios) <= row.atMost) {
-        return QStringLiteral("good");
-    }
-    return row.forced.isEmpty() ? QStringLiteral("missed") : QStringLiteral("missed: ") + row.forced;
+    return median(row.ratios) <= row.atMost ? QStringLiteral("good") : QStringLiteral("missed");
 }
 
 } // namespace

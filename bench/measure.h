@@ -37,13 +37,12 @@ Memory memoryOf(const QString &process);
 double cpuTimeOf(const QString &process);
 
 /// One row: what is measured, by which yardstick, the ratios of the runs, and the most that the median may
-/// be; 0 for a row that is only told. What makes a row miss its mark for good stands with it.
+/// be; 0 for a row that is only told.
 struct Row {
     QString what;
     QString yardstick;
     Numbers ratios;
     double atMost = 0;
-    QString forced = {};
 };
 
 enum class Form { Plain, Markdown };
