@@ -19,5 +19,10 @@ function(install_runnable_folder component destination)
     install(FILES ${delivered} DESTINATION ${destination}/language COMPONENT ${component})
 endfunction()
 
+# The guide for whoever has opened a package on site. scripts/guide makes it, scripts/package calls that.
+function(install_guide component destination)
+    install(DIRECTORY ${CMAKE_SOURCE_DIR}/build/guide/ DESTINATION ${destination}/guide COMPONENT ${component})
+endfunction()
+
 include(cmake/Packaging${CMAKE_SYSTEM_NAME}.cmake)
 include(CPack)

@@ -6,6 +6,7 @@ set(app_id io.github.calora.configurator)
 # The portable archive: the runnable folder, Qt's plugins, the libraries of both, and the licences of all that.
 set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 install_runnable_folder(portable .)
+install_guide(portable .)
 install(FILES ${linux}/qt.conf DESTINATION . COMPONENT portable)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright DESTINATION licences COMPONENT portable)
 foreach(plugin platforms/QXcbIntegration imageformats/QICO platforminputcontexts/QComposePlatformInputContext
@@ -29,6 +30,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "An installer walks four steps (product sel
 settings, validation) and saves one JSON settings file for the heat pump's
 wall remote controller. Works without a network.")
 install_runnable_folder(debian lib/${PROJECT_NAME})
+install_guide(debian share/doc/${PROJECT_NAME})
 install(PROGRAMS ${linux}/calora-configurator DESTINATION bin COMPONENT debian)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/${PROJECT_NAME} COMPONENT debian)
 string(TIMESTAMP release_date "%Y-%m-%d" UTC)

@@ -1,4 +1,5 @@
-# The folder that is carried away: the executable, the four faces and the language folder, and nothing else.
+# The folder that is carried away: the executable, the four faces and the language folder, and nothing else. The guide
+# is in packages alone.
 set(runnable ${CMAKE_BINARY_DIR}/calora)
 set(fonts NotoSans-Medium.ttf NotoSans-Bold.ttf NotoSans-Light.ttf NotoSans-Regular.ttf)
 set(font_folder /usr/share/fonts/truetype/noto CACHE PATH "Where the Noto Sans faces lie")

@@ -8,6 +8,8 @@
 #include "support/tour.h"
 
 #include <QDir>
+#include <QFile>
+#include <QJsonDocument>
 
 #include <cstdio>
 
@@ -16,9 +18,11 @@ namespace {
 class Guide
 {
 public:
-    explicit Guide(const QDir &target)
+    Guide(const QDir &target, const QJsonDocument &language)
         : folder(target)
     {
+        window().setLanguageDocument(language);
+        window().changeLanguage();
         // The least size of the window: the pictures are small and their texts stay readable.
         window().resize(974, 612);
     }
@@ -99,10 +103,11 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2 || !QDir().mkpath(arguments.last())) {
-        static_cast<void>(std::fputs("usage: guide-pictures FOLDER\n", stderr));
+    QFile language(arguments.value(2));
+    if (arguments.size() != 3 || !QDir().mkpath(arguments.at(1)) || !language.open(QIODevice::ReadOnly)) {
+        static_cast<void>(std::fputs("usage: guide-pictures FOLDER LANGUAGE.json\n", stderr));
         return 2;
     }
     prepareApplication();
-    return Guide(arguments.last()).takeAll() ? 0 : 1;
+    return Guide(arguments.at(1), QJsonDocument::fromJson(language.readAll())).takeAll() ? 0 : 1;
 }
