@@ -64,7 +64,8 @@ class Guide(unittest.TestCase):
         cls.temporary = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.temporary.cleanup)
         cls.folder = Path(cls.temporary.name, "guide")
-        assert make(cls.folder) == (0, [])
+        made = make(cls.folder)
+        assert made == (0, []), made
         cls.pages = {path: Reader(path) for path in cls.folder.rglob("*.html")}
 
     def test_every_link_and_picture_is_there(self):
