@@ -8,8 +8,6 @@
 #include "support/tour.h"
 
 #include <QDir>
-#include <QFile>
-#include <QJsonDocument>
 
 #include <cstdio>
 
@@ -18,11 +16,12 @@ namespace {
 class Guide
 {
 public:
-    Guide(const QDir &target, const QJsonDocument &language)
+    /// The language is one of those beside the program.
+    Guide(const QDir &target, const QString &language)
         : folder(target)
     {
-        window().setLanguageDocument(language);
-        window().changeLanguage();
+        window().saveLanguageName(language);
+        window().loadLanguageData(window().languageIniPath());
         // The least size of the window: the pictures are small and their texts stay readable.
         window().resize(974, 612);
     }
@@ -103,11 +102,10 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    QFile language(arguments.value(2));
-    if (arguments.size() != 3 || !QDir().mkpath(arguments.at(1)) || !language.open(QIODevice::ReadOnly)) {
-        static_cast<void>(std::fputs("usage: guide-pictures FOLDER LANGUAGE.json\n", stderr));
+    if (arguments.size() != 3 || !QDir().mkpath(arguments.at(1))) {
+        static_cast<void>(std::fputs("usage: guide-pictures FOLDER LANGUAGE\n", stderr));
         return 2;
     }
     prepareApplication();
-    return Guide(arguments.at(1), QJsonDocument::fromJson(language.readAll())).takeAll() ? 0 : 1;
+    return Guide(arguments.at(1), arguments.at(2)).takeAll() ? 0 : 1;
 }
