@@ -33,7 +33,8 @@ bool isUnseen(uint character)
 QString withoutUnseen(const QString &path)
 {
     QString seen;
-    for (const uint character : path.toUcs4()) {
+    const QVector<uint> characters = path.toUcs4();
+    for (const uint character : characters) {
         if (isUnseen(character)) {
             seen += QStringLiteral("\\u%1").arg(character, 4, 16, QLatin1Char('0'));
         } else {

@@ -195,8 +195,8 @@ std::vector<Row> startRows()
             [&](const Run &run) { return measure.get(run) / measure.yardstick(run.text); });
     }
     for (std::size_t show = 0; show < all.front().tour.shows.size(); ++show) {
-        const QString &name = all.front().tour.shows[show].name;
-        add(name, "one frame", name.startsWith(QLatin1String("first")) ? 0.5 : 1,
+        const Told &told = all.front().tour.shows[show];
+        add(told.name, "one frame", told.name.startsWith(QLatin1String("first")) ? 0.5 : 1,
             [show](const Run &run) { return run.tour.shows.at(show).number / frame; });
     }
     return rows;

@@ -26,7 +26,8 @@ std::size_t roomKnownAtRunTime(const char *text, std::size_t size)
 std::size_t manyPages(const char *text)
 {
     constexpr std::size_t page = 4096;
-    std::array<volatile char, 5 * page> room;
+    constexpr std::size_t size = 5 * page;
+    std::array<volatile char, size> room;
     for (volatile char &place : room) {
         place = *text;
     }

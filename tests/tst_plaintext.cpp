@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 // A language file is somebody else's: whatever its texts are, they are shown letter for letter, no file is
 // opened for them, and the tool starts.
@@ -245,7 +246,8 @@ void TestPlainText::hostileLanguage_data()
     QTest::newRow("nested") << QString("<table><tr><td>").repeated(3000);
     QTest::newRow("document") << "<!DOCTYPE html><html><title>x</title><body><h1>y&lt;z&amp;";
     QTest::newRow("control characters") << QString("\x01\b\t\v\x1b[31m\x7f\r\n\r") + QChar(0) + "x";
-    QTest::newRow("right to left") << QString::fromUtf8("\u202e\u2067שלום & مرحبا\u200f\u2066 <b>");
+    QTest::newRow("right to left") << QString(QChar(0x202e)) + QChar(0x2067)
+            + QString::fromUtf8("שלום & مرحبا") + QChar(0x200f) + QChar(0x2066) + " <b>";
     QTest::newRow("marks") << QString("x") + QString(QChar(0x0301)).repeated(500);
 }
 
@@ -257,6 +259,9 @@ void TestPlainText::hostileLanguage()
     testfiles::put(pipe, "x");
     const faults::Fault fifo = faults::pipe(pipe);
     QImage(":/images/img_new.png").save(folder.filePath("a.png"));
+    if (text.contains("pipe") && !fifo.holds) {
+        QSKIP("This machine makes no pipe");
+    }
     text.replace("%1", folder.path());
     QJsonObject texts = QJsonDocument::fromJson(languagefolder::english()).object();
     for (auto each = texts.begin(); each != texts.end(); ++each) {

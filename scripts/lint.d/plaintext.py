@@ -25,8 +25,8 @@ IN_CODE = [
     (re.compile(r"\bQMessageBox\b|\bQErrorMessage\b"), "guesses whether its text is markup"),
     (re.compile(r"\bsetWhatsThis\b|\bQToolTip\b|\bsetToolTip\((?!toolTipOf\()"), "guesses whether its text is markup"),
 ]
-# Where the rule is made true.
-MAKERS = {Path("app/plaintext.h"), Path("app/plaintext.cpp")}
+# Where the rule is made true: of what the window shows, and of what file dialogs ask.
+MAKERS = {Path("app/plaintext.h"), Path("app/plaintext.cpp"), Path("app/jsonlist.cpp")}
 CODE = ("app/*", "document/*", "languages/*", "pages/*")
 
 

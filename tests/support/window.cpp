@@ -12,8 +12,8 @@
 Window::Window()
 {
     dialog.show();
-    if (!QTest::qWaitForWindowExposed(&dialog)) {
-        qFatal("The window isn't shown");
+    if (!QTest::qWaitForWindowExposed(&dialog) || !QTest::qWaitForWindowActive(&dialog)) {
+        qFatal("The window isn't shown, or has no focus");
     }
 }
 
