@@ -121,6 +121,15 @@ void PlainRadioButton::paintEvent(QPaintEvent *)
     painter.drawControl(QStyle::CE_RadioButton, option);
 }
 
+// QRadioButton would measure the text as it stands.
+bool PlainRadioButton::hitButton(const QPoint &position) const
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text = forStyle(text());
+    return style()->subElementRect(QStyle::SE_RadioButtonClickRect, &option, this).contains(position);
+}
+
 QSize PlainPushButton::sizeHint() const
 {
     if (isPlain(text())) {
@@ -147,7 +156,11 @@ namespace plaintext {
 
 QString shown(const QString &text)
 {
-    return text.size() <= shownLength ? text : text.left(shownLength) + QStringLiteral("…");
+    if (text.size() <= shownLength) {
+        return text;
+    }
+    const int half = text.at(shownLength - 1).isHighSurrogate() ? 1 : 0;
+    return text.left(shownLength - half) + QStringLiteral("…");
 }
 
 void setText(QLabel *label, const QString &text)

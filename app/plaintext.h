@@ -36,6 +36,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    bool hitButton(const QPoint &position) const override;
 };
 
 class PlainPushButton : public QPushButton

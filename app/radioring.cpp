@@ -38,8 +38,12 @@ public:
 
     bool eventFilter(QObject *radio, QEvent *event) override
     {
-        if (event->type() == QEvent::FocusIn) {
-            const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        const bool changes = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+        const Qt::FocusReason reason = changes ? static_cast<QFocusEvent *>(event)->reason()
+                                               : Qt::NoFocusReason;
+        if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) {
+            // The window comes back with the focus where it was.
+        } else if (event->type() == QEvent::FocusIn) {
             const bool byKeys = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
             ring->setWidget(byKeys ? static_cast<QWidget *>(radio) : nullptr);
         } else if (event->type() == QEvent::FocusOut) {

@@ -14,8 +14,8 @@ namespace files {
 std::optional<QByteArray> read(const QString &path);
 
 /// Opens the file for reading and writing, creates it when missing, cuts it and writes the content at once.
-/// False when any of it fails, up to closing: nothing is changed when the file can't be opened or cut; after
-/// that it may be empty or short.
+/// False when any of it fails, up to closing. Nothing is changed when the file can't be opened; after that a
+/// new one may be left empty, and an old one empty or short.
 [[nodiscard]] bool replaceContent(const QString &path, const QByteArray &content);
 
 } // namespace files

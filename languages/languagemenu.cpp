@@ -76,7 +76,9 @@ void LanguageMenu::hideEvent(QHideEvent *event)
 void LanguageMenu::keyPressEvent(QKeyEvent *event)
 {
     QListWidgetItem *item = ui->listWidget->currentItem();
-    const bool takes = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // A key that is held down since it opened the popup takes nothing.
+    const bool takes = !event->isAutoRepeat()
+        && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);
     if (takes && item != nullptr && ui->listWidget->hasFocus()) {
         emit ui->listWidget->itemClicked(item);
     } else if (event->key() == Qt::Key_Escape) {

@@ -1,6 +1,7 @@
 #include "languages/letteritem.h"
 
 #include "app/maindialog.h"
+#include "app/plaintext.h"
 #include "ui_letteritem.h"
 
 LetterItem::LetterItem(QWidget *parent)
@@ -16,7 +17,7 @@ LetterItem::~LetterItem() = default;
 
 void LetterItem::setData(const QString &reference, const QString &editText)
 {
-    ui->labelReference->setText(reference);
+    plaintext::setText(ui->labelReference, reference);
     ui->lineEdit->setText(editText);
 }
 

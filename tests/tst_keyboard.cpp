@@ -5,6 +5,7 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QScrollArea>
 #include <QSet>
 
@@ -139,6 +140,7 @@ private slots:
     void tabReadsThePage();
     void tabReadsTheEditor();
     void radioIsRinged();
+    void ringComesBackWithTheWindow();
     void clickNeedsNoRing();
     void startsAtNew();
     void windowButtonsArePressed();
@@ -247,6 +249,25 @@ void TestKeyboard::radioIsRinged()
         QCOMPARE(with.pixelColor(inside.left() - 2, middle), QColor(Qt::white));
         QCOMPARE(with.pixelColor(inside.left() + radio->sizeHint().width() + 3, middle), accent);
     }
+}
+
+void TestKeyboard::ringComesBackWithTheWindow()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *radio = Window::find<QRadioButton>(&window.dialog, "radioSummerTimeUse");
+    radio->setFocus(Qt::TabFocusReason);
+    const QImage ringed = look(radio);
+    {
+        QDialog other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+    }
+    window.dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    QVERIFY(radio->hasFocus());
+    QCOMPARE(look(radio), ringed);
 }
 
 void TestKeyboard::clickNeedsNoRing()

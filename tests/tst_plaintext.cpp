@@ -72,6 +72,7 @@ private slots:
     void ampersandIsDrawnOnLabels();
     void ampersandIsDrawnOnButtons();
     void ampersandMakesNoShortcut();
+    void ampersandMakesNoShortcutInTheEditor();
     void ampersandIsRead();
     void otherWindowsKeepTheirShortcuts();
     void hostileLanguage_data();
@@ -197,6 +198,21 @@ void TestPlainText::ampersandMakesNoShortcut()
         }
         QCOMPARE(dialog().document(), document);
     }
+}
+
+void TestPlainText::ampersandMakesNoShortcutInTheEditor()
+{
+    open();
+    speakAmpersands();
+    start(true);
+    QCOMPARE(reference(0), ampersands);
+    QVERIFY(QTest::qWaitForWindowActive(editor.get()));
+    search()->setFocus();
+    for (const Qt::Key key : {Qt::Key_D, Qt::Key_X}) {
+        QTest::keyClick(editor.get(), key, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), search());
+    }
+    QCOMPARE(nameOf(Window::find<QLabel>(row(0), "labelReference")), ampersands);
 }
 
 // What a screen reader tells. A name that the form gives stays.

@@ -28,6 +28,7 @@ private slots:
     void openedSectionIsSeen();
     void closingStaysInPlace();
     void loadStaysInPlace();
+    void pressBelowTheLanguagePopupClosesIt();
 
 private:
     static void sections();
@@ -104,6 +105,18 @@ void TestSections::otherPressesAreNot()
     QTest::mouseRelease(line, Qt::LeftButton, {}, QPoint(20, -5));
     QTest::mouseRelease(line, Qt::LeftButton);
     QVERIFY(!isOpen(page));
+}
+
+void TestSections::pressBelowTheLanguagePopupClosesIt()
+{
+    const QWidget *page = section("InstallationSystemSetting");
+    Window::click(&window->dialog, "languageCombobox");
+    QVERIFY(window->dialog.members().languageMenuOpen);
+    Window::click(header(page));
+    QVERIFY(!window->dialog.members().languageMenuOpen);
+    QVERIFY(!isOpen(page));
+    Window::click(header(page));
+    QVERIFY(isOpen(page));
 }
 
 void TestSections::openedSectionIsSeen()

@@ -1,5 +1,7 @@
 #include "pages/installation/section.h"
 
+#include "app/maindialog.h"
+
 #include <QCoreApplication>
 #include <QFrame>
 #include <QIcon>
@@ -46,6 +48,9 @@ void Section::toggle(QPushButton *hideButton, QFrame *frame)
 bool Section::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        if (mainDialog->members().languageMenuOpen) {
+            return false; // the press goes on to the window and closes the popup
+        }
         headerPressed = static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton;
         return headerPressed;
     }

@@ -148,9 +148,6 @@ def place(sources, commands):
     """A folder with the made source, and the database that names its command."""
     folder = LINT / ("tests" if is_test(sources[0]) else "product") / digest(*sources)[:16]
     folder.mkdir(parents=True, exist_ok=True)
-    # Found by the way up from the made source, as from those that it stands for.
-    (LINT / "tests/.clang-tidy").write_text(content(ROOT / "tests/.clang-tidy"), encoding="utf-8") \
-        if is_test(sources[0]) else None
     made = folder / "together.cpp"
     made.write_text(read_together(sources), encoding="utf-8")
     database = [{"directory": str(BUILD), "file": str(made), "arguments": joined_command(commands, str(made))}]
@@ -219,6 +216,10 @@ def main():
         work += [(tool, group, stale) for group in groups(stale)]
     count = sum(len(group) for _, group, _ in work)
     print(f"analysis: {count} of {len(TOOLS) * len(commands)} to look at", file=sys.stderr, flush=True)
+
+    # Found by the way up from a made source, as from those that it stands for.
+    (LINT / "tests").mkdir(parents=True, exist_ok=True)
+    (LINT / "tests/.clang-tidy").write_text(content(ROOT / "tests/.clang-tidy"), encoding="utf-8")
 
     def judge(item):
         tool, group, stale = item

@@ -29,7 +29,7 @@ extern "C" int open64(const char *path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const int mode = (flags & O_CREAT) != 0 ? va_arg(arguments, int) : 0;
+    const int mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, int) : 0;
     va_end(arguments);
     opened().append(QFile::decodeName(path));
     return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
