@@ -1,6 +1,7 @@
 #include "app/jsonlist.h"
 
 #include <QChildEvent>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QMessageBox>
@@ -38,6 +39,18 @@ bool JsonList::eventFilter(QObject *watched, QEvent *event)
             const auto list = [files] { files->setNameFilters({QStringLiteral("*.json")}); };
             list();
             connect(static_cast<QFileDialog *>(watched), &QFileDialog::filterSelected, files, list);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+PlainQuestions::PlainQuestions() { QCoreApplication::instance()->installEventFilter(this); }
+
+bool PlainQuestions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Polish) {
+        if (auto *question = qobject_cast<QMessageBox *>(watched)) {
+            question->setTextFormat(Qt::PlainText);
         }
     }
     return QObject::eventFilter(watched, event);

@@ -14,3 +14,13 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
+
+/// As long as it lives, questions name files letter for letter: also those of a file dialog without a window
+/// above it.
+class PlainQuestions : public QObject
+{
+public:
+    PlainQuestions();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};

@@ -1,5 +1,6 @@
 #include "languages/languagemenu.h"
 
+#include "app/jsonlist.h"
 #include "app/maindialog.h"
 #include "document/files.h"
 #include "languages/languagebox.h"
@@ -111,6 +112,7 @@ void LanguageMenu::on_newButton_clicked()
 void LanguageMenu::on_loadButton_clicked()
 {
     closeMenu();
+    const PlainQuestions questions;
     mainDialog->loadLanguageAnotherPath(QFileDialog::getOpenFileName());
 }
 

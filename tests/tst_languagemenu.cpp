@@ -66,6 +66,7 @@ private slots:
     void newOpensTheEditor();
     void loadClosesBeforeItAsks();
     void loadTakesAFileIn();
+    void loadNamesFilesLetterForLetter();
     void loadIsCancelled();
     void loadOfAFileOfTheFolder();
     void modifyReachesNoFile();
@@ -469,6 +470,15 @@ void TestLanguageMenu::loadTakesAFileIn()
     QCOMPARE(text("newButton"), QString("New?"));
     restart();
     QCOMPARE(text("newButton"), QString("New?"));
+}
+
+void TestLanguageMenu::loadNamesFilesLetterForLetter()
+{
+    open();
+    const auto seen = filedialogs::answer([this] { Window::click(menu(), "loadButton"); },
+                                          languagefolder::file("<b>x.json"));
+    QVERIFY(seen.question.contains("<b>x.json"));
+    QVERIFY(seen.questionIsPlain);
 }
 
 void TestLanguageMenu::loadIsCancelled()
