@@ -121,6 +121,9 @@ void TestPathLabel::keepsDriveAndName_data()
     QTest::newRow("share") << "//host/share/" + folders + "name.json"
                            << "//host/share/"
                            << "/name.json";
+    QTest::newRow("share, longer name") << "//nas/jobs/" + folders + "Heat pump of Miller.json"
+                                        << "//nas/jobs/"
+                                        << "/Heat pump of Miller.json";
     QTest::newRow("wide characters") << "/" + folders + QString::fromUtf8("漢字.json") << "/"
                                      << QString::fromUtf8("/漢字.json");
     QTest::newRow("long name") << "C:/a/" + QString("name ").repeated(60) + ".json"
