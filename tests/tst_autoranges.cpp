@@ -1,12 +1,8 @@
-#include "pages/installation/autoengine.h"
-#include "pages/installation/autoranges.h"
+#include "rules/autoengine.h"
+#include "rules/autoranges.h"
 
 #include <QStringList>
 #include <QTest>
-
-using autoranges::Range;
-
-namespace autoranges {
 
 static bool operator==(const Range &left, const Range &right)
 {
@@ -18,9 +14,7 @@ static char *toString(const Range &range)
     return QTest::toString(QString("%1 to %2").arg(range.low).arg(range.high));
 }
 
-} // namespace autoranges
-
-Q_DECLARE_METATYPE(autoranges::Range)
+Q_DECLARE_METATYPE(Range)
 
 // The limits of the auto mode lists by flag, and which box bounds which list, without a window.
 class TestAutoRanges : public QObject

@@ -1,6 +1,6 @@
 #include "support/hotwatersection.h"
 
-#include "pages/installation/hotwaterranges.h"
+#include "rules/hotwaterranges.h"
 
 Q_DECLARE_METATYPE(hotwater::Words)
 
@@ -145,7 +145,7 @@ void TestHotWaterLists::limitOfTheCompressor()
     QFETCH(int, r410);
     const QString model = QLatin1String(QTest::currentDataTag());
     for (const char *flag : {"SET", "CLR"}) {
-        const hotwater::Range limit = hotwater::compressorLimit(model, QLatin1String(flag));
+        const Range limit = hotwater::compressorLimit(model, QLatin1String(flag));
         QCOMPARE(limit.low, 40);
         QCOMPARE(limit.high, flag == QByteArray("SET") ? r32 : r410);
     }

@@ -1,9 +1,8 @@
-#include "pages/installation/waterranges.h"
+#include "rules/waterranges.h"
 
 #include <QTest>
 
 using waterranges::Circuits;
-using waterranges::Range;
 
 // Which water temperatures cooling and heating offer, without a window.
 class TestWaterRanges : public QObject

@@ -1,7 +1,7 @@
 #include "pages/installation/installationaauto.h"
 
 #include "app/maindialog.h"
-#include "pages/installation/autoengine.h"
+#include "rules/autoengine.h"
 #include "ui_installationaauto.h"
 
 #include <QDebug>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pages/installation/autoranges.h"
 #include "pages/installation/section.h"
+#include "rules/autoranges.h"
 
 #include <array>
 #include <memory>
@@ -96,10 +96,10 @@ private:
     struct Limit {
         QComboBox *combo;
         const char *key;
-        autoranges::Range range;
+        Range range;
     };
 
-    static void fill(QComboBox *combo, autoranges::Range range);
+    static void fill(QComboBox *combo, Range range);
     static int celsius(int shown);
     static bool mainZoneOff();
     QComboBox *box(int modelName) const;
@@ -116,5 +116,5 @@ private:
 
     std::unique_ptr<Ui::InstallationaAuto> ui;
     /// Limits of the seasonal boxes, °C, in an order of their own (autoengine::Row::slot).
-    std::array<autoranges::Range, 20> tempRange{};
+    std::array<Range, 20> tempRange{};
 };

@@ -3,7 +3,7 @@
 #include "pages/installation/installationaauto.h"
 
 #include "app/maindialog.h"
-#include "pages/installation/autoengine.h"
+#include "rules/autoengine.h"
 #include "ui_installationaauto.h"
 
 namespace {
@@ -31,7 +31,7 @@ QComboBox *InstallationaAuto::box(int modelName) const
     return boxes.at(static_cast<std::size_t>(modelName - 1));
 }
 
-void InstallationaAuto::fill(QComboBox *combo, autoranges::Range range)
+void InstallationaAuto::fill(QComboBox *combo, Range range)
 {
     mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
 }
@@ -100,8 +100,8 @@ void InstallationaAuto::valueChanged(int modelName, int selectedTemp, bool isRef
         return;
     }
     const bool leads = row->mainZone != autoengine::none && mainZoneOff();
-    const autoranges::Range list = autoengine::offered(*row, tempRange.at(row->slot), leads,
-                                                       [this](int each) { return current(each); });
+    const Range list = autoengine::offered(*row, tempRange.at(row->slot), leads,
+                                           [this](int each) { return current(each); });
     fill(box(modelName), list);
     if (leads) {
         fill(box(row->mainZone), list);

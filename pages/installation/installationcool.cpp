@@ -281,7 +281,7 @@ void InstallationCool::changeLanguageInCombobox() { refillLists(); }
 void InstallationCool::initSeasonalAutoRange()
 {
     const bool outlet = text(rules.controlBasis) == QLatin1String("EXIT");
-    saveSeasonalDefaults({outlet ? 16 : 20, 20, 28, 35});
+    saveSeasonalDefaults({{outlet ? 16 : 20, 20}, {28, 35}});
 }
 
 void InstallationCool::announceChange() { emit refreshInstallationPageSignal(); }

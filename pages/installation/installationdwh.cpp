@@ -1,7 +1,7 @@
 #include "pages/installation/installationdwh.h"
 
 #include "app/maindialog.h"
-#include "pages/installation/hotwaterranges.h"
+#include "rules/hotwaterranges.h"
 #include "ui_installationdwh.h"
 
 #include <QDebug>
@@ -35,7 +35,7 @@ QStringList wholeHours()
     return hours;
 }
 
-void fill(QComboBox *combo, const hotwater::Range &range)
+void fill(QComboBox *combo, const Range &range)
 {
     mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
 }

@@ -213,6 +213,6 @@ void InstallationHeat::changeLanguage()
 void InstallationHeat::changeLanguageInCombobox() { refillLists(); }
 
 // The cooling defaults are put back as well, and whatever the water basis.
-void InstallationHeat::initSeasonalAutoRange() { saveSeasonalDefaults({16, 20, 28, 35}); }
+void InstallationHeat::initSeasonalAutoRange() { saveSeasonalDefaults({{16, 20}, {28, 35}}); }
 
 void InstallationHeat::announceChange() { emit refreshInstallationPageSignal(); }

@@ -47,7 +47,7 @@ void WaterSection::showOrHide(std::initializer_list<QWidget *> widgets, bool sho
     }
 }
 
-void WaterSection::offer(QComboBox *combo, waterranges::Range range)
+void WaterSection::offer(QComboBox *combo, Range range)
 {
     mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
 }
@@ -59,10 +59,7 @@ waterranges::Circuits WaterSection::circuits() const
     return twoCircuits() ? rules.circuits : waterranges::Circuits::One;
 }
 
-waterranges::Range WaterSection::waterLimits() const
-{
-    return {number(rules.waterLow), number(rules.waterHigh)};
-}
+Range WaterSection::waterLimits() const { return {number(rules.waterLow), number(rules.waterHigh)}; }
 
 waterranges::Constants WaterSection::constants() const
 {
@@ -77,12 +74,12 @@ void WaterSection::showControlBasis()
     controls.basisGroup->setVisible(flag("isR32") && (byWater || byBoth));
 }
 
-void WaterSection::applyWaterLimits(waterranges::Range low, waterranges::Range high)
+void WaterSection::applyWaterLimits(Range low, Range high)
 {
     offer(controls.waterMax, high);
     offer(controls.waterMin, low);
-    const waterranges::Range stored = waterLimits();
-    const waterranges::Range kept{waterranges::clamp(stored.low, low), waterranges::clamp(stored.high, high)};
+    const Range stored = waterLimits();
+    const Range kept{waterranges::clamp(stored.low, low), waterranges::clamp(stored.high, high)};
     mainDialog->setComboByValue(controls.waterMin, kept.low, MainDialog::Temperature);
     mainDialog->setComboByValue(controls.waterMax, kept.high, MainDialog::Temperature);
     saveJsonData(rules.waterLow, kept.low);

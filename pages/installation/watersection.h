@@ -2,8 +2,8 @@
 
 #include "pages/installation/section.h"
 #include "pages/installation/waterform.h"
-#include "pages/installation/waterranges.h"
-#include "pages/seasonaldefaults.h"
+#include "rules/seasonaldefaults.h"
+#include "rules/waterranges.h"
 
 /// Where a section keeps its values, and the flags that show its groups: paths of the document.
 struct WaterRules {
@@ -53,13 +53,13 @@ protected:
     void refillLists();
     void showControlBasis();
     /// Offers the limits, brings the stored ones into them, shows them and writes them back.
-    void applyWaterLimits(waterranges::Range low, waterranges::Range high);
+    void applyWaterLimits(Range low, Range high);
     void showTemperatureControl();
     void showWaterPump();
     /// Shows what is stored: the temperatures quietly, all else with the signals live.
     void showStored(const std::vector<TemperatureRow> &temperatures);
     static void showOrHide(std::initializer_list<QWidget *> widgets, bool shown);
-    static void offer(QComboBox *combo, waterranges::Range range);
+    static void offer(QComboBox *combo, Range range);
     static bool twoCircuits();
 
     // Changes by the user; `shown` is the text of an item
@@ -83,7 +83,7 @@ protected:
     WaterControls controls{};
 
 private:
-    waterranges::Range waterLimits() const;
+    Range waterLimits() const;
     waterranges::Constants constants() const;
     waterranges::Circuits circuits() const;
     void offerConstants(const waterranges::Constants &stored);

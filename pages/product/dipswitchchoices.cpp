@@ -2,8 +2,8 @@
 
 #include "pages/product/dipswitchsettingstatus.h"
 
-#include "pages/seasonaldefaults.h"
 #include "pages/style.h"
+#include "rules/seasonaldefaults.h"
 #include "ui_dipswitchsettingstatus.h"
 
 void DipSwitchSettingStatus::saveFlags(std::initializer_list<Flag> flags)
@@ -200,7 +200,7 @@ void DipSwitchSettingStatus::setElectricHeater(const QString &isHeater1, const Q
 
 void DipSwitchSettingStatus::initSeasonalAutoRange()
 {
-    seasonal::saveWaterDefaults({16, 20, 28, 35}, [this](const QString &path, const QJsonValue &value) {
+    seasonal::saveWaterDefaults({{16, 20}, {28, 35}}, [this](const QString &path, const QJsonValue &value) {
         saveJsonData(path, value);
     });
 }

@@ -1,71 +1,10 @@
 #include "pages/product/productselection.h"
 
 #include "app/maindialog.h"
+#include "rules/productpresets.h"
 #include "ui_productselection.h"
 
 #include <QDebug>
-
-#include <array>
-
-namespace {
-
-struct Preset {
-    const char *path;
-    const char *value;
-};
-
-// What makes a document that of an Aquabox, in the order of the writes.
-constexpr std::array<Preset, 35> aquaboxPresets{{
-    {"product", "aquabox"},
-    {"IduFuncList.is_schedule_boostHeater", "CLR"},
-    {"IduFuncList.isSilentDisable", "CLR"},
-    {"IduFuncList.isWaterFlowRate", "SET"},
-    {"IduFuncList.isOverride", "SET"},
-    {"IduFuncList.isDisableHotwaterKeyCool", "SET"},
-    {"IduFuncList.isDisableRunMode", "CLR"},
-    {"IduFuncList.is_200Combination", "SET"},
-    {"IduFuncList.is_cement_Curing", "CLR"},
-    {"IduFuncList.is_waterthermoonoff", "SET"},
-    {"IduFuncList.is_coolThermoOnOff", "SET"},
-    {"IduFuncList.is_ghpWarningOil", "SET"},
-    {"IduFuncList.is_ModeLock", "CLR"},
-    {"IduFuncList.is_MainZone_circuit", "CLR"},
-    {"IduFuncList.isSGReady", "CLR"},
-    {"IduFuncList.isModbusAddress", "CLR"},
-    {"IduFuncList.isOduFunctionMS", "SET"},
-    {"IduFuncList.isDefrostMode", "SET"},
-    {"IduFuncList.isLeakRefrigerant", "SET"},
-    {"IduFuncList.isIduAdd", "SET"},
-    {"IduFuncList.isEmergencyAllStop", "SET"},
-    {"IduFuncList.isSilentPriority", "SET"},
-    {"IduFuncList.isHsModel", "SET"},
-    {"IduFuncList.is200CombinationOp2", "SET"},
-    {"IduFuncList.isModeStandby", "SET"},
-    {"IduFuncList.isMotorDuty", "CLR"},
-    {"IduFuncList.isWaterCtrBasisAir", "SET"},
-    {"IduFuncList.isHotwaterTankHeaterUse", "CLR"},
-    {"IduFuncList.isAntiFreeze", "CLR"},
-    {"IduFuncList.isMeterInterface", "SET"},
-    {"IduFuncList.isCoolAir16", "SET"},
-    {"IduFuncList.isWaterPumpOperationByForceAdv", "SET"},
-    {"IduFuncList.isPumpPreOverRun", "SET"},
-    {"IduFuncList.isIduAirTempSW", "SET"},
-    {"IduFuncList.isNoticeCanEmerOper", "SET"},
-}};
-
-// What makes a document that of a heating-only high temperature product, in the order of the writes.
-constexpr std::array<Preset, 8> highTempPresets{{
-    {"IduFuncList.is_heater2", "CLR"},
-    {"IduFuncList.is_heater1", "CLR"},
-    {"IduFuncList.is_cool", "CLR"},
-    {"IduFuncList.isDisableDisinfect", "CLR"},
-    {"IduFuncList.is_hotwater_by_disinfection", "SET"},
-    {"IduFuncList.is_installed_heater", "CLR"},
-    {"IduFuncList.isCoolTempMin5", "CLR"},
-    {"IduFuncList.isR32", "CLR"},
-}};
-
-} // namespace
 
 ProductSelection::ProductSelection(QWidget *parent)
     : Page(parent)
@@ -159,7 +98,7 @@ void ProductSelection::on_radioButtonAwhp_clicked()
 // The writes come first; the refrigerant click that follows replaces the document with the R410 default.
 void ProductSelection::on_radioButtonAquabox_clicked()
 {
-    for (const Preset &preset : aquaboxPresets) {
+    for (const presets::Preset &preset : presets::aquabox) {
         saveJsonData(QLatin1String(preset.path), QLatin1String(preset.value));
     }
     enableProductSpec();
@@ -175,7 +114,7 @@ void ProductSelection::on_radioButtonMiddleTemp_clicked()
 
 void ProductSelection::on_radioButtonHighTemp_clicked()
 {
-    for (const Preset &preset : highTempPresets) {
+    for (const presets::Preset &preset : presets::highTemp) {
         saveJsonData(QLatin1String(preset.path), QLatin1String(preset.value));
     }
     enableRefrigerantType();

@@ -27,7 +27,7 @@ IN_CODE = [
 ]
 # Where the rule is made true: of what the window shows, and of what file dialogs ask.
 MAKERS = {Path("app/plaintext.h"), Path("app/plaintext.cpp"), Path("app/jsonlist.cpp")}
-CODE = ("app/*", "document/*", "languages/*", "pages/*")
+CODE = ("app/*", "document/*", "languages/*", "pages/*", "rules/*")
 
 
 def check_form(path):

@@ -1,4 +1,4 @@
-#include "pages/installation/autoengine.h"
+#include "rules/autoengine.h"
 
 #include <algorithm>
 #include <array>
@@ -77,8 +77,7 @@ int groupOf(int modelName)
     return modelName <= ZoneCoolWaterMin ? 2 : 3;
 }
 
-autoranges::Range offered(const Row &row, autoranges::Range limits, bool mainZoneOff,
-                          const std::function<int(int)> &current)
+Range offered(const Row &row, Range limits, bool mainZoneOff, const std::function<int(int)> &current)
 {
     const auto bounds = [&row, mainZoneOff](const Neighbour &neighbour) {
         const bool follower = mainZoneOff && neighbour.modelName == row.mainZone;

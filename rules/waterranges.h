@@ -1,21 +1,17 @@
 #pragma once
 
+#include "rules/range.h"
+
 #include <QString>
 
 /// Which water temperatures the cooling and heating sections offer, and how their constant temperatures are
 /// kept in line. All in °C; words are upper-cased document values.
 namespace waterranges {
 
-/// Both ends belong to it.
-struct Range {
-    int low;
-    int high;
-};
-
 /// The value itself, or the end of the range that it lies beyond.
 int clamp(int value, Range range);
 
-/// What the water limits in cooling hang on.
+/// What the water limits in cooling depend on.
 struct CoolWords {
     QString fcuDisable;
     QString controlBasisFlag;

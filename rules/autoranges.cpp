@@ -1,4 +1,4 @@
-#include "pages/installation/autoranges.h"
+#include "rules/autoranges.h"
 
 namespace autoranges {
 

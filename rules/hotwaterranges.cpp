@@ -1,4 +1,4 @@
-#include "pages/installation/hotwaterranges.h"
+#include "rules/hotwaterranges.h"
 
 #include <algorithm>
 

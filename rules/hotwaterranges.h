@@ -1,15 +1,11 @@
 #pragma once
 
+#include "rules/range.h"
+
 #include <QString>
 
-/// Which values the lists of the hot water section offer, by the words that the document holds.
+/// Which values the lists of the hot water section offer, in °C, by the words that the document holds.
 namespace hotwater {
-
-/// In °C, both ends included.
-struct Range {
-    int low;
-    int high;
-};
 
 /// What decides the ranges, upper-cased; empty where the document has no such text.
 struct Words {

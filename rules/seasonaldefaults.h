@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rules/range.h"
+
 #include <QJsonValue>
 #include <QString>
 
@@ -12,10 +14,8 @@ using Save = std::function<void(const QString &path, const QJsonValue &value)>;
 
 /// °C whatever is displayed; the same for both circuits.
 struct WaterDefaults {
-    int coolMin;
-    int coolMax;
-    int heatMin;
-    int heatMax;
+    Range cool;
+    Range heat;
 };
 
 /// Saves the eight values below SettingInfo.installation.seasonalAutoOption: cooling, then heating.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/installation/autoranges.h"
+#include "rules/autoranges.h"
 
 #include <array>
 #include <cstddef>
@@ -79,7 +79,6 @@ int groupOf(int modelName);
 
 /// What the box of `row` may offer within `limits`, in °C. `current` tells the value of a box. Where the
 /// neighbours stand crossed the low end is above the high one.
-autoranges::Range offered(const Row &row, autoranges::Range limits, bool mainZoneOff,
-                          const std::function<int(int)> &current);
+Range offered(const Row &row, Range limits, bool mainZoneOff, const std::function<int(int)> &current);
 
 } // namespace autoengine

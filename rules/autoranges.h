@@ -1,17 +1,13 @@
 #pragma once
 
+#include "rules/range.h"
+
 #include <array>
 
 /// The limits of the auto mode lists by the flags of the document, in whole °C.
 namespace autoranges {
 
-/// Both ends belong to it.
-struct Range {
-    int low;
-    int high;
-};
-
-/// What the limits hang on. An entrance counts only where the unit can choose its water control basis.
+/// What the limits depend on. An entrance counts only where the unit can choose its water control basis.
 struct Flags {
     bool r32;
     bool r410CoolExpand;

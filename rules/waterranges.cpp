@@ -1,4 +1,4 @@
-#include "pages/installation/waterranges.h"
+#include "rules/waterranges.h"
 
 #include <algorithm>
 
