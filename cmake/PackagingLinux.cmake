@@ -55,6 +55,9 @@ install(CODE "
         OUTPUT_FILE \${doc}/CHANGELOG.md.gz COMMAND_ERROR_IS_FATAL ANY)
     execute_process(COMMAND gzip -9nc ${generated}/changelog
         OUTPUT_FILE \${doc}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)
+    # Lets the launcher see which of a user's languages are as they were delivered. The one that is chosen isn't among them.
+    execute_process(COMMAND sh -c \"LC_ALL=C sha256sum *.json >../delivered\"
+        WORKING_DIRECTORY \${root}/lib/${PROJECT_NAME}/language COMMAND_ERROR_IS_FATAL ANY)
     # Names the build, so that a launcher can tell whether a user's copy is older.
     file(SHA256 \${root}/lib/${PROJECT_NAME}/calora-configurator checksum)
     file(WRITE \${root}/lib/${PROJECT_NAME}/version \"${PROJECT_VERSION} \${checksum}\\n\")

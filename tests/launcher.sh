@@ -45,7 +45,10 @@ deliver() { # version: the package of that version is installed
     echo "Czech of $1" >"$model/language/Čeština.json"
     printf English >"$model/language/language.ini"
     echo "$1" >"$model/version"
+    record
 }
+# What the package says of the languages that it brings.
+record() { (cd "$model/language" && sha256sum -- *.json >../delivered); }
 
 mkdir -p "$work/usr/bin" "$HOME"
 cp "$1" "$launcher"
@@ -68,6 +71,7 @@ check "the second start writes nothing" is "$(state)" "$before"
 
 deliver 2.0
 echo 'Finnish of 2.0' >"$model/language/Suomi.json"
+record
 ln -s "$launcher" "$work/link"
 "$work/link" >"$work/out" 2>"$work/err"
 check "after an upgrade the new program starts, through a link too" started 2.0 "$own" ''
@@ -81,6 +85,42 @@ check "a new language comes" holds "$own/language/Suomi.json" 'Finnish of 2.0'
 deliver 1.0
 start
 check "an older version replaces a newer one" started 1.0 "$own" ''
+
+# An upgrade that brings a new text, for languages that the user has left alone, has changed, or has made.
+rm -rf "$own"
+start
+echo '{"Old": "my text"}' >"$own/language/Čeština.json"
+echo '{"Old": "own text"}' >"$own/language/Mine.json"
+printf Mine >"$own/language/language.ini"
+for version in 2.0 3.0; do
+    deliver "$version"
+    echo "{\"New\": \"text of $version\", \"Old\": \"text\"}" | tee "$model/language/Čeština.json" >"$model/language/English.json"
+    printf Čeština >"$model/language/language.ini"
+    record
+    start
+    check "$version starts" started "$version" "$own" ''
+    check "a language that is as delivered gets the new text of $version" cmp "$model/language/English.json" "$own/language/English.json"
+    check "a changed one stays at $version" holds "$own/language/Čeština.json" '{"Old": "my text"}'
+    check "an own one stays at $version" holds "$own/language/Mine.json" '{"Old": "own text"}'
+    check "the choice stays at $version" holds "$own/language/language.ini" Mine
+    check "what was delivered is told at $version" cmp "$model/delivered" "$own/delivered"
+done
+before=$(state)
+start
+check "the start after that writes nothing" is "$(state)" "$before"
+cp "$model/language/Čeština.json" "$own/language"
+deliver 1.0
+start
+check "one that was put back as delivered goes with the package again" holds "$own/language/Čeština.json" 'Czech of 1.0'
+
+# Without knowing what was delivered, every language that exists counts as the user's.
+rm "$own/delivered"
+deliver 2.0
+start
+check "without a record languages stay" holds "$own/language/English.json" 'English of 1.0'
+deliver 1.0
+start
+echo 'my English' >"$own/language/English.json"
 
 # A copy that was cut short: the mark of the version comes last.
 rm "$own/version" "$own/NotoSans-Bold.ttf"
@@ -171,10 +211,15 @@ state_of() { (cd "$own" && sha256sum "$@"); }
 deliver 1.0
 start
 rm -f "$own/language/Suomi.json"
+echo 'my English' >"$own/language/English.json"
 users=$(state_of language/language.ini language/English.json)
 cp -R "$own" "$work/former"
-deliver 2.0
-echo 'Finnish of 2.0' >"$model/language/Suomi.json"
+deliver_with_finnish() {
+    deliver "$1"
+    echo "Finnish of $1" >"$model/language/Suomi.json"
+    record
+}
+deliver_with_finnish 2.0
 for way in full kill; do
     rm -f "$work/kill"
     [[ $way == full ]] || touch "$work/kill"
@@ -189,9 +234,20 @@ for way in full kill; do
         check "$way at file $n: no half file, no early mark" consistent
         [[ $way == kill ]] || check "$way at file $n: nothing is left" is "$(find "$own" -name '.*')" ''
         rm -rf "$own"/.new.*
+        rm -rf "$work/cut"
+        cp -R "$own" "$work/cut"
         start
         check "$way at file $n: the next start mends it" started 2.0 "$own" ''
         check "$way at file $n: all of it" holds "$own/NotoSans-Bold.ttf" 'face of 2.0'
+        check "$way at file $n: languages are renewed" holds "$own/language/Čeština.json" 'Czech of 2.0'
+        [[ $way == kill ]] || continue
+        rm -rf "$own"
+        mv "$work/cut" "$own"
+        deliver_with_finnish 3.0
+        start
+        check "$way at file $n: languages are renewed by the version after, too" holds "$own/language/Čeština.json" 'Czech of 3.0'
+        check "$way at file $n: the user's stay" is "$(state_of language/language.ini language/English.json)" "$users"
+        deliver_with_finnish 2.0
     done
     check "$way: all files had their turn" is "$((n > 10))" 1
 done

@@ -62,6 +62,7 @@ private slots:
     void nameLosesItsExtension_data();
     void nameLosesItsExtension();
     void savesWhatWasEditedNotWhatWasOpened();
+    void addsTextsThatAreMissing();
     void savesOverAFile();
     void savesOverTheOpenedFile();
     void cancelledSaveLosesReferences();
@@ -345,6 +346,24 @@ void TestLanguageEditorFiles::savesWhatWasEditedNotWhatWasOpened()
     expected.insert("New", "Neu");
     QCOMPARE(content(languagefolder::file("Deutsch.json")), asFile(expected));
     QCOMPARE(content(elsewhere.filePath("x.json")), languagefolder::marked("+"));
+}
+
+void TestLanguageEditorFiles::addsTextsThatAreMissing()
+{
+    // A language that was made before the tool had the text of "Year".
+    Texts old = english();
+    old.remove("Year");
+    put(languagefolder::file("Old.json"), asFile(old));
+    put(languagefolder::iniPath(), "Old");
+    editor.reset();
+    window.reset();
+    open();
+    press("openButton", languagefolder::file("English.json"));
+    edit("Year", "Jahr");
+    press("saveButton", languagefolder::file("Old.json"));
+    old.insert("Year", "Jahr");
+    QCOMPARE(content(languagefolder::file("Old.json")), asFile(old));
+    QCOMPARE(dialog().languageValue("Year"), QString("Jahr"));
 }
 
 void TestLanguageEditorFiles::savesOverAFile()
