@@ -180,6 +180,7 @@ private slots:
     void init();
 
     void showsItsWindow();
+    void isAWindowOfItsOwn();
     void ignoresArguments_data();
     void ignoresArguments();
     void isNotScaled_data();
@@ -241,11 +242,23 @@ void TestExecutable::showsItsWindow()
     QCOMPARE(run.size(), QSize(1440, 800));
     QCOMPARE(run.picture(), plain);
     // The name that is seen outside is the fixed one, not that of the file.
-    QVERIFY(run.property("WM_CLASS").contains("\"calorainstaller\""));
+    QCOMPARE(run.property("WM_CLASS"),
+             QString("WM_CLASS(STRING) = \"calorainstaller\", \"Calora configurator\""));
     run.clickAt(closeX, closeY);
     QCOMPARE(run.exitCode(), 0);
     QCOMPARE(run.standardOutput(), QByteArray());
     QCOMPARE(run.standardError(), firstMessage);
+}
+
+// A task bar and Alt+Tab leave out what is a dialog, or belongs to another window.
+void TestExecutable::isAWindowOfItsOwn()
+{
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    const QString type = run.property("_NET_WM_WINDOW_TYPE");
+    QVERIFY2(type.endsWith("_NET_WM_WINDOW_TYPE_NORMAL"), qPrintable(type));
+    QVERIFY2(!type.contains("DIALOG"), qPrintable(type));
+    QCOMPARE(run.property("WM_TRANSIENT_FOR"), QString("WM_TRANSIENT_FOR:  not found."));
 }
 
 void TestExecutable::ignoresArguments_data()
