@@ -1,7 +1,6 @@
 #include "app/maindialog.h"
 
 #include "app/frameless.h"
-#include "app/jsonlist.h"
 #include "app/radiogroups.h"
 #include "app/radioring.h"
 #include "app/windowshadow.h"
@@ -15,6 +14,7 @@
 #include "pages/operation/settinguser.h"
 #include "pages/product/dipswitchsettingstatus.h"
 #include "ui_maindialog.h"
+#include "widgets/jsonlist.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -1,6 +1,6 @@
 #include "app/paintedbutton.h"
 
-#include "app/plaintext.h"
+#include "widgets/plaintext.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/plaintext.h"
+#include "widgets/plaintext.h"
 
 /// Shows a path in one line: control characters as their codes, and with an ellipsis in the middle where it
 /// has no room, so that the drive and the name of the file stay. Its text is the path all the same, it is

@@ -1,12 +1,12 @@
 #include "languages/languagemenu.h"
 
-#include "app/jsonlist.h"
 #include "app/maindialog.h"
 #include "document/files.h"
 #include "languages/languagebox.h"
 #include "languages/languageitem.h"
 #include "languages/userlanguageeditpopup.h"
 #include "ui_languagemenu.h"
+#include "widgets/jsonlist.h"
 
 #include <QCoreApplication>
 #include <QDebug>

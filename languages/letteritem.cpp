@@ -1,8 +1,8 @@
 #include "languages/letteritem.h"
 
 #include "app/maindialog.h"
-#include "app/plaintext.h"
 #include "ui_letteritem.h"
+#include "widgets/plaintext.h"
 
 LetterItem::LetterItem(QWidget *parent)
     : QWidget(parent)

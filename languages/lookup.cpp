@@ -1,10 +1,10 @@
 // Languages: files, lookup, and the change of every text in the window.
 
 #include "app/maindialog.h"
-#include "app/plaintext.h"
 #include "document/files.h"
 #include "languages/languagemenu.h"
 #include "ui_maindialog.h"
+#include "widgets/plaintext.h"
 
 #include <QCoreApplication>
 #include <QDebug>

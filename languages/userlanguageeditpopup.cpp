@@ -1,11 +1,11 @@
 #include "languages/userlanguageeditpopup.h"
 
 #include "app/frameless.h"
-#include "app/jsonlist.h"
 #include "app/maindialog.h"
 #include "document/files.h"
 #include "languages/letteritem.h"
 #include "ui_userlanguageeditpopup.h"
+#include "widgets/jsonlist.h"
 
 #include <QCoreApplication>
 #include <QDebug>

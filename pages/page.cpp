@@ -1,8 +1,8 @@
 #include "pages/page.h"
 
 #include "app/maindialog.h"
-#include "app/plaintext.h"
 #include "document/util.h"
+#include "widgets/plaintext.h"
 
 #include <QJsonDocument>
 

@@ -3,9 +3,9 @@
 #include "support/openedfiles.h"
 #include "support/tour.h"
 
-#include "app/plaintext.h"
 #include "languages/languageitem.h"
 #include "languages/languagemenu.h"
+#include "widgets/plaintext.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

@@ -10,7 +10,7 @@ from pathlib import Path
 from tree import ROOT, finish, own_files
 
 IMAGES = ROOT / "resources/images"
-SOURCES = ("app/*", "document/*", "languages/*", "pages/*", "rules/*", "forms/*", "resources/style/*")
+SOURCES = ("app/*", "document/*", "languages/*", "pages/*", "rules/*", "widgets/*", "forms/*", "resources/style/*")
 ASKED = re.compile(r":/images/([\w%.]+)")
 PLACEHOLDER = re.compile(r"%\d")  # of QString::arg
 

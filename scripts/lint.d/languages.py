@@ -30,7 +30,7 @@ def main():
     keys = set(english())
     reserved, unanswered = allowed(RESERVED), allowed(UNANSWERED)
     mentioned, findings = set(), []
-    for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*", "rules/*"):
+    for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*", "rules/*", "widgets/*"):
         text = (ROOT / path).read_text(encoding="utf-8")
         mentioned.update(LITERAL.findall(text))
         for position, key in asked(text):

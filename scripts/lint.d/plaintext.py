@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that what is read from files is shown letter for letter: by the classes of app/plaintext.h, in forms and code."""
+"""Checks that what is read from files is shown letter for letter: by the classes of widgets/plaintext.h, in forms and code."""
 import re
 import xml.etree.ElementTree as ET
 from pathlib import Path
@@ -10,9 +10,9 @@ from tree import ROOT, finish, own_files
 IN_FORMS = {
     "QLabel": "PlainLabel",
     "QRadioButton": "PlainRadioButton",
-    "QCheckBox": "a class of app/plaintext.h",
-    "QToolButton": "a class of app/plaintext.h",
-    "QCommandLinkButton": "a class of app/plaintext.h",
+    "QCheckBox": "a class of widgets/plaintext.h",
+    "QToolButton": "a class of widgets/plaintext.h",
+    "QCommandLinkButton": "a class of widgets/plaintext.h",
     "QTabWidget": "TabButton",
     "QTextEdit": "QPlainTextEdit",
     "QTextBrowser": "QPlainTextEdit",
@@ -20,14 +20,14 @@ IN_FORMS = {
 # The same in code, where a page makes or derives from one, and what would turn text into markup.
 IN_CODE = [
     (re.compile(rf"\bnew ({'|'.join(IN_FORMS)})\b|\b({'|'.join(IN_FORMS)}) \w+\s*[;({{]|:\s*public ({'|'.join(IN_FORMS)})\b"),
-     "is made in code: take its class of app/plaintext.h"),
+     "is made in code: take its class of widgets/plaintext.h"),
     (re.compile(r"\bsetTextFormat\b|\bsetHtml\b|\bQt::(RichText|AutoText)\b"), "turns text into markup"),
     (re.compile(r"\bQMessageBox\b|\bQErrorMessage\b"), "guesses whether its text is markup"),
     (re.compile(r"\bsetWhatsThis\b|\bQToolTip\b|\bsetToolTip\((?!toolTipOf\()"), "guesses whether its text is markup"),
 ]
 # Where the rule is made true: of what the window shows, and of what file dialogs ask.
-MAKERS = {Path("app/plaintext.h"), Path("app/plaintext.cpp"), Path("app/jsonlist.cpp")}
-CODE = ("app/*", "document/*", "languages/*", "pages/*", "rules/*")
+MAKERS = {Path("widgets/plaintext.h"), Path("widgets/plaintext.cpp"), Path("widgets/jsonlist.cpp")}
+CODE = ("app/*", "document/*", "languages/*", "pages/*", "rules/*", "widgets/*")
 
 
 def check_form(path):

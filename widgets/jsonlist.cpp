@@ -1,4 +1,4 @@
-#include "app/jsonlist.h"
+#include "widgets/jsonlist.h"
 
 #include <QChildEvent>
 #include <QCoreApplication>
