@@ -4,10 +4,34 @@
 #include "document/util.h"
 #include "widgets/plaintext.h"
 
+#include <QComboBox>
 #include <QJsonDocument>
+#include <QRadioButton>
 
 #include <algorithm>
 #include <limits>
+
+namespace {
+
+/// The row of a control, for which `isIts` holds.
+template <class Row, class IsIts>
+const Row &rowOf(const std::vector<Row> &rows, const QWidget *control, IsIts isIts)
+{
+    const auto row = std::find_if(rows.begin(), rows.end(), isIts);
+    if (row == rows.end()) {
+        qFatal("%s stands in no row of its page", qPrintable(control->objectName()));
+    }
+    return *row;
+}
+
+const Option *optionOf(const Choice &choice, const QRadioButton *radio)
+{
+    const auto option = std::find_if(choice.options.begin(), choice.options.end(),
+                                     [radio](const Option &each) { return each.radio == radio; });
+    return option == choice.options.end() ? nullptr : &*option;
+}
+
+} // namespace
 
 Page::Page(QWidget *parent)
     : QWidget(parent)
@@ -15,6 +39,16 @@ Page::Page(QWidget *parent)
 }
 
 QJsonValue Page::read(const QString &path) { return Util::readJsonValue(mainDialog->document(), path); }
+
+QJsonValue Page::read(const char *path) { return read(QLatin1String(path)); }
+
+QString Page::text(const char *path) { return read(path).toString(); }
+
+QString Page::word(const char *path) { return text(path).toUpper(); }
+
+int Page::number(const char *path) { return read(path).toInt(); }
+
+bool Page::isSet(const char *path) { return word(path) == QLatin1String("SET"); }
 
 QString Page::text(const QString &path) { return read(path).toString(); }
 
@@ -47,6 +81,102 @@ void Page::writeUnlessEmpty(const QString &path, const QJsonValue &value)
     }
 }
 
+const Choice &Page::choiceOf(const QRadioButton *radio) const
+{
+    return rowOf(choices, radio, [radio](const Choice &each) { return optionOf(each, radio) != nullptr; });
+}
+
+const ValueRow &Page::listOf(const QComboBox *list) const
+{
+    return rowOf(lists, list, [list](const ValueRow &each) { return each.combo == list; });
+}
+
+bool Page::checkStored(const QRadioButton *radio) const
+{
+    const Choice &choice = choiceOf(radio);
+    const QString stored = word(choice.path);
+    for (const Option &option : choice.options) {
+        if (stored == QString::fromLatin1(option.word).toUpper()) {
+            option.radio->setChecked(true);
+            return true;
+        }
+    }
+    return false;
+}
+
+void Page::loadChoice(const QRadioButton *radio) const
+{
+    if (!checkStored(radio)) {
+        std::vector<QRadioButton *> radios;
+        for (const Option &option : choiceOf(radio).options) {
+            radios.push_back(option.radio);
+        }
+        uncheck(radios);
+    }
+}
+
+bool Page::choicesMade() const
+{
+    return std::all_of(choices.begin(), choices.end(), [](const Choice &choice) {
+        const std::vector<Option> &options = choice.options;
+        return mainDialog->checkValidationRadio(options.at(0).radio, options.at(1).radio,
+                                                options.size() > 2 ? options.at(2).radio : nullptr);
+    });
+}
+
+void Page::loadLists(const std::vector<ValueRow> &rows)
+{
+    std::vector<QJsonValue> stored;
+    for (const ValueRow &row : rows) {
+        stored.push_back(read(row.path));
+    }
+    auto value = stored.cbegin();
+    for (const ValueRow &row : rows) {
+        select(row, *value++);
+    }
+}
+
+void Page::select(const ValueRow &list, const QJsonValue &value)
+{
+    switch (list.shown) {
+    case Shown::Index:
+        list.combo->setCurrentIndex(indexOf(value.toInt(), list.offset));
+        break;
+    case Shown::Number:
+        mainDialog->setComboByValue(list.combo, value.toInt(), MainDialog::PlainNumber);
+        break;
+    case Shown::Temperature:
+        mainDialog->setComboByValue(list.combo, value.toInt(), MainDialog::Temperature);
+        break;
+    case Shown::Kelvin:
+        mainDialog->setComboByValue(list.combo, value.toInt(), MainDialog::Kelvin);
+        break;
+    case Shown::Key:
+        mainDialog->setComboByKey(list.combo, value.toString());
+        break;
+    }
+}
+
+void Page::save(const char *path, const QJsonValue &value) { saveJsonData(QLatin1String(path), value); }
+
+void Page::save(const QRadioButton *radio)
+{
+    const Choice &choice = choiceOf(radio);
+    save(choice.path, QLatin1String(optionOf(choice, radio)->word));
+}
+
+void Page::save(const QComboBox *list, const QString &item)
+{
+    const ValueRow &row = listOf(list);
+    save(row.path, shownValue(row.shown, item));
+}
+
+void Page::save(const QComboBox *list, int index)
+{
+    const ValueRow &row = listOf(list);
+    save(row.path, index + row.offset);
+}
+
 void Page::setCaptions(const std::vector<CaptionRow> &rows)
 {
     for (const CaptionRow &row : rows) {
@@ -70,12 +200,11 @@ void Page::saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton 
 
 QJsonValue Page::shownValue(Shown shown, const QString &item)
 {
-    const auto celsius = [](int number) {
-        return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(number) : number;
-    };
     switch (shown) {
     case Shown::Index:
         break;
+    case Shown::Number:
+        return item.toInt();
     case Shown::Temperature:
         return celsius(mainDialog->textWithoutTwoChars(item));
     case Shown::Kelvin:
@@ -86,7 +215,7 @@ QJsonValue Page::shownValue(Shown shown, const QString &item)
     return {};
 }
 
-void Page::uncheck(std::initializer_list<QRadioButton *> radios)
+void Page::uncheck(const std::vector<QRadioButton *> &radios)
 {
     for (QRadioButton *radio : radios) {
         radio->setAutoExclusive(false);
@@ -108,6 +237,30 @@ void Page::checkPair(const QString &value, const PairRow &pair)
     } else {
         uncheck({pair.first, pair.second});
     }
+}
+
+void Page::fill(QComboBox *list, const QStringList &items) { mainDialog->setComboItems(list, items, -1); }
+
+void Page::refill(QComboBox *list, const QStringList &items)
+{
+    mainDialog->refillComboItems(list, items, list->currentIndex());
+}
+
+void Page::offer(QComboBox *list, Range range)
+{
+    mainDialog->setRangeValueInComboBox(list, range.low, range.high, MainDialog::Temperature, 1);
+}
+
+void Page::selectTemperature(QComboBox *list, int shown)
+{
+    const QString unit = mainDialog->isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
+    const QSignalBlocker quiet(list);
+    list->setCurrentIndex(list->findText(QString::number(shown) + unit));
+}
+
+int Page::celsius(int shown)
+{
+    return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
 }
 
 QStringList Page::languageTexts(const std::vector<const char *> &keys)

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "pages/rows.h"
+#include "rules/range.h"
 
 #include <QJsonValue>
 #include <QWidget>
 
+#include <vector>
+
+class QComboBox;
 class QLabel;
 
 /// What the pages share: reading the document, writing rows, captions, radios. It has no slots of its own;
@@ -19,6 +23,13 @@ public:
 protected:
     // Reading
     static QJsonValue read(const QString &path);
+    static QJsonValue read(const char *path);
+    static QString text(const char *path);
+    /// The text at `path`, upper-cased; empty when it is missing or no text.
+    static QString word(const char *path);
+    static int number(const char *path);
+    /// Whether the text at `path` reads "SET", in any case.
+    static bool isSet(const char *path);
     static QString text(const QString &path);
     /// The text at `path`, upper-cased; empty when it is missing or no text.
     static QString word(const QString &path);
@@ -35,8 +46,38 @@ protected:
     static void write(const QString &path, const QJsonValue &value);
     static void writeUnlessEmpty(const QString &path, const QJsonValue &value);
     virtual void saveJsonData(const QString &path, const QJsonValue &value) = 0;
+    /// Judges the page and reports the result: the last step of most changes.
+    virtual void validationCheck() = 0;
 
-    // Rows
+    // Rows. A control that stands in none ends the run.
+    /// The page's radios that exclude each other, in the order of its check.
+    std::vector<Choice> choices;
+    /// The page's regular lists, in the order of its load.
+    std::vector<ValueRow> lists;
+    const Choice &choiceOf(const QRadioButton *radio) const;
+    const ValueRow &listOf(const QComboBox *list) const;
+    /// Checks the radio of the choice whose word the document holds, in any case. Where it holds another
+    /// word, the first leaves the radios as they are and returns false; the second unchecks them.
+    bool checkStored(const QRadioButton *radio) const;
+    void loadChoice(const QRadioButton *radio) const;
+    /// Whether each choice is made, hidden or disabled; the first that isn't ends the check.
+    bool choicesMade() const;
+    /// Reads the values of lists, then selects them in order: with its signals live, a list runs its slot.
+    static void loadLists(const std::vector<ValueRow> &rows);
+    /// Selects the item of a document value.
+    static void select(const ValueRow &list, const QJsonValue &value);
+    /// Saves a value, the word of a radio, or what an item of a list stands for.
+    void save(const char *path, const QJsonValue &value);
+    void save(const QRadioButton *radio);
+    void save(const QComboBox *list, const QString &item);
+    void save(const QComboBox *list, int index);
+    /// Saves and checks, as most slots do.
+    template <class... What>
+    void change(const What &...what)
+    {
+        save(what...);
+        validationCheck();
+    }
     /// Sets the texts of labels, radios and buttons from the language in force, in the order of the rows.
     static void setCaptions(const std::vector<CaptionRow> &rows);
     /// Saves the word of the row that `button` stands in.
@@ -46,10 +87,19 @@ protected:
 
     // Radios and labels
     /// Unchecks radios of an auto-exclusive group, which stay unchecked.
-    static void uncheck(std::initializer_list<QRadioButton *> radios);
+    static void uncheck(const std::vector<QRadioButton *> &radios);
     /// Checks `first` when the word at `path` is `firstWord`, `second` when it is `secondWord`, otherwise
     /// neither.
     static void checkPair(const QString &value, const PairRow &pair);
+    /// Replaces the items without running a slot; the first is selected, or the index stays.
+    static void fill(QComboBox *list, const QStringList &items);
+    static void refill(QComboBox *list, const QStringList &items);
+    /// Offers the temperatures of a range, in the unit in force.
+    static void offer(QComboBox *list, Range range);
+    /// Selects the item of a number in the unit in force, quietly; none where the list doesn't hold it.
+    static void selectTemperature(QComboBox *list, int shown);
+    /// °C of a number in the unit in force.
+    static int celsius(int shown);
     /// The texts of language keys.
     static QStringList languageTexts(const std::vector<const char *> &keys);
     /// first, first + step, ... last, each followed by `suffix`.

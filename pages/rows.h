@@ -7,6 +7,9 @@ class QComboBox;
 class QRadioButton;
 class QWidget;
 
+// Rows of a page: each says a control once, and the page loads, saves and checks it by its row. A path that
+// one row or slot alone uses stands there; one that several places ask for stands in document/paths.h.
+
 /// A label, radio or button that shows the text of a language key.
 struct CaptionRow {
     QWidget *widget;
@@ -20,9 +23,22 @@ struct ChoiceRow {
     const char *word;
 };
 
+/// A radio and the word that it saves.
+struct Option {
+    QRadioButton *radio;
+    const char *word;
+};
+
+/// Two or three radios that stand for the words at a path, in the order in which the check names them.
+struct Choice {
+    const char *path;
+    std::vector<Option> options;
+};
+
 /// How a combo box shows a document value.
 enum class Shown {
     Index,       ///< the index plus the row's offset is the value
+    Number,      ///< the text is the number
     Temperature, ///< the text is a number and two unit characters; the value is in °C whatever is shown
     Kelvin,      ///< the text is a number and "K"; under °F it goes through the table all the same
     Key,         ///< the value is the language key of the text

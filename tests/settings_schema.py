@@ -19,15 +19,25 @@ DEFAULTS = {name: json.loads((ROOT / f"resources/defaultsettings/KV5_AWHP_DATA_{
             for name in ("R32", "R410")}
 
 
-def source(path):
+def shared_paths():
+    """Constant -> path, of those that more than one place asks for."""
+    for space in re.findall(r"namespace (\w+) \{(.*?)\} // namespace", source(ROOT / "document/paths.h"), re.S):
+        for name, path in re.findall(r'(\w+) =\s*("[^"]+");', space[1]):
+            yield f"{space[0]}::{name}", path
+
+
+def source(path, shared=()):
     """A source with its constants of text put in, so that a row shows its path."""
     text = path.read_text(encoding="utf-8")
+    for name, value in shared:
+        text = re.sub(rf"\b{name}\b", value, text)
     for name, value in re.findall(r'constexpr (?:auto|const char \*) ?(\w+) = ("[^"]+");', text):
         text = re.sub(rf"\b{name}\b(?! =)", lambda _, value=value: value, text)
     return text
 
 
-SOURCES = "".join(source(path) for folder in ("pages", "rules") for end in ("cpp", "h")
+SHARED = list(shared_paths())
+SOURCES = "".join(source(path, SHARED) for folder in ("pages", "rules") for end in ("cpp", "h")
                   for path in sorted((ROOT / folder).rglob(f"*.{end}")))
 INSTALLATION = "SettingInfo.installation."
 PASSED = True  # the schema's word for a key that passes through
@@ -161,6 +171,8 @@ class Sources(unittest.TestCase):
 
     def test_every_word_is_accepted(self):
         words = re.findall(r'"((?:SettingInfo|IduFuncList)\.[\w.]+)",\s*"(\w+)"\}', SOURCES)
+        for path, options in re.findall(r'\{"([\w.]+)",\s*\{((?:\{ui->\w+,\s*"\w+"\}[,\s]*)+)\}', SOURCES):
+            words += [(path, word) for word in re.findall(r'"(\w+)"', options)]
         words += [(INSTALLATION + key, word) for key, word in re.findall(
             r'saveJsonData\(installation\("([\w.]+)"\),\s*QStringLiteral\("(\w+)"\)\)', SOURCES)]
         words += [("IduFuncList." + name, word) for name, word in re.findall(r'\{"(\w+)", "(SET|CLR)"\}', SOURCES)]

@@ -63,18 +63,18 @@ void InstallationaAuto::loadJsonData()
 void InstallationaAuto::initDefaultTempRange()
 {
     const bool waterExit = word(installation("heatWaterControlBasis")) == QLatin1String("EXIT");
-    const autoranges::OutdoorMode lists = autoranges::outdoorMode(flag("isR32"), waterExit,
-                                                                  flag("is_installed_heater"));
-    fill(ui->comboOutdoorOutdoorMax, lists.outdoorMax);
-    fill(ui->comboOutdoorOutdoorMin, lists.outdoorMin);
-    showClamped({ui->comboOutdoorOutdoorMax, "autoOp_outtemp.max", lists.outdoorMax},
-                {ui->comboOutdoorOutdoorMin, "autoOp_outtemp.min", lists.outdoorMin});
-    fill(ui->comboOutdoorIndoorMax, lists.indoorMax);
-    fill(ui->comboOutdoorIndoorMin, lists.indoorMin);
-    fill(ui->comboOutdoorWaterMax, lists.waterMax);
-    fill(ui->comboOutdoorWaterMin, lists.waterMin);
-    showClamped({ui->comboOutdoorWaterMax, "autoOp_tempwater.high_limit", lists.waterMax},
-                {ui->comboOutdoorWaterMin, "autoOp_tempwater.low_limit", lists.waterMin});
+    const autoranges::OutdoorMode offered = autoranges::outdoorMode(flag("isR32"), waterExit,
+                                                                    flag("is_installed_heater"));
+    offer(ui->comboOutdoorOutdoorMax, offered.outdoorMax);
+    offer(ui->comboOutdoorOutdoorMin, offered.outdoorMin);
+    showClamped({ui->comboOutdoorOutdoorMax, "autoOp_outtemp.max", offered.outdoorMax},
+                {ui->comboOutdoorOutdoorMin, "autoOp_outtemp.min", offered.outdoorMin});
+    offer(ui->comboOutdoorIndoorMax, offered.indoorMax);
+    offer(ui->comboOutdoorIndoorMin, offered.indoorMin);
+    offer(ui->comboOutdoorWaterMax, offered.waterMax);
+    offer(ui->comboOutdoorWaterMin, offered.waterMin);
+    showClamped({ui->comboOutdoorWaterMax, "autoOp_tempwater.high_limit", offered.waterMax},
+                {ui->comboOutdoorWaterMin, "autoOp_tempwater.low_limit", offered.waterMin});
 }
 
 void InstallationaAuto::showClamped(const Limit &high, const Limit &low)

@@ -81,7 +81,7 @@ private slots:
     void on_comboMainZoneHeatingWaterMin_currentTextChanged(const QString &text);
     void on_comboMainZoneWaterMax_currentTextChanged(const QString &text);
     void on_comboMainZoneWaterMin_currentTextChanged(const QString &text);
-    void validationCheck();
+    void validationCheck() override;
 
 public slots:
     /// Sets the section's texts. A refresh doesn't, so the second circuit's captions keep their form until
@@ -99,8 +99,6 @@ private:
         Range range;
     };
 
-    static void fill(QComboBox *combo, Range range);
-    static int celsius(int shown);
     static bool mainZoneOff();
     QComboBox *box(int modelName) const;
     int current(int modelName) const;

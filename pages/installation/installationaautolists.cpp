@@ -31,16 +31,6 @@ QComboBox *InstallationaAuto::box(int modelName) const
     return boxes.at(static_cast<std::size_t>(modelName - 1));
 }
 
-void InstallationaAuto::fill(QComboBox *combo, Range range)
-{
-    mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
-}
-
-int InstallationaAuto::celsius(int shown)
-{
-    return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
-}
-
 int InstallationaAuto::current(int modelName) const
 {
     return celsius(mainDialog->textWithoutTwoChars(box(modelName)->currentText()));
@@ -52,14 +42,7 @@ bool InstallationaAuto::mainZoneOff()
     return text(installation("circuitMainZone.enableMainZone")) == QLatin1String("CLR");
 }
 
-void InstallationaAuto::setTempValue(QComboBox *comboBox, int value)
-{
-    const QString unit = mainDialog->isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
-    comboBox->blockSignals(true);
-    comboBox->setCurrentIndex(
-        comboBox->findData(QString::number(value) + unit, Qt::DisplayRole, Qt::MatchCaseSensitive));
-    comboBox->blockSignals(false);
-}
+void InstallationaAuto::setTempValue(QComboBox *comboBox, int value) { selectTemperature(comboBox, value); }
 
 void InstallationaAuto::setloadJsonValue()
 {
@@ -89,7 +72,7 @@ void InstallationaAuto::setTempRangeValue()
     flags.coolingEntrance = entrance("is_coolwatercontrolbasis", "coolWaterControlBasis");
     tempRange = autoranges::seasonalMode(flags);
     for (const int modelName : autoengine::fillOrder) {
-        fill(box(modelName), tempRange.at(autoengine::row(modelName)->slot));
+        offer(box(modelName), tempRange.at(autoengine::row(modelName)->slot));
     }
 }
 
@@ -102,9 +85,9 @@ void InstallationaAuto::valueChanged(int modelName, int selectedTemp, bool isRef
     const bool leads = row->mainZone != autoengine::none && mainZoneOff();
     const Range list = autoengine::offered(*row, tempRange.at(row->slot), leads,
                                            [this](int each) { return current(each); });
-    fill(box(modelName), list);
+    offer(box(modelName), list);
     if (leads) {
-        fill(box(row->mainZone), list);
+        offer(box(row->mainZone), list);
         setTempValue(box(row->mainZone), selectedTemp);
     }
     setTempValue(box(modelName), selectedTemp);

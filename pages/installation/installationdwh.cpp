@@ -6,16 +6,11 @@
 
 #include <QDebug>
 
-#include <algorithm>
-
 namespace {
 
 std::vector<const char *> stepKeys() { return {"STEP0", "STEP1", "STEP2", "STEP3"}; }
 
 std::vector<const char *> dayKeys() { return {"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"}; }
-
-constexpr auto floorPriorityPath = "SettingInfo.installation.hotwater_addData.UFH_priority";
-constexpr auto disinfectionPath = "SettingInfo.installation.disinfect_time.enable";
 
 QStringList asTexts(const std::vector<const char *> &keys)
 {
@@ -33,11 +28,6 @@ QStringList wholeHours()
         hours.append(QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0')));
     }
     return hours;
-}
-
-void fill(QComboBox *combo, const Range &range)
-{
-    mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
 }
 
 // In the order in which a load selects. Two steps of a list aren't those of its value: the holding time goes
@@ -71,11 +61,11 @@ InstallationDWH::InstallationDWH(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationDWH>())
 {
     ui->setupUi(this);
-    values = valueRows(*ui);
-    choices = {{ui->radioUnderFloorNotUse, floorPriorityPath, "CLR"},
-               {ui->radioUnderFloorUse, floorPriorityPath, "SET"},
-               {ui->radioDisinfectionNotUse, disinfectionPath, "CLR"},
-               {ui->radioDisinfectionUse, disinfectionPath, "SET"}};
+    lists = valueRows(*ui);
+    choices = {{"SettingInfo.installation.hotwater_addData.UFH_priority",
+                {{ui->radioUnderFloorNotUse, "CLR"}, {ui->radioUnderFloorUse, "SET"}}},
+               {"SettingInfo.installation.disinfect_time.enable",
+                {{ui->radioDisinfectionNotUse, "CLR"}, {ui->radioDisinfectionUse, "SET"}}}};
     startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
@@ -92,11 +82,11 @@ void InstallationDWH::initUi()
 {
     mainDialog->setRangeValueInComboBox(ui->comboHeatingDurationTime, 5, 95, MainDialog::PlainNumber, 5);
     mainDialog->setRangeValueInComboBox(ui->comboStopDurationTime, 0, 600, MainDialog::PlainNumber, 30);
-    mainDialog->setComboItems(ui->comboHeatPump, asTexts(stepKeys()), -1);
-    mainDialog->setComboItems(ui->comboSchedule1, asTexts(dayKeys()), -1);
-    mainDialog->setComboItems(ui->comboSchedule2, wholeHours(), -1);
-    mainDialog->setComboItems(ui->comboMaxTempDuration, numbered(5, 60, 5, QStringLiteral("min")), -1);
-    mainDialog->setComboItems(ui->comboCutOffDuration, numbered(1, 12, 1, QStringLiteral("hour")), -1);
+    fill(ui->comboHeatPump, asTexts(stepKeys()));
+    fill(ui->comboSchedule1, asTexts(dayKeys()));
+    fill(ui->comboSchedule2, wholeHours());
+    fill(ui->comboMaxTempDuration, numbered(5, 60, 5, QStringLiteral("min")));
+    fill(ui->comboCutOffDuration, numbered(1, 12, 1, QStringLiteral("hour")));
     initDefaultTempRange();
 }
 
@@ -145,8 +135,8 @@ void InstallationDWH::loadTankTemperatures()
     const bool hotWater = flag("is_hotwater");
     ui->groupBoxTankWaterTemp->setVisible(hotWater);
     if (hotWater) {
-        fill(ui->comboInletWaterMax,
-             hotwater::compressorLimit(word(flagPath("is_indoor_model")), word(flagPath("isR32"))));
+        offer(ui->comboInletWaterMax,
+              hotwater::compressorLimit(word(flagPath("is_indoor_model")), word(flagPath("isR32"))));
     }
 }
 
@@ -170,15 +160,15 @@ void InstallationDWH::loadTimer()
 void InstallationDWH::loadTankHeating()
 {
     ui->groupBoxTankHeating->setVisible(flag("is_hotwater"));
-    const bool roomFirst = isSet(QLatin1String(floorPriorityPath));
+    const bool roomFirst = isSet(choiceOf(ui->radioUnderFloorUse).path);
     (roomFirst ? ui->radioUnderFloorUse : ui->radioUnderFloorNotUse)->setChecked(true);
 }
 
 void InstallationDWH::loadDisinfection()
 {
-    const bool used = isSet(QLatin1String(disinfectionPath));
+    const bool used = isSet(choiceOf(ui->radioDisinfectionUse).path);
     const QString tankHeaterUse = word(installation("hotWaterTankHeater.tankHeaterUse"));
-    fill(ui->comboMaxTemp, hotwater::disinfection(tankHeaterUse));
+    offer(ui->comboMaxTemp, hotwater::disinfection(tankHeaterUse));
     ui->groupBoxDisinfection->setVisible(isDisinfectionOffered(tankHeaterUse));
     (used ? ui->radioDisinfectionUse : ui->radioDisinfectionNotUse)->setChecked(true);
     ui->groupBoxDisinfectSub->setEnabled(used);
@@ -186,7 +176,7 @@ void InstallationDWH::loadDisinfection()
     enableDisinfection();
 }
 
-bool InstallationDWH::isDisinfectionOffered(const QString &tankHeaterUse) const
+bool InstallationDWH::isDisinfectionOffered(const QString &tankHeaterUse)
 {
     if (!flag("is_hotwater")) {
         return false;
@@ -198,32 +188,8 @@ bool InstallationDWH::isDisinfectionOffered(const QString &tankHeaterUse) const
         || tankHeaterUse == QLatin1String("ONLY_DISINFECT");
 }
 
-// All values are read before the first is selected: from the heating duration on, a selection runs its slot,
-// which writes back while the section is open.
-void InstallationDWH::setloadJsonValue()
-{
-    std::vector<QJsonValue> stored;
-    for (const ValueRow &row : values) {
-        stored.push_back(parseJsonData(QLatin1String(row.path)));
-    }
-    auto value = stored.cbegin();
-    for (const ValueRow &row : values) {
-        switch (row.shown) {
-        case Shown::Temperature:
-            mainDialog->setComboByValue(row.combo, value->toInt(), MainDialog::Temperature);
-            break;
-        case Shown::Kelvin:
-            mainDialog->setComboByValue(row.combo, value->toInt(), MainDialog::Kelvin);
-            break;
-        case Shown::Key:
-            mainDialog->setComboByKey(row.combo, value->toString());
-            break;
-        default:
-            row.combo->setCurrentIndex(indexOf(value->toInt(), row.offset));
-        }
-        ++value;
-    }
-}
+// From the heating duration on, a selection runs its slot, which writes back while the section is open.
+void InstallationDWH::setloadJsonValue() { loadLists(lists); }
 
 void InstallationDWH::setHotWaterTempRange()
 {
@@ -233,8 +199,8 @@ void InstallationDWH::setHotWaterTempRange()
                                 word(flagPath("isHsModel")),
                                 word(flagPath("isR32")),
                                 word(installation("hotWaterTankHeater.tankHeaterUse"))};
-    fill(ui->comboHotWaterMin, hotwater::lowLimit(words));
-    fill(ui->comboHotWaterMax, hotwater::highLimit(words));
+    offer(ui->comboHotWaterMin, hotwater::lowLimit(words));
+    offer(ui->comboHotWaterMax, hotwater::highLimit(words));
 }
 
 void InstallationDWH::enableDisinfection()
@@ -242,29 +208,10 @@ void InstallationDWH::enableDisinfection()
     ui->groupBoxDisinfectSub->setEnabled(ui->radioDisinfectionUse->isChecked());
 }
 
-const ValueRow &InstallationDWH::rowOf(const QComboBox *combo) const
+void InstallationDWH::chooseDisinfection(const QRadioButton *radio)
 {
-    return *std::find_if(values.cbegin(), values.cend(),
-                         [combo](const ValueRow &each) { return each.combo == combo; });
-}
-
-void InstallationDWH::save(const QComboBox *combo, const QString &item)
-{
-    const ValueRow &list = rowOf(combo);
-    saveJsonData(QLatin1String(list.path), shownValue(list.shown, item));
-    validationCheck();
-}
-
-void InstallationDWH::save(const QComboBox *combo, int index)
-{
-    const ValueRow &list = rowOf(combo);
-    saveJsonData(QLatin1String(list.path), index + list.offset);
-    validationCheck();
-}
-
-void InstallationDWH::choose(const QRadioButton *radio)
-{
-    saveChoice(choices, radio);
+    save(radio);
+    enableDisinfection();
     validationCheck();
 }
 
@@ -272,76 +219,67 @@ void InstallationDWH::on_hideButton_clicked() { toggle(ui->hideButton, ui->frame
 
 void InstallationDWH::on_comboHotWaterMin_currentTextChanged(const QString &text)
 {
-    save(ui->comboHotWaterMin, text);
+    change(ui->comboHotWaterMin, text);
 }
 
 void InstallationDWH::on_comboHotWaterMax_currentTextChanged(const QString &text)
 {
-    save(ui->comboHotWaterMax, text);
+    change(ui->comboHotWaterMax, text);
 }
 
 void InstallationDWH::on_comboTankWaterMin_currentTextChanged(const QString &text)
 {
-    save(ui->comboTankWaterMin, text);
+    change(ui->comboTankWaterMin, text);
 }
 
 void InstallationDWH::on_comboInletWaterMax_currentTextChanged(const QString &text)
 {
-    save(ui->comboInletWaterMax, text);
+    change(ui->comboInletWaterMax, text);
 }
 
 void InstallationDWH::on_comboHeatPump_currentTextChanged(const QString &text)
 {
-    save(ui->comboHeatPump, text);
+    change(ui->comboHeatPump, text);
 }
 
 void InstallationDWH::on_comboTankHeatingHysterisis_currentTextChanged(const QString &text)
 {
-    save(ui->comboTankHeatingHysterisis, text);
+    change(ui->comboTankHeatingHysterisis, text);
 }
 
-void InstallationDWH::on_radioUnderFloorNotUse_clicked() { choose(ui->radioUnderFloorNotUse); }
+void InstallationDWH::on_radioUnderFloorNotUse_clicked() { change(ui->radioUnderFloorNotUse); }
 
-void InstallationDWH::on_radioUnderFloorUse_clicked() { choose(ui->radioUnderFloorUse); }
+void InstallationDWH::on_radioUnderFloorUse_clicked() { change(ui->radioUnderFloorUse); }
 
 void InstallationDWH::on_radioDisinfectionNotUse_clicked()
 {
-    saveChoice(choices, ui->radioDisinfectionNotUse);
-    enableDisinfection();
-    validationCheck();
+    chooseDisinfection(ui->radioDisinfectionNotUse);
 }
 
-void InstallationDWH::on_radioDisinfectionUse_clicked()
-{
-    saveChoice(choices, ui->radioDisinfectionUse);
-    enableDisinfection();
-    validationCheck();
-}
+void InstallationDWH::on_radioDisinfectionUse_clicked() { chooseDisinfection(ui->radioDisinfectionUse); }
 
-void InstallationDWH::on_comboSchedule1_currentIndexChanged(int index) { save(ui->comboSchedule1, index); }
+void InstallationDWH::on_comboSchedule1_currentIndexChanged(int index) { change(ui->comboSchedule1, index); }
 
-void InstallationDWH::on_comboSchedule2_currentIndexChanged(int index) { save(ui->comboSchedule2, index); }
+void InstallationDWH::on_comboSchedule2_currentIndexChanged(int index) { change(ui->comboSchedule2, index); }
 
 void InstallationDWH::on_comboMaxTemp_currentTextChanged(const QString &text)
 {
-    save(ui->comboMaxTemp, text);
+    change(ui->comboMaxTemp, text);
 }
 
 void InstallationDWH::on_comboCutOffDuration_currentIndexChanged(int index)
 {
-    save(ui->comboCutOffDuration, index);
+    change(ui->comboCutOffDuration, index);
 }
 
 void InstallationDWH::on_comboMaxTempDuration_currentIndexChanged(int index)
 {
-    save(ui->comboMaxTempDuration, index);
+    change(ui->comboMaxTempDuration, index);
 }
 
 void InstallationDWH::validationCheck()
 {
-    const bool valid = mainDialog->checkValidationRadio(ui->radioUnderFloorNotUse, ui->radioUnderFloorUse,
-                                                        nullptr)
-        && mainDialog->checkValidationRadio(ui->radioDisinfectionNotUse, ui->radioDisinfectionUse, nullptr);
+    const bool valid = choicesMade();
     // Both messages name other classes and stay so.
     if (valid) {
         qDebug() << "InstallationDWH::SettingUser validation succeed!";
@@ -381,9 +319,6 @@ void InstallationDWH::changeLanguage()
 
 void InstallationDWH::changeLanguageInCombobox()
 {
-    const auto refill = [](QComboBox *combo, const QStringList &items) {
-        mainDialog->refillComboItems(combo, items, combo->currentIndex());
-    };
     refill(ui->comboHeatPump, languageTexts(stepKeys()));
     const QString minutes = mainDialog->languageValue(QStringLiteral("OperationMinute"));
     refill(ui->comboMaxTempDuration, numbered(5, 60, 5, minutes));
@@ -395,10 +330,10 @@ void InstallationDWH::changeLanguageInCombobox()
 
 void InstallationDWH::on_comboHeatingDurationTime_currentIndexChanged(int index)
 {
-    save(ui->comboHeatingDurationTime, index);
+    change(ui->comboHeatingDurationTime, index);
 }
 
 void InstallationDWH::on_comboStopDurationTime_currentIndexChanged(int index)
 {
-    save(ui->comboStopDurationTime, index);
+    change(ui->comboStopDurationTime, index);
 }

@@ -52,7 +52,7 @@ private slots:
     void on_comboMaxTemp_currentTextChanged(const QString &text);
     void on_comboCutOffDuration_currentIndexChanged(int index);
     void on_comboMaxTempDuration_currentIndexChanged(int index);
-    void validationCheck();
+    void validationCheck() override;
 
 public slots:
     /// Sets the section's texts from the language in force.
@@ -69,14 +69,8 @@ private:
     void loadTimer();
     void loadTankHeating();
     void loadDisinfection();
-    bool isDisinfectionOffered(const QString &tankHeaterUse) const;
-    const ValueRow &rowOf(const QComboBox *combo) const;
-    /// Saves what the item of that text or index stands for, and checks.
-    void save(const QComboBox *combo, const QString &item);
-    void save(const QComboBox *combo, int index);
-    void choose(const QRadioButton *radio);
+    static bool isDisinfectionOffered(const QString &tankHeaterUse);
+    void chooseDisinfection(const QRadioButton *radio);
 
     std::unique_ptr<Ui::InstallationDWH> ui;
-    std::vector<ValueRow> values;
-    std::vector<ChoiceRow> choices;
 };

@@ -52,7 +52,7 @@ private slots:
     void on_radioOpt2_clicked();
     void on_radioCombinationNotuse_clicked();
     void on_radioCombinationUse_clicked();
-    void validationCheck();
+    void validationCheck() override;
 
 private:
     void saveJsonData(const QString &path, const QJsonValue &value) override;

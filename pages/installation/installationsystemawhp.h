@@ -80,6 +80,7 @@ private slots:
     void on_comboHeatingPriority_currentIndexChanged(int index);
 
 private:
+    void validationCheck() override { validataionCheck(); }
     void choose(const QAbstractButton *button);
     /// Saves a value of the installation settings, and checks.
     void save(const char *key, const QJsonValue &value);

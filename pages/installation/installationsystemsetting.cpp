@@ -109,10 +109,7 @@ void InstallationSystemSetting::on_hideButton_clicked() { toggle(ui->hideButton,
 
 void InstallationSystemSetting::setTempValue(QComboBox *comboBox, int value)
 {
-    const QString unit = mainDialog->isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
-    comboBox->blockSignals(true);
-    comboBox->setCurrentIndex(comboBox->findText(QString::number(value) + unit));
-    comboBox->blockSignals(false);
+    selectTemperature(comboBox, value);
 }
 
 void InstallationSystemSetting::choose(const QAbstractButton *button)

@@ -55,7 +55,7 @@ private slots:
     void on_comboCnEXT_currentIndexChanged(int index);
     void on_comboCentral_currentTextChanged(const QString &text);
     void on_comboModbus_currentTextChanged(const QString &text);
-    void validationCheck();
+    void validationCheck() override;
     void validationCheckByProductType(bool isChecked, const QString &type);
 
 public slots:

@@ -47,11 +47,6 @@ void WaterSection::showOrHide(std::initializer_list<QWidget *> widgets, bool sho
     }
 }
 
-void WaterSection::offer(QComboBox *combo, Range range)
-{
-    mainDialog->setRangeValueInComboBox(combo, range.low, range.high, MainDialog::Temperature, 1);
-}
-
 bool WaterSection::twoCircuits() { return isSet(installation("circuitMainZone.enableMainZone")); }
 
 waterranges::Circuits WaterSection::circuits() const
@@ -88,9 +83,9 @@ void WaterSection::applyWaterLimits(Range low, Range high)
 
 void WaterSection::offerConstants(const waterranges::Constants &stored)
 {
-    const waterranges::ConstantLists lists = waterranges::lists(stored, waterLimits(), circuits());
-    offer(controls.constant, lists.other);
-    offer(controls.mainZone, lists.mainZone);
+    const waterranges::ConstantLists offered = waterranges::lists(stored, waterLimits(), circuits());
+    offer(controls.constant, offered.other);
+    offer(controls.mainZone, offered.mainZone);
 }
 
 void WaterSection::showTemperatureControl()
@@ -168,8 +163,7 @@ void WaterSection::enableTimers()
 
 void WaterSection::saveTemperature(const QString &path, const QString &shown)
 {
-    const int value = mainDialog->textWithoutTwoChars(shown);
-    saveJsonData(path, mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(value) : value);
+    saveJsonData(path, shownValue(Shown::Temperature, shown));
 }
 
 void WaterSection::saveControlBasis(const QString &shown)

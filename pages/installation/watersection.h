@@ -42,7 +42,6 @@ protected:
         QString path;
     };
 
-    virtual void validationCheck() = 0;
     /// Tells the auto mode section, whose lists follow the water basis and the limits.
     virtual void announceChange() = 0;
 
@@ -59,7 +58,6 @@ protected:
     /// Shows what is stored: the temperatures quietly, all else with the signals live.
     void showStored(const std::vector<TemperatureRow> &temperatures);
     static void showOrHide(std::initializer_list<QWidget *> widgets, bool shown);
-    static void offer(QComboBox *combo, Range range);
     static bool twoCircuits();
 
     // Changes by the user; `shown` is the text of an item

@@ -1,23 +1,27 @@
 #include "pages/operation/settingfunction.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_settingfunction.h"
 
 #include <QDebug>
 
+/// Where a time of day is kept: twelve hours, and which half of the day.
+struct SettingFunction::Clock {
+    const char *hour;
+    const char *ampm;
+    const char *minute;
+};
+
+const SettingFunction::Clock SettingFunction::start{"SettingInfo.func.silentTimer.start.hour",
+                                                    "SettingInfo.func.silentTimer.start.ampm",
+                                                    "SettingInfo.func.silentTimer.start.min"};
+const SettingFunction::Clock SettingFunction::end{"SettingInfo.func.silentTimer.end.hour",
+                                                  "SettingInfo.func.silentTimer.end.ampm",
+                                                  "SettingInfo.func.silentTimer.end.min"};
+
 namespace {
-
-constexpr const char *silentSet = "SettingInfo.func.silentTimer.set";
-constexpr const char *allLock = "SettingInfo.func.lock.buttonLock";
-constexpr const char *onOffLock = "SettingInfo.func.lock.onoffLock";
-constexpr const char *modeLock = "SettingInfo.func.lock.modelock";
-constexpr const char *hotWaterLock = "SettingInfo.func.lock.hotwaterOnOfflock";
-constexpr const char *defrostMode = "SettingInfo.func.installDefrostMode";
-
-QString startClock() { return QStringLiteral("SettingInfo.func.silentTimer.start"); }
-
-QString endClock() { return QStringLiteral("SettingInfo.func.silentTimer.end"); }
 
 QStringList twoDigits(int last)
 {
@@ -55,6 +59,17 @@ SettingFunction::SettingFunction(QWidget *parent)
     , ui(std::make_unique<Ui::SettingFunction>())
 {
     ui->setupUi(this);
+    choices = {{"SettingInfo.func.silentTimer.set",
+                {{ui->radioSlientModeNotuse, "CLR"}, {ui->radioSlientModeUse, "SET"}}},
+               {"SettingInfo.func.lock.buttonLock",
+                {{ui->radioAllButtonNone, "CLR"}, {ui->radioAllButtonUse, "SET"}}},
+               {"SettingInfo.func.lock.onoffLock",
+                {{ui->radioOnOffButtonNone, "CLR"}, {ui->radioOnOffButtonUse, "SET"}}},
+               {"SettingInfo.func.lock.modelock",
+                {{ui->radioOperationModeButtonNone, "CLR"}, {ui->radioOperationModeButtonUse, "SET"}}},
+               {"SettingInfo.func.lock.hotwaterOnOfflock",
+                {{ui->radioDhwOnOffNone, "CLR"}, {ui->radioDhwOnOffUse, "SET"}}}};
+    lists = {{ui->comboDefrostMode, "SettingInfo.func.installDefrostMode", Shown::Key}};
     initUi();
 }
 
@@ -90,60 +105,45 @@ QJsonValue SettingFunction::parseJsonData(const QString &path) { return read(pat
 
 void SettingFunction::loadJsonData()
 {
-    const QString silent = word(QLatin1String(silentSet));
-    const QString all = word(QLatin1String(allLock));
-    const QString hotWater = word(QLatin1String(hotWaterLock));
-    const QString mode = word(QLatin1String(modeLock));
-    const QString onOff = word(QLatin1String(onOffLock));
-    const bool hasSilentMode = word(flagPath("isSilentDisable")) == QLatin1String("CLR");
-    const bool hasPriority = flag("isSilentPriority");
-    const bool isMaster = word(installation("OduFunctionMS")) == QLatin1String("MASTER");
-    const bool remoteHasPriority = word(installation("silentModePriority")) == QLatin1String("RMCSETTING");
+    const bool hasSilentMode = word("IduFuncList.isSilentDisable") == QLatin1String("CLR");
+    const bool isMaster = word(paths::oduFunction) == QLatin1String("MASTER");
+    const bool remoteHasPriority = isSet(flags::silentPriority)
+        && word(paths::silentPriority) == QLatin1String("RMCSETTING");
 
-    open(ui->groupBoxSilentMode, hasSilentMode || (hasPriority && isMaster && remoteHasPriority));
-    checkPair(silent, {ui->radioSlientModeNotuse, "CLR", ui->radioSlientModeUse, "SET"});
-    ui->groupBoxDHWOnOff->setVisible(flag("is_hotwater"));
-    loadLocks(all, onOff, mode, hotWater);
-    loadDefrostMode(isMaster);
+    open(ui->groupBoxSilentMode, hasSilentMode || (isMaster && remoteHasPriority));
+    loadChoice(ui->radioSlientModeUse);
+    ui->groupBoxDHWOnOff->setVisible(isSet(flags::hotWater));
+    loadLocks();
+    const bool hasDefrostMode = isSet("IduFuncList.isDefrostMode") && isMaster;
+    open(ui->groupBoxOdeFunction, hasDefrostMode);
+    if (hasDefrostMode) {
+        loadLists(lists);
+    }
     enableSilentMode();
 }
 
 // Whatever isn't "CLR" counts as locked. All lock leaves the radios of the other locks as they are.
-void SettingFunction::loadLocks(const QString &all, const QString &onOff, const QString &mode,
-                                const QString &hotWater)
+void SettingFunction::loadLocks()
 {
-    const QLatin1String released("CLR");
-    allButtonLock(all != released);
-    if (all != released) {
-        return;
-    }
-    checkLock(ui->radioOnOffButtonNone, ui->radioOnOffButtonUse, onOff != released);
-    checkLock(ui->radioOperationModeButtonNone, ui->radioOperationModeButtonUse, mode != released);
-    checkLock(ui->radioDhwOnOffNone, ui->radioDhwOnOffUse, hotWater != released);
-}
-
-void SettingFunction::loadDefrostMode(bool isMaster)
-{
-    const bool hasDefrostMode = flag("isDefrostMode");
-    const QString step = text(QLatin1String(defrostMode));
-    open(ui->groupBoxOdeFunction, hasDefrostMode && isMaster);
-    if (hasDefrostMode && isMaster) {
-        mainDialog->setComboByKey(ui->comboDefrostMode, step);
+    const auto isLocked = [this](const QRadioButton *lock) {
+        return word(choiceOf(lock).path) != QLatin1String("CLR");
+    };
+    const bool all = isLocked(ui->radioAllButtonUse);
+    allButtonLock(all);
+    if (!all) {
+        onoffButtonLock(isLocked(ui->radioOnOffButtonUse));
+        modeButtonLock(isLocked(ui->radioOperationModeButtonUse));
+        hotWaterButtonLock(isLocked(ui->radioDhwOnOffUse));
     }
 }
 
 // Everything is read before the first selection, whose slot writes.
 void SettingFunction::setloadJsonValue()
 {
-    const auto readHour = [](const QString &clock) {
-        const QString ampm = word(clock + QStringLiteral(".ampm"));
-        return hourOfDay(number(clock + QStringLiteral(".hour")), ampm);
-    };
-    const auto readMinute = [](const QString &clock) { return number(clock + QStringLiteral(".min")); };
-    const int startHour = readHour(startClock());
-    const int startMinute = readMinute(startClock());
-    const int endHour = readHour(endClock());
-    const int endMinute = readMinute(endClock());
+    const int startHour = hourOfDay(number(start.hour), word(start.ampm));
+    const int startMinute = number(start.minute);
+    const int endHour = hourOfDay(number(end.hour), word(end.ampm));
+    const int endMinute = number(end.minute);
 
     const auto select = [this](QComboBox *combo, int value) {
         mainDialog->setComboByKey(combo, value < 0 ? QString() : convertTimeValueByJson(value));
@@ -217,14 +217,7 @@ void SettingFunction::hotWaterButtonLock(bool isLock)
 
 void SettingFunction::validationCheck()
 {
-    const auto chosen = [](const QRadioButton *first, const QRadioButton *second) {
-        return mainDialog->checkValidationRadio(first, second, nullptr);
-    };
-    const bool valid = chosen(ui->radioSlientModeNotuse, ui->radioSlientModeUse)
-        && chosen(ui->radioAllButtonNone, ui->radioAllButtonUse)
-        && chosen(ui->radioOnOffButtonNone, ui->radioOnOffButtonUse)
-        && chosen(ui->radioOperationModeButtonNone, ui->radioOperationModeButtonUse)
-        && chosen(ui->radioDhwOnOffNone, ui->radioDhwOnOffUse);
+    const bool valid = choicesMade();
     if (valid) {
         qDebug() << "SettingFunction::validationCheck succeed!";
     } else {
@@ -260,59 +253,30 @@ void SettingFunction::changeLanguage()
 
 void SettingFunction::changeLanguageInCombobox()
 {
-    mainDialog->refillComboItems(ui->comboDefrostMode, languageTexts({"STEP0", "STEP1", "STEP2", "STEP3"}),
-                                 ui->comboDefrostMode->currentIndex());
+    refill(ui->comboDefrostMode, languageTexts({"STEP0", "STEP1", "STEP2", "STEP3"}));
 }
 
-void SettingFunction::choose(const QAbstractButton *button)
+void SettingFunction::chooseSilentMode(const QRadioButton *radio)
 {
-    saveChoice({{ui->radioSlientModeNotuse, silentSet, "CLR"},
-                {ui->radioSlientModeUse, silentSet, "SET"},
-                {ui->radioAllButtonNone, allLock, "CLR"},
-                {ui->radioAllButtonUse, allLock, "SET"},
-                {ui->radioOnOffButtonNone, onOffLock, "CLR"},
-                {ui->radioOnOffButtonUse, onOffLock, "SET"},
-                {ui->radioOperationModeButtonNone, modeLock, "CLR"},
-                {ui->radioOperationModeButtonUse, modeLock, "SET"},
-                {ui->radioDhwOnOffNone, hotWaterLock, "CLR"},
-                {ui->radioDhwOnOffUse, hotWaterLock, "SET"}},
-               button);
-}
-
-void SettingFunction::chooseSilentMode(const QAbstractButton *button)
-{
-    choose(button);
+    save(radio);
     enableSilentMode();
     validationCheck();
 }
 
-void SettingFunction::chooseAllLock(const QAbstractButton *button)
+void SettingFunction::chooseAllLock(const QRadioButton *radio)
 {
-    choose(button);
+    save(radio);
     allButtonLock(ui->radioAllButtonUse->isChecked());
     validationCheck();
 }
 
-void SettingFunction::chooseLock(const QAbstractButton *button)
-{
-    choose(button);
-    validationCheck();
-}
-
 // The lists show 24 hours, the document counts twelve. Noon becomes AM 12 and midnight AM 0.
-void SettingFunction::saveHour(const QString &clock, const QString &text)
+void SettingFunction::saveHour(const Clock &clock, const QString &text)
 {
     const int hour = text.toInt();
     const bool afternoon = hour >= 13;
-    saveJsonData(clock + QStringLiteral(".hour"), afternoon ? hour - 12 : hour);
-    saveJsonData(clock + QStringLiteral(".ampm"), afternoon ? QStringLiteral("PM") : QStringLiteral("AM"));
-    validationCheck();
-}
-
-void SettingFunction::saveMinute(const QString &clock, const QString &text)
-{
-    saveJsonData(clock + QStringLiteral(".min"), text.toInt());
-    validationCheck();
+    save(clock.hour, afternoon ? hour - 12 : hour);
+    change(clock.ampm, afternoon ? "PM" : "AM");
 }
 
 void SettingFunction::on_radioSlientModeNotuse_clicked() { chooseSilentMode(ui->radioSlientModeNotuse); }
@@ -321,52 +285,42 @@ void SettingFunction::on_radioSlientModeUse_clicked() { chooseSilentMode(ui->rad
 
 void SettingFunction::on_comboSilentStartHour_currentTextChanged(const QString &text)
 {
-    saveHour(startClock(), text);
+    saveHour(start, text);
 }
 
 void SettingFunction::on_comboSilentStartMin_currentTextChanged(const QString &text)
 {
-    saveMinute(startClock(), text);
+    change(start.minute, text.toInt());
 }
 
-void SettingFunction::on_comboSilentEndHour_currentTextChanged(const QString &text)
-{
-    saveHour(endClock(), text);
-}
+void SettingFunction::on_comboSilentEndHour_currentTextChanged(const QString &text) { saveHour(end, text); }
 
 void SettingFunction::on_comboSilentEndMin_currentTextChanged(const QString &text)
 {
-    saveMinute(endClock(), text);
+    change(end.minute, text.toInt());
 }
 
 void SettingFunction::on_radioAllButtonNone_clicked() { chooseAllLock(ui->radioAllButtonNone); }
 
 void SettingFunction::on_radioAllButtonUse_clicked() { chooseAllLock(ui->radioAllButtonUse); }
 
-void SettingFunction::on_radioOnOffButtonNone_clicked() { chooseLock(ui->radioOnOffButtonNone); }
+void SettingFunction::on_radioOnOffButtonNone_clicked() { change(ui->radioOnOffButtonNone); }
 
 void SettingFunction::on_radioOnOffButtonUse_clicked()
 {
     qDebug() << "SettingFunction::on_radioOnOffButtonUse_clicked";
-    chooseLock(ui->radioOnOffButtonUse);
+    change(ui->radioOnOffButtonUse);
 }
 
-void SettingFunction::on_radioOperationModeButtonNone_clicked()
-{
-    chooseLock(ui->radioOperationModeButtonNone);
-}
+void SettingFunction::on_radioOperationModeButtonNone_clicked() { change(ui->radioOperationModeButtonNone); }
 
-void SettingFunction::on_radioOperationModeButtonUse_clicked()
-{
-    chooseLock(ui->radioOperationModeButtonUse);
-}
+void SettingFunction::on_radioOperationModeButtonUse_clicked() { change(ui->radioOperationModeButtonUse); }
 
-void SettingFunction::on_radioDhwOnOffNone_clicked() { chooseLock(ui->radioDhwOnOffNone); }
+void SettingFunction::on_radioDhwOnOffNone_clicked() { change(ui->radioDhwOnOffNone); }
 
-void SettingFunction::on_radioDhwOnOffUse_clicked() { chooseLock(ui->radioDhwOnOffUse); }
+void SettingFunction::on_radioDhwOnOffUse_clicked() { change(ui->radioDhwOnOffUse); }
 
 void SettingFunction::on_comboDefrostMode_currentTextChanged(const QString &text)
 {
-    saveJsonData(QLatin1String(defrostMode), mainDialog->languageKeyOrText(text));
-    validationCheck();
+    change(ui->comboDefrostMode, text);
 }

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-class QAbstractButton;
 namespace Ui {
 class SettingFunction;
 }
@@ -39,7 +38,7 @@ private slots:
     void onoffButtonLock(bool isLock);
     void modeButtonLock(bool isLock);
     void hotWaterButtonLock(bool isLock);
-    void validationCheck();
+    void validationCheck() override;
 
 public slots:
     /// Sets the page's texts from the language in force.
@@ -64,14 +63,14 @@ private slots:
     void on_comboDefrostMode_currentTextChanged(const QString &text);
 
 private:
-    void loadLocks(const QString &all, const QString &onOff, const QString &mode, const QString &hotWater);
-    void loadDefrostMode(bool isMaster);
-    void choose(const QAbstractButton *button);
-    void chooseSilentMode(const QAbstractButton *button);
-    void chooseAllLock(const QAbstractButton *button);
-    void chooseLock(const QAbstractButton *button);
-    void saveHour(const QString &clock, const QString &text);
-    void saveMinute(const QString &clock, const QString &text);
+    struct Clock;
+    static const Clock start;
+    static const Clock end;
+
+    void loadLocks();
+    void chooseSilentMode(const QRadioButton *radio);
+    void chooseAllLock(const QRadioButton *radio);
+    void saveHour(const Clock &clock, const QString &text);
 
     std::unique_ptr<Ui::SettingFunction> ui;
 };

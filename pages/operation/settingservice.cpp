@@ -7,9 +7,16 @@
 
 namespace {
 
-QString contact(const char *key)
+constexpr const char *company = "SettingInfo.svc.svcContact.company";
+constexpr const char *installer = "SettingInfo.svc.svcContact.installerName";
+constexpr const char *telephone = "SettingInfo.svc.svcContact.phoneNumber";
+
+/// An empty value leaves its line edit as it is.
+void showIfAny(QLineEdit *lineEdit, const QString &stored)
 {
-    return QStringLiteral("SettingInfo.svc.svcContact.") + QLatin1String(key);
+    if (!stored.isEmpty()) {
+        lineEdit->setText(stored);
+    }
 }
 
 } // namespace
@@ -45,21 +52,11 @@ void SettingService::saveJsonData(const QString &path, const QJsonValue &value) 
 
 QJsonValue SettingService::parseJsonData(const QString &path) { return read(path); }
 
-// An empty value leaves its line edit as it is.
 void SettingService::loadJsonData()
 {
-    const QString company = text(contact("company"));
-    const QString installer = text(contact("installerName"));
-    const QString telephone = text(contact("phoneNumber"));
-    if (!company.isEmpty()) {
-        ui->lineEditOfficeName->setText(company);
-    }
-    if (!installer.isEmpty()) {
-        ui->lineEditInstallerName->setText(installer);
-    }
-    if (!telephone.isEmpty()) {
-        ui->lineEditTelephone->setText(telephone);
-    }
+    showIfAny(ui->lineEditOfficeName, text(company));
+    showIfAny(ui->lineEditInstallerName, text(installer));
+    showIfAny(ui->lineEditTelephone, text(telephone));
 }
 
 void SettingService::validataionCheck() { mainDialog->setSettingTabValid(true, MainDialog::ServiceTab); }
@@ -67,17 +64,17 @@ void SettingService::validataionCheck() { mainDialog->setSettingTabValid(true, M
 // The company alone falls back to "-".
 void SettingService::on_lineEditOfficeName_textChanged(const QString &arg1)
 {
-    saveJsonData(contact("company"), arg1.isEmpty() ? QStringLiteral("-") : ui->lineEditOfficeName->text());
+    save(company, arg1.isEmpty() ? QStringLiteral("-") : ui->lineEditOfficeName->text());
 }
 
 void SettingService::on_lineEditInstallerName_textChanged(const QString & /*arg1*/)
 {
-    saveJsonData(contact("installerName"), ui->lineEditInstallerName->text());
+    save(installer, ui->lineEditInstallerName->text());
 }
 
 void SettingService::on_lineEditTelephone_textChanged(const QString & /*arg1*/)
 {
-    saveJsonData(contact("phoneNumber"), ui->lineEditTelephone->text());
+    save(telephone, ui->lineEditTelephone->text());
 }
 
 void SettingService::changeLanguage()

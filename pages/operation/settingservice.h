@@ -36,5 +36,7 @@ private slots:
     void on_lineEditTelephone_textChanged(const QString &arg1);
 
 private:
+    void validationCheck() override { validataionCheck(); }
+
     std::unique_ptr<Ui::SettingService> ui;
 };

@@ -6,18 +6,24 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
+/// An end of summer time: where its month and its day are kept, and their lists.
+struct SettingUser::SummerDate {
+    const char *monthPath;
+    const char *dayPath;
+    QComboBox *month;
+    QComboBox *day;
+};
+
 namespace {
 
 constexpr int unset = -9999;
-constexpr const char *tempConversion = "SettingInfo.user.tempUnit.tempConversion";
-constexpr const char *summerTime = "SettingInfo.user.summerTime.enable";
-constexpr const char *themeSet = "SettingInfo.user.themeSet";
-
-QString user(const char *key) { return QStringLiteral("SettingInfo.user.") + QLatin1String(key); }
-
-QString summerStart() { return user("summerTime.start"); }
-
-QString summerEnd() { return user("summerTime.end"); }
+constexpr const char *dateYear = "SettingInfo.user.DateInfo.year";
+constexpr const char *dateMonth = "SettingInfo.user.DateInfo.month";
+constexpr const char *dateDay = "SettingInfo.user.DateInfo.mday";
+constexpr const char *brightness = "SettingInfo.user.backlightControl.brightness";
+constexpr const char *dimmTime = "SettingInfo.user.backlightControl.dimmTimeSet";
 
 // February has 28 days in any year.
 int daysOf(int month)
@@ -52,15 +58,8 @@ QStringList days(const QComboBox *month)
     return choices("UserDay", 1, daysOf(month->currentText().toInt()));
 }
 
-void fill(QComboBox *combo, const QStringList &items) { mainDialog->setComboItems(combo, items, -1); }
-
-void refill(QComboBox *combo, const QStringList &items)
-{
-    mainDialog->refillComboItems(combo, items, combo->currentIndex());
-}
-
 // What isn't listed shows nothing, and the slot writes what it makes of that.
-void select(QComboBox *combo, const QString &text)
+void selectText(QComboBox *combo, const QString &text)
 {
     combo->setCurrentIndex(combo->findText(text, Qt::MatchFixedString));
 }
@@ -70,7 +69,7 @@ void selectNumber(QComboBox *combo, int value)
     if (value == unset) {
         combo->setCurrentIndex(0);
     } else {
-        select(combo, QString::number(value));
+        selectText(combo, QString::number(value));
     }
 }
 
@@ -81,6 +80,11 @@ SettingUser::SettingUser(QWidget *parent)
     , ui(std::make_unique<Ui::SettingUser>())
 {
     ui->setupUi(this);
+    choices = {{"SettingInfo.user.tempUnit.tempConversion",
+                {{ui->radioCelicious, "CENTIGRADE"}, {ui->radioFahreheit, "FAHRENHEIT"}}},
+               {"SettingInfo.user.summerTime.enable",
+                {{ui->radioSummerTimeNotuse, "CLR"}, {ui->radioSummerTimeUse, "SET"}}},
+               {"SettingInfo.user.themeSet", {{ui->radioWhite, "white"}, {ui->radioBlack, "black"}}}};
     initUi();
 }
 
@@ -128,73 +132,68 @@ QJsonValue SettingUser::parseJsonData(const QString &path) { return read(path); 
 
 void SettingUser::loadJsonData()
 {
-    const QString unit = word(QLatin1String(tempConversion));
-    const QString brightness = word(user("backlightControl.brightness"));
-    const QString timer = word(user("backlightControl.dimmTimeSet"));
-    const bool hasSummerTime = isSet(QLatin1String(summerTime));
-    const QString theme = word(QLatin1String(themeSet));
-
-    checkPair(unit, {ui->radioCelicious, "CENTIGRADE", ui->radioFahreheit, "FAHRENHEIT"});
-    loadBacklight(brightness, timer);
+    loadChoice(ui->radioCelicious);
+    loadBacklight();
+    const bool hasSummerTime = isSet(choiceOf(ui->radioSummerTimeUse).path);
     (hasSummerTime ? ui->radioSummerTimeUse : ui->radioSummerTimeNotuse)->setChecked(true);
-    loadTheme(theme);
+    // An unknown theme leaves the radios as they are.
+    checkStored(ui->radioWhite);
     enableSummerTime();
 }
 
-void SettingUser::loadBacklight(const QString &brightness, const QString &timer)
+// Both are read before the first selection, whose slot writes.
+void SettingUser::loadBacklight()
 {
-    if (!brightness.isEmpty()) {
-        QString percent = brightness;
-        select(ui->comboBrightness, percent.remove(QStringLiteral("BRIGHTNESS")) + QLatin1Char('%'));
+    QString percent = word(brightness);
+    QString seconds = word(dimmTime);
+    if (!percent.isEmpty()) {
+        selectText(ui->comboBrightness, percent.remove(QStringLiteral("BRIGHTNESS")) + QLatin1Char('%'));
     }
-    if (!timer.isEmpty()) {
-        QString seconds = timer;
+    if (!seconds.isEmpty()) {
         seconds.remove(QStringLiteral("BACKLIGHT")).remove(QLatin1Char('S'));
-        select(ui->comboScreenSaverTimer,
-               seconds + mainDialog->languageValue(QStringLiteral("OperationSecond")));
-    }
-}
-
-// An unknown theme leaves the radios as they are.
-void SettingUser::loadTheme(const QString &theme)
-{
-    if (theme == QLatin1String("WHITE")) {
-        ui->radioWhite->setChecked(true);
-    } else if (theme == QLatin1String("BLACK")) {
-        ui->radioBlack->setChecked(true);
+        selectText(ui->comboScreenSaverTimer,
+                   seconds + mainDialog->languageValue(QStringLiteral("OperationSecond")));
     }
 }
 
 void SettingUser::setLoadJsonValue()
 {
     loadDate();
-    loadSummerDates();
+    loadSummerDate(summerStart());
+    loadSummerDate(summerEnd());
 }
 
 // The month's slot fills the days when the month changes.
 void SettingUser::loadDate()
 {
-    const int day = number(user("DateInfo.mday"));
-    const int month = number(user("DateInfo.month"));
-    const int year = number(user("DateInfo.year"));
+    const int day = number(dateDay);
+    const int month = number(dateMonth);
+    const int year = number(dateYear);
     selectNumber(ui->comboDateYear, year);
     selectNumber(ui->comboDateMonth, month);
     ui->comboDateDay->setEnabled(month != unset);
     selectNumber(ui->comboDateDay, day);
 }
 
-void SettingUser::loadSummerDates()
+SettingUser::SummerDate SettingUser::summerStart() const
 {
-    const int endDay = number(summerEnd() + QStringLiteral(".day"));
-    const int endMonth = number(summerEnd() + QStringLiteral(".mon"));
-    const int startDay = number(summerStart() + QStringLiteral(".day"));
-    const int startMonth = number(summerStart() + QStringLiteral(".mon"));
-    mainDialog->setComboByKey(ui->comboStartMonth, QString::number(startMonth));
-    calcDay(ui->comboStartMonth, ui->comboStartDay);
-    mainDialog->setComboByKey(ui->comboStartDay, QString::number(startDay));
-    mainDialog->setComboByKey(ui->comboEndMonth, QString::number(endMonth));
-    calcDay(ui->comboEndMonth, ui->comboEndDay);
-    mainDialog->setComboByKey(ui->comboEndDay, QString::number(endDay));
+    return {"SettingInfo.user.summerTime.start.mon", "SettingInfo.user.summerTime.start.day",
+            ui->comboStartMonth, ui->comboStartDay};
+}
+
+SettingUser::SummerDate SettingUser::summerEnd() const
+{
+    return {"SettingInfo.user.summerTime.end.mon", "SettingInfo.user.summerTime.end.day", ui->comboEndMonth,
+            ui->comboEndDay};
+}
+
+void SettingUser::loadSummerDate(const SummerDate &date)
+{
+    const int month = number(date.monthPath);
+    const int day = number(date.dayPath);
+    mainDialog->setComboByKey(date.month, QString::number(month));
+    calcDay(date.month, date.day);
+    mainDialog->setComboByKey(date.day, QString::number(day));
 }
 
 QString SettingUser::setOpacity(bool isEnabled) { return style::labelText(isEnabled); }
@@ -215,15 +214,12 @@ void SettingUser::calcDayInlanguage(QComboBox *Month, QComboBox *Date) { refill(
 
 void SettingUser::validationCheck()
 {
-    const auto radios = [](const QRadioButton *first, const QRadioButton *second) {
-        return mainDialog->checkValidationRadio(first, second, nullptr);
-    };
-    const auto combo = [](const QComboBox *each) { return mainDialog->checkValidationComboBox(each); };
-    const bool valid = radios(ui->radioCelicious, ui->radioFahreheit)
-        && radios(ui->radioSummerTimeNotuse, ui->radioSummerTimeUse) && radios(ui->radioWhite, ui->radioBlack)
-        && combo(ui->comboDateYear) && combo(ui->comboDateMonth) && combo(ui->comboEndMonth)
-        && combo(ui->comboStartMonth) && combo(ui->comboDateDay) && combo(ui->comboEndDay)
-        && combo(ui->comboStartDay);
+    const std::vector<const QComboBox *> dates{ui->comboDateYear,   ui->comboDateMonth, ui->comboEndMonth,
+                                               ui->comboStartMonth, ui->comboDateDay,   ui->comboEndDay,
+                                               ui->comboStartDay};
+    const bool valid = choicesMade() && std::all_of(dates.begin(), dates.end(), [](const QComboBox *date) {
+                           return mainDialog->checkValidationComboBox(date);
+                       });
     if (valid) {
         qDebug() << "SettingUser::SettingUser validation succeed!";
     } else {
@@ -265,41 +261,28 @@ void SettingUser::changeLanguageInCombobox()
     calcDayInlanguage(ui->comboEndMonth, ui->comboEndDay);
 }
 
-void SettingUser::choose(const QAbstractButton *button)
-{
-    saveChoice({{ui->radioCelicious, tempConversion, "CENTIGRADE"},
-                {ui->radioFahreheit, tempConversion, "FAHRENHEIT"},
-                {ui->radioSummerTimeNotuse, summerTime, "CLR"},
-                {ui->radioSummerTimeUse, summerTime, "SET"},
-                {ui->radioWhite, themeSet, "white"},
-                {ui->radioBlack, themeSet, "black"}},
-               button);
-}
-
 // The unit drives the tool's own display as well.
-void SettingUser::chooseUnit(const QAbstractButton *button, const QString &unit)
+void SettingUser::chooseUnit(const QRadioButton *radio, const QString &unit)
 {
-    choose(button);
+    save(radio);
     mainDialog->setTempUnit(unit);
     validationCheck();
 }
 
-void SettingUser::saveNumber(const QString &path, const QString &text, const char *unsetKey)
+void SettingUser::saveNumber(const char *path, const QString &text, const char *unsetKey)
 {
-    saveJsonData(path, text == mainDialog->languageValue(QLatin1String(unsetKey)) ? unset : text.toInt());
-    validationCheck();
+    change(path, text == mainDialog->languageValue(QLatin1String(unsetKey)) ? unset : text.toInt());
 }
 
 // Unlike that of the date, the day stays enabled without a month, and the month is written all the same.
-void SettingUser::saveSummerMonth(const QString &date, const QString &text, QComboBox *month, QComboBox *day)
+void SettingUser::saveSummerMonth(const SummerDate &date, const QString &text)
 {
     const bool isUnset = text == mainDialog->languageValue(QStringLiteral("Month"));
     if (isUnset) {
-        saveJsonData(date + QStringLiteral(".day"), unset);
+        save(date.dayPath, unset);
     }
-    calcDay(month, day);
-    saveJsonData(date + QStringLiteral(".mon"), isUnset ? unset : text.toInt());
-    validationCheck();
+    calcDay(date.month, date.day);
+    change(date.monthPath, isUnset ? unset : text.toInt());
 }
 
 void SettingUser::on_radioCelicious_clicked()
@@ -316,22 +299,17 @@ void SettingUser::on_comboScreenSaverTimer_currentTextChanged(const QString &tex
 {
     QString seconds = text;
     seconds.remove(mainDialog->languageValue(QStringLiteral("OperationSecond")));
-    saveJsonData(user("backlightControl.dimmTimeSet"),
-                 QStringLiteral("BACKLIGHT") + seconds + QLatin1Char('S'));
-    validationCheck();
+    change(dimmTime, QStringLiteral("BACKLIGHT") + seconds + QLatin1Char('S'));
 }
 
 void SettingUser::on_comboBrightness_currentTextChanged(const QString &text)
 {
-    QString percent = text;
-    percent.remove(QLatin1Char('%'));
-    saveJsonData(user("backlightControl.brightness"), QStringLiteral("BRIGHTNESS") + percent);
-    validationCheck();
+    change(brightness, QStringLiteral("BRIGHTNESS") + QString(text).remove(QLatin1Char('%')));
 }
 
 void SettingUser::on_comboDateYear_currentTextChanged(const QString &text)
 {
-    saveNumber(user("DateInfo.year"), text, "Year");
+    saveNumber(dateYear, text, "Year");
 }
 
 // Without a month the day is lost but the month's old number stays in the document.
@@ -339,23 +317,23 @@ void SettingUser::on_comboDateMonth_currentTextChanged(const QString &text)
 {
     if (text == mainDialog->languageValue(QStringLiteral("Month"))) {
         ui->comboDateDay->setEnabled(false);
-        saveJsonData(user("DateInfo.mday"), unset);
+        save(dateDay, unset);
     } else {
         ui->comboDateDay->setEnabled(true);
         calcDay(ui->comboDateMonth, ui->comboDateDay);
-        saveJsonData(user("DateInfo.month"), text.toInt());
+        save(dateMonth, text.toInt());
     }
     validationCheck();
 }
 
 void SettingUser::on_comboDateDay_currentTextChanged(const QString &text)
 {
-    saveNumber(user("DateInfo.mday"), text, "UserDay");
+    saveNumber(dateDay, text, "UserDay");
 }
 
 void SettingUser::on_radioSummerTimeNotuse_clicked()
 {
-    choose(ui->radioSummerTimeNotuse);
+    save(ui->radioSummerTimeNotuse);
     enableSummerTime();
     validationCheck();
 }
@@ -363,38 +341,30 @@ void SettingUser::on_radioSummerTimeNotuse_clicked()
 // Without a check: the tab's mark waits for the next change or showing.
 void SettingUser::on_radioSummerTimeUse_clicked()
 {
-    choose(ui->radioSummerTimeUse);
+    save(ui->radioSummerTimeUse);
     enableSummerTime();
 }
 
 void SettingUser::on_comboStartMonth_currentTextChanged(const QString &text)
 {
-    saveSummerMonth(summerStart(), text, ui->comboStartMonth, ui->comboStartDay);
+    saveSummerMonth(summerStart(), text);
 }
 
 void SettingUser::on_comboStartDay_currentTextChanged(const QString &text)
 {
-    saveNumber(summerStart() + QStringLiteral(".day"), text, "UserDay");
+    saveNumber(summerStart().dayPath, text, "UserDay");
 }
 
 void SettingUser::on_comboEndMonth_currentTextChanged(const QString &text)
 {
-    saveSummerMonth(summerEnd(), text, ui->comboEndMonth, ui->comboEndDay);
+    saveSummerMonth(summerEnd(), text);
 }
 
 void SettingUser::on_comboEndDay_currentTextChanged(const QString &text)
 {
-    saveNumber(summerEnd() + QStringLiteral(".day"), text, "UserDay");
+    saveNumber(summerEnd().dayPath, text, "UserDay");
 }
 
-void SettingUser::on_radioWhite_clicked()
-{
-    choose(ui->radioWhite);
-    validationCheck();
-}
+void SettingUser::on_radioWhite_clicked() { change(ui->radioWhite); }
 
-void SettingUser::on_radioBlack_clicked()
-{
-    choose(ui->radioBlack);
-    validationCheck();
-}
+void SettingUser::on_radioBlack_clicked() { change(ui->radioBlack); }

@@ -4,8 +4,6 @@
 
 #include <memory>
 
-class QAbstractButton;
-class QComboBox;
 namespace Ui {
 class SettingUser;
 }
@@ -36,7 +34,7 @@ private slots:
     void calcDay(QComboBox *Month, QComboBox *Date);
     /// As calcDay, but keeps the index.
     void calcDayInlanguage(QComboBox *Month, QComboBox *Date);
-    void validationCheck();
+    void validationCheck() override;
 
 public slots:
     /// Sets the page's texts from the language in force.
@@ -61,14 +59,16 @@ private slots:
     void on_radioBlack_clicked();
 
 private:
-    void choose(const QAbstractButton *button);
-    void chooseUnit(const QAbstractButton *button, const QString &unit);
-    void loadBacklight(const QString &brightness, const QString &timer);
-    void loadTheme(const QString &theme);
+    struct SummerDate;
+    SummerDate summerStart() const;
+    SummerDate summerEnd() const;
+
+    void chooseUnit(const QRadioButton *radio, const QString &unit);
+    void loadBacklight();
     void loadDate();
-    void loadSummerDates();
-    void saveNumber(const QString &path, const QString &text, const char *unsetKey);
-    void saveSummerMonth(const QString &date, const QString &text, QComboBox *month, QComboBox *day);
+    void loadSummerDate(const SummerDate &date);
+    void saveNumber(const char *path, const QString &text, const char *unsetKey);
+    void saveSummerMonth(const SummerDate &date, const QString &text);
 
     std::unique_ptr<Ui::SettingUser> ui;
     /// Guards every write; never false again.

@@ -254,7 +254,7 @@ void DipSwitchSettingStatus::validationCheck()
         const QRadioButton *second;
         const QRadioButton *third;
     };
-    const std::vector<Radios> choices{
+    const std::vector<Radios> radios{
         {ui->radioDhwUse, ui->radioDhwOnly, ui->radioDhwNotUse},
         {ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse, nullptr},
         {ui->radioOperationHeating, ui->radioOperationBoth, nullptr},
@@ -266,7 +266,7 @@ void DipSwitchSettingStatus::validationCheck()
         {ui->radioOduMaster, ui->radioOduSlave, nullptr},
         {ui->radioSilentODU, ui->radioSilentRemote, nullptr}};
     const std::vector<QLineEdit *> edits = pulseEdits();
-    const bool valid = std::all_of(choices.begin(), choices.end(),
+    const bool valid = std::all_of(radios.begin(), radios.end(),
                                    [](const Radios &each) {
                                        return mainDialog->checkValidationRadio(each.first, each.second,
                                                                                each.third);

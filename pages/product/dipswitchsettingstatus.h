@@ -50,7 +50,7 @@ private slots:
     void setElectricHeater(const QString &isHeater1, const QString &isHeater2);
     void setOrvoSubCategory();
     void initSeasonalAutoRange();
-    void validationCheck();
+    void validationCheck() override;
 
 public slots:
     /// Sets the page's texts from the language in force.

@@ -36,7 +36,7 @@ private slots:
     void saveJsonData(const QString &path, const QJsonValue &value) override;
     void enableProductSpec();
     void enableRefrigerantType();
-    void validationCheck();
+    void validationCheck() override;
     void on_radioButtonAwhp_clicked();
     void on_radioButtonAquabox_clicked();
     void on_radioButtonMiddleTemp_clicked();

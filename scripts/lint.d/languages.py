@@ -11,19 +11,17 @@ UNANSWERED = Path(__file__).with_name("languages-unanswered.txt")  # asked for, 
 
 LITERAL = re.compile(r'"((?:\\.|[^"\\\n])*)"')
 TEXT = r'(?:QStringLiteral\(|QLatin1String\()?"([^"\n]+)"'
-ASKED = [
-    re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT),
-    re.compile(r"\{\s*ui->\w+,\s*" + TEXT + r"\)?\s*\}"),  # a caption's row
-]
+ASKED = re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT)
+CAPTIONS = re.compile(r"\bsetCaptions\((\{.*?\})\);", re.S)
 LISTED = re.compile(r"\blanguageTexts\(\s*\{([^}]*)\}")  # the texts of a list
 
 
 def asked(text):
     """Yields (position, key) of each key that the code names where it asks for one."""
-    for pattern in ASKED:
-        yield from ((match.start(1), match.group(1)) for match in pattern.finditer(text))
-    for keys in LISTED.finditer(text):
-        yield from ((keys.start(1) + match.start(1), match.group(1)) for match in LITERAL.finditer(keys.group(1)))
+    yield from ((match.start(1), match.group(1)) for match in ASKED.finditer(text))
+    for pattern in CAPTIONS, LISTED:
+        for keys in pattern.finditer(text):
+            yield from ((keys.start(1) + match.start(1), match.group(1)) for match in LITERAL.finditer(keys.group(1)))
 
 
 def main():
