@@ -10,11 +10,11 @@ import sys
 import unittest
 from pathlib import Path
 
-from jsonschema import Draft202012Validator
+from jsonschema import Draft7Validator
 
 ROOT = Path(__file__).resolve().parents[1]
 SCHEMA = json.loads((ROOT / "docs/settings-file.schema.json").read_text(encoding="utf-8"))
-VALIDATOR = Draft202012Validator(SCHEMA)
+VALIDATOR = Draft7Validator(SCHEMA)
 DEFAULTS = {name: json.loads((ROOT / f"resources/defaultsettings/KV5_AWHP_DATA_{name}.json").read_text(encoding="utf-8"))
             for name in ("R32", "R410")}
 
@@ -80,7 +80,7 @@ def edited(document, path, value, remove=False):
 
 
 def accepts(path, value):
-    return Draft202012Validator({**USED[path], "$defs": SCHEMA["$defs"]}).is_valid(value)
+    return Draft7Validator({**USED[path], "definitions": SCHEMA["definitions"]}).is_valid(value)
 
 
 class Documents(unittest.TestCase):
@@ -91,7 +91,7 @@ class Documents(unittest.TestCase):
         self.assertEqual(errors, [])
 
     def test_schema_is_one(self):
-        Draft202012Validator.check_schema(SCHEMA)
+        Draft7Validator.check_schema(SCHEMA)
 
     def test_defaults(self):
         for name, document in DEFAULTS.items():
@@ -216,7 +216,7 @@ class Page(unittest.TestCase):
             return ", ".join(json.dumps(word) for word in sub["enum"])
         # A difference chosen under °F is told in the remarks.
         choices = sub.get("anyOf", [sub])
-        unset = ", or `unset`" if {"$ref": "#/$defs/unset"} in choices else ""
+        unset = ", or `unset`" if {"$ref": "#/definitions/unset"} in choices else ""
         return next(f'{each["minimum"]} to {each["maximum"]}' for each in choices if "minimum" in each) + unset
 
     def test_passed_keys(self):

@@ -1,0 +1,76 @@
+#include "files/reading.h"
+
+#include "document/files.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+constexpr int longestValue = 60;
+
+/// Where the parser stopped, counted in characters as an editor counts them.
+QString position(const QByteArray &content, int offset)
+{
+    const QByteArray before = content.left(offset);
+    const int lineStart = before.lastIndexOf('\n') + 1;
+    const int line = before.count('\n') + 1;
+    const int column = QString::fromUtf8(before.mid(lineStart)).size() + 1;
+    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+}
+
+QString compact(const QJsonValue &value)
+{
+    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(list.mid(1, list.size() - 2));
+}
+
+} // namespace
+
+Reading reading::read(const QString &name)
+{
+    if (name == QLatin1String("-")) {
+        QFile input;
+        return input.open(stdin, QIODevice::ReadOnly) ? parse(input.readAll())
+                                                      : Reading{{}, QStringLiteral("can't be read")};
+    }
+    const auto content = files::read(name);
+    return content ? parse(*content) : Reading{{}, QStringLiteral("can't be opened")};
+}
+
+Reading reading::parse(const QByteArray &content)
+{
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
+    if (error.error != QJsonParseError::NoError) {
+        return {{},
+                QStringLiteral("is not JSON: %1 at %2")
+                    .arg(error.errorString(), position(content, error.offset))};
+    }
+    if (!document.isObject()) {
+        return {{}, QStringLiteral("is no settings file: it holds a list where a group of settings is due")};
+    }
+    return {document.object(), {}};
+}
+
+QJsonValue reading::at(const QJsonObject &document, const QString &path)
+{
+    QJsonValue value = document;
+    for (const QString &name : path.split(QLatin1Char('.'))) {
+        value = value.toObject().value(name);
+    }
+    return value;
+}
+
+QString reading::told(const QJsonValue &value)
+{
+    if (value.isUndefined()) {
+        return {};
+    }
+    if (value.isObject() || value.isArray()) {
+        return value.isObject() ? QStringLiteral("{…}") : QStringLiteral("[…]");
+    }
+    const QString text = compact(value.isString() ? value.toString().left(longestValue + 1) : value);
+    return text.size() <= longestValue ? text : text.left(longestValue) + QStringLiteral("…");
+}

@@ -1,0 +1,244 @@
+#include "files/wizard.h"
+
+#include "app/maindialog.h"
+#include "files/catalogue.h"
+#include "files/reading.h"
+#include "files/texts.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonObject>
+#include <QLabel>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+
+#include <array>
+
+namespace {
+
+/// The pages in the order of the wizard, and where they lie.
+struct Place {
+    const char *page;
+    int step;
+    int tab;
+};
+
+constexpr int noTab = -1;
+
+constexpr std::array<Place, 11> places{
+    {{"DipSwitchSettingStatus", MainDialog::DipSwitchPage, noTab},
+     {"SettingFunction", MainDialog::SettingPage, MainDialog::FunctionTab},
+     {"SettingUser", MainDialog::SettingPage, MainDialog::UserTab},
+     {"SettingService", MainDialog::SettingPage, MainDialog::ServiceTab},
+     {"InstallationSystemSetting", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationSystemAWHP", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationSystemAquabox", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationCool", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationHeat", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationaAuto", MainDialog::SettingPage, MainDialog::InstallationTab},
+     {"InstallationDWH", MainDialog::SettingPage, MainDialog::InstallationTab}}};
+
+QStringList itemsOf(const QComboBox &list)
+{
+    QStringList items;
+    for (int index = 0; index < list.count(); ++index) {
+        items.append(list.itemText(index));
+    }
+    return items;
+}
+
+void check(QAbstractButton *button, bool checked)
+{
+    const QSignalBlocker silent(button);
+    button->setAutoExclusive(false);
+    button->setChecked(checked);
+    button->setAutoExclusive(true);
+}
+
+/// "5°C to 20°C", or the few that there are.
+QString offer(const QComboBox &list)
+{
+    constexpr int few = 5;
+    if (list.count() <= few) {
+        return itemsOf(list).join(QStringLiteral(", "));
+    }
+    return QStringLiteral("%1 to %2").arg(list.itemText(0), list.itemText(list.count() - 1));
+}
+
+} // namespace
+
+Wizard::Wizard()
+    : dialog(std::make_unique<MainDialog>())
+{
+    steps = dialog->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    tabs = dialog->findChild<QStackedWidget *>(QStringLiteral("settingStackedWidget"));
+    for (const Place &place : places) {
+        for (QWidget *each : dialog->findChildren<QWidget *>()) {
+            if (qstrcmp(each->metaObject()->className(), place.page) == 0) {
+                pages.insert(QLatin1String(place.page), each);
+            }
+        }
+    }
+    dialog->setTempUnit(QStringLiteral("CENTIGRADE"));
+    speakKeys();
+    openSections();
+    collect();
+    remember();
+    dialog->setUpdatesEnabled(false);
+    dialog->show();
+}
+
+Wizard::~Wizard() = default;
+
+/// No two texts are the same then, and none is that of a user.
+void Wizard::speakKeys()
+{
+    QFile file(QStringLiteral(":/language/English.json"));
+    file.open(QIODevice::ReadOnly);
+    QJsonObject map = QJsonDocument::fromJson(file.readAll()).object();
+    for (const QString &key : map.keys()) {
+        map.insert(key, key);
+    }
+    dialog->setLanguageDocument(QJsonDocument(map));
+    dialog->changeLanguage();
+}
+
+/// A closed one hides its controls, and passes its checks.
+void Wizard::openSections()
+{
+    for (QPushButton *button : dialog->findChildren<QPushButton *>(QStringLiteral("hideButton"))) {
+        button->click();
+    }
+}
+
+void Wizard::collect()
+{
+    for (const Setting &setting : catalogue::settings()) {
+        QWidget *page = pages.value(catalogue::page(setting));
+        if (page == nullptr) {
+            continue;
+        }
+        Control control{&setting, nullptr, {}, nullptr};
+        for (const QString &name :
+             QString(QLatin1String(setting.control)).section(QLatin1Char('/'), 1).split(QLatin1Char(' '))) {
+            auto *widget = page->findChild<QWidget *>(name);
+            if (widget == nullptr) {
+                qFatal("No control %s", setting.control);
+            }
+            control.widget = control.widget == nullptr ? widget : control.widget;
+            control.list = qobject_cast<QComboBox *>(widget);
+            if (auto *radio = qobject_cast<QAbstractButton *>(widget)) {
+                control.radios.push_back(radio);
+            }
+        }
+        controls[catalogue::page(setting)].push_back(control);
+    }
+}
+
+void Wizard::remember()
+{
+    for (QComboBox *list : dialog->findChildren<QComboBox *>()) {
+        firstItems.insert(list, itemsOf(*list));
+    }
+    for (const auto &page : qAsConst(controls)) {
+        for (const Control &control : page) {
+            for (QAbstractButton *radio : control.radios) {
+                firstChecks.insert(radio, radio->isChecked());
+            }
+        }
+    }
+}
+
+/// To what a new window has: a load leaves some lists and radios as the document before had them.
+void Wizard::reset()
+{
+    for (auto list = firstItems.begin(); list != firstItems.end(); ++list) {
+        if (list.key()->count() != list->size() || list.key()->itemText(0) != list->value(0)) {
+            dialog->setComboItems(list.key(), *list, -1);
+        }
+    }
+    for (auto radio = firstChecks.begin(); radio != firstChecks.end(); ++radio) {
+        check(radio.key(), *radio);
+    }
+}
+
+void Wizard::show(const QString &page)
+{
+    QWidget *widget = pages.value(page);
+    QShowEvent event;
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+Wizard::Answer Wizard::ask(const QJsonObject &document)
+{
+    Answer answer;
+    reset();
+    for (const Place &place : places) {
+        dialog->setDocument(QJsonDocument(document));
+        steps->setCurrentIndex(place.step);
+        if (place.tab != noTab) {
+            tabs->setCurrentIndex(place.tab);
+        }
+        dialog->setDocument(QJsonDocument(document));
+        const QString page = QLatin1String(place.page);
+        if (pages.value(page)->isVisible()) {
+            show(page);
+            judge(page, document, &answer);
+        }
+    }
+    const DialogState &state = dialog->members();
+    answer.complete = state.dipSwitchDone && state.settingDone;
+    for (const QLabel *drawn :
+         pages.value(QStringLiteral("DipSwitchSettingStatus"))->findChildren<QLabel *>()) {
+        if (drawn->objectName().startsWith(QLatin1String("DipSwitch"))
+            && drawn->text() == QLatin1String("true")) {
+            answer.switches.append(drawn->objectName());
+        }
+    }
+    steps->setCurrentIndex(MainDialog::ValidationPage);
+    // Nothing is ever painted or laid out; what waits for that would pile up.
+    QCoreApplication::removePostedEvents(nullptr);
+    return answer;
+}
+
+void Wizard::judge(const QString &page, const QJsonObject &document, Answer *answer) const
+{
+    for (const Control &control : controls.value(page)) {
+        if (!control.widget->isVisible()) {
+            continue;
+        }
+        answer->offered.push_back(control.setting);
+        if (control.list != nullptr && control.setting->form != Form::PartOfWord) {
+            judgeList(control, document, &answer->findings);
+        }
+        const auto isChecked = [](const QAbstractButton *radio) { return radio->isChecked(); };
+        if (!control.radios.empty() && control.widget->isEnabled()
+            && std::none_of(control.radios.begin(), control.radios.end(), isChecked)) {
+            const QString path = QLatin1String(control.setting->path);
+            answer->findings.push_back(
+                {Severity::Warning, path, reading::told(reading::at(document, path)),
+                 QStringLiteral("leaves the page without a choice, which it asks for")});
+        }
+    }
+}
+
+void Wizard::judgeList(const Control &control, const QJsonObject &document, Findings *findings) const
+{
+    static const Texts keys = Texts::keys();
+    const QString path = QLatin1String(control.setting->path);
+    const View view(keys, false, document);
+    const QString text = catalogue::shown(*control.setting, document, view);
+    const QString value = reading::told(reading::at(document, path));
+    if (!text.isEmpty() && control.list->findText(text, Qt::MatchFixedString) < 0) {
+        findings->push_back({Severity::Warning, path, value,
+                             QStringLiteral("isn't offered with the other values of the file: %1")
+                                 .arg(offer(*control.list))});
+    } else if (text.isEmpty() && !dialog->checkValidationComboBox(control.list)) {
+        findings->push_back(
+            {Severity::Warning, path, value, QStringLiteral("isn't chosen yet, which the page asks for")});
+    }
+}

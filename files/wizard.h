@@ -1,0 +1,64 @@
+#pragma once
+
+#include "files/finding.h"
+
+#include <QHash>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <memory>
+
+class MainDialog;
+class QAbstractButton;
+class QComboBox;
+class QStackedWidget;
+class QWidget;
+struct Setting;
+
+/// The real wizard, asked what it would offer for a document and what it would still ask for. Its pages are
+/// shown where nobody sees them, each on the document as it stands: what showing a page writes is thrown
+/// away. Needs a QApplication, and there can be one at a time.
+class Wizard
+{
+public:
+    struct Answer {
+        /// Values that the pages don't offer, and choices that they miss.
+        Findings findings;
+        /// Whether the wizard's own marks call steps 2 and 3 complete.
+        bool complete = false;
+        /// The settings whose controls are shown.
+        std::vector<const Setting *> offered;
+        /// The drawn switches that are on: "DipSwitch11".
+        QStringList switches;
+    };
+
+    Wizard();
+    ~Wizard();
+
+    Answer ask(const QJsonObject &document);
+
+private:
+    struct Control {
+        const Setting *setting;
+        QComboBox *list;
+        std::vector<QAbstractButton *> radios;
+        QWidget *widget; ///< the first of them
+    };
+
+    void speakKeys();
+    void openSections();
+    void collect();
+    void remember();
+    void reset();
+    void show(const QString &page);
+    void judge(const QString &page, const QJsonObject &document, Answer *answer) const;
+    void judgeList(const Control &control, const QJsonObject &document, Findings *findings) const;
+
+    std::unique_ptr<MainDialog> dialog;
+    QStackedWidget *steps = nullptr;
+    QStackedWidget *tabs = nullptr;
+    QHash<QString, QWidget *> pages;
+    QHash<QString, std::vector<Control>> controls;
+    QHash<QComboBox *, QStringList> firstItems;
+    QHash<QAbstractButton *, bool> firstChecks;
+};

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "support/documents.h"
+#include "support/testfiles.h"
+
+/// The program as a shell starts it.
+namespace program {
+
+struct Outcome {
+    int code = -1;
+    QString out;
+    QString err;
+};
+
+inline Outcome run(const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(CALORA_FILES), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(120000)) {
+        return {};
+    }
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+/// What `check --json` says of each file, by the file's name.
+inline QHash<QString, QJsonObject> check(const QStringList &files, const QStringList &options = {})
+{
+    const Outcome outcome = run(QStringList{QStringLiteral("check"), QStringLiteral("--json")} + options
+                                + files);
+    const QJsonDocument told = QJsonDocument::fromJson(outcome.out.toUtf8());
+    QHash<QString, QJsonObject> verdicts;
+    for (const QJsonValue &each : told.object().value(QLatin1String("files")).toArray()) {
+        const QJsonObject verdict = each.toObject();
+        verdicts.insert(QFileInfo(verdict.value(QLatin1String("file")).toString()).fileName(), verdict);
+    }
+    return verdicts;
+}
+
+/// "severity path" of each finding.
+inline QStringList findings(const QJsonObject &verdict)
+{
+    QStringList found;
+    for (const QJsonValue &each : verdict.value(QLatin1String("findings")).toArray()) {
+        const QJsonObject finding = each.toObject();
+        found.append(finding.value(QLatin1String("severity")).toString() + QLatin1Char(' ')
+                     + finding.value(QLatin1String("path")).toString());
+    }
+    return found;
+}
+
+/// Files in a folder that goes with it.
+class Folder
+{
+public:
+    QString put(const QString &name, const QByteArray &content) const
+    {
+        testfiles::put(folder.filePath(name), content);
+        return folder.filePath(name);
+    }
+    QString put(const QString &name, const QJsonDocument &document) const
+    {
+        return put(name, document.toJson(QJsonDocument::Compact));
+    }
+    QString path(const QString &name) const { return folder.filePath(name); }
+
+private:
+    QTemporaryDir folder;
+};
+
+} // namespace program

@@ -1,0 +1,376 @@
+#include "files/program.h"
+
+#include <QtTest>
+
+namespace {
+
+QString schemaFile(const char *name)
+{
+    return QStringLiteral(TEST_DATA_DIR "/schema/") + QLatin1String(name);
+}
+
+QJsonDocument r32() { return documents::standard(QStringLiteral("R32")); }
+
+QString installation(const char *key)
+{
+    return QStringLiteral("SettingInfo.installation.") + QLatin1String(key);
+}
+
+/// The settings of an installation that the wizard calls complete.
+QJsonDocument complete()
+{
+    return documents::with(r32(),
+                           {{QStringLiteral("SettingInfo.user.DateInfo.year"), 2026},
+                            {QStringLiteral("SettingInfo.user.DateInfo.month"), 11},
+                            {QStringLiteral("SettingInfo.user.DateInfo.mday"), 22},
+                            {installation("autoOp_tempwater.low_limit"), 20}});
+}
+
+} // namespace
+
+// `calora-files check`: what it says of one value each, and how it ends.
+class TestFilesCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void soundFilesHaveNoErrors();
+    void aCompleteFileIsCalledSo();
+    void tellsWhatIsWrong_data();
+    void tellsWhatIsWrong();
+    void takesWhatTheSchemaTakes();
+    void refusesWhatTheSchemaRefuses();
+    void tellsWhereAFileIsNoJson_data();
+    void tellsWhereAFileIsNoJson();
+    void goesOnAfterADamagedFile();
+    void readsTheStandardInput();
+    void speaksEachLanguage();
+    void oneFileDoesNotColourTheNext();
+    void whatSteersATerminalIsSpelled();
+    void standsHostileFiles_data();
+    void standsHostileFiles();
+    void tellsWhatIsWrongWithTheCommandLine_data();
+    void tellsWhatIsWrongWithTheCommandLine();
+
+private:
+    program::Folder folder;
+};
+
+void TestFilesCheck::soundFilesHaveNoErrors()
+{
+    for (const char *name : {"R32", "R410"}) {
+        const QString refrigerant = QLatin1String(name);
+        const QString plain = folder.put(refrigerant, documents::standard(refrigerant));
+        const QString everything = folder.put(refrigerant + QStringLiteral("-everything"),
+                                              documents::everything(refrigerant));
+        const program::Outcome outcome = program::run({QStringLiteral("check"), plain, everything});
+        QCOMPARE(outcome.code, 0);
+        QVERIFY2(outcome.out.contains(QLatin1String("2 files: 2 sound, 0 with errors, 0 not usable")),
+                 qPrintable(outcome.out));
+        QCOMPARE(outcome.err, QString());
+    }
+}
+
+void TestFilesCheck::aCompleteFileIsCalledSo()
+{
+    const QString file = folder.put(QStringLiteral("plant.json"), complete());
+    program::Outcome outcome = program::run({QStringLiteral("check"), file});
+    QCOMPARE(outcome.out, file + QStringLiteral(": sound; the wizard would call it complete\n"));
+    // The day is the last of three lists that the wizard asks for.
+    const QString open = folder.put(
+        QStringLiteral("open.json"),
+        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), -9999}}));
+    outcome = program::run({QStringLiteral("check"), open});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out,
+             open
+                 + QStringLiteral(
+                     ": warning: SettingInfo.user.DateInfo.mday (User: Date, Day): -9999 isn't chosen "
+                     "yet, which the page asks for\n")
+                 + open + QStringLiteral(": sound, 1 warning; the wizard would not call it complete\n"));
+}
+
+void TestFilesCheck::tellsWhatIsWrong_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QString>("finding");
+    QTest::addColumn<QString>("words");
+
+    const auto row = [](const char *name, const QVariantMap &values, const QString &finding,
+                        const char *words) {
+        QTest::newRow(name) << values << finding << QString::fromUtf8(words);
+    };
+    const QString theme = QStringLiteral("SettingInfo.user.themeSet");
+    row("a word that no control writes", {{theme, QStringLiteral("pink")}}, QStringLiteral("error ") + theme,
+        "Display theme): \"pink\" can be \"white\", \"black\" only");
+    row("a text for a number", {{installation("waterFlowRate"), QStringLiteral("30")}},
+        QStringLiteral("error ") + installation("waterFlowRate"), "can be 15 to 92 only");
+    const QString mode = QStringLiteral("ExtSysInfo.xmodeOpMode");
+    row("another type in what passes through", {{mode, 3}}, QStringLiteral("error ") + mode,
+        "3 has to be a text");
+    const QString pump = QStringLiteral("ExtSysInfo.water_pump");
+    row("no flag in what passes through", {{pump, QStringLiteral("SER")}}, QStringLiteral("warning ") + pump,
+        "is a flag, which is \"SET\" or \"CLR\"");
+    const QString room = QStringLiteral("ExtSysInfo.viewTempAir");
+    row("a fraction", {{room, 21.5}}, QStringLiteral("error ") + room, "21.5 has to be a whole number");
+    row("a setting is missing", {{theme, QVariant()}}, QStringLiteral("error ") + theme, "is missing");
+    row("what passes through is missing", {{room, QVariant()}}, QStringLiteral("warning ") + room,
+        "is missing");
+    const QString unknown = QStringLiteral("SettingInfo.user.maker");
+    row("an unknown key", {{unknown, 1}}, QStringLiteral("note ") + unknown, "is an unknown key");
+    // R32 without a heater: the list goes from 20 °C, and 15 stands where one was.
+    const QString water = installation("autoOp_tempwater.low_limit");
+    row("a list that has shrunk",
+        {{water, 15}, {QStringLiteral("IduFuncList.isSeasonalAuto"), QStringLiteral("CLR")}},
+        QStringLiteral("warning ") + water,
+        "15 isn't offered with the other values of the file: 20°C to 34°C");
+    // Twelve steps from 1; nothing chosen is a step before.
+    const QString step = installation("disinfect_data.cutOffTime");
+    row("the number of a blank list", {{step, 0}}, QStringLiteral("warning ") + step,
+        "stands for a list in which nothing was chosen");
+    const QString input = installation("digitalInput");
+    row("the step of a blank list", {{input, QStringLiteral("STEP-1")}}, QStringLiteral("warning ") + input,
+        "stands for a list in which nothing was chosen");
+    row("the fifth choice of four", {{input, QStringLiteral("STEP4")}}, QStringLiteral("warning ") + input,
+        "isn't offered");
+    row("a day that the month hasn't",
+        {{QStringLiteral("SettingInfo.user.summerTime.enable"), QStringLiteral("SET")},
+         {QStringLiteral("SettingInfo.user.summerTime.start.mon"), 2},
+         {QStringLiteral("SettingInfo.user.summerTime.start.day"), 30}},
+        QStringLiteral("warning SettingInfo.user.summerTime.start.day"), "30 isn't offered");
+}
+
+void TestFilesCheck::tellsWhatIsWrong()
+{
+    QFETCH(QVariantMap, values);
+    QFETCH(QString, finding);
+    QFETCH(QString, words);
+
+    const QString file = folder.put(QStringLiteral("wrong.json"), documents::with(complete(), values));
+    QCOMPARE(program::findings(program::check({file}).value(QStringLiteral("wrong.json"))),
+             QStringList{finding});
+    const program::Outcome outcome = program::run({QStringLiteral("check"), file});
+    QCOMPARE(outcome.code, finding.startsWith(QLatin1String("error")) ? 1 : 0);
+    QVERIFY2(outcome.out.contains(words), qPrintable(outcome.out));
+}
+
+// The library reads the schema as its tests in another language do.
+void TestFilesCheck::takesWhatTheSchemaTakes()
+{
+    const QJsonObject right = QJsonDocument::fromJson(testfiles::content(schemaFile("right.json"))).object();
+    QVERIFY(!right.isEmpty());
+    QStringList files;
+    for (auto path = right.begin(); path != right.end(); ++path) {
+        for (const QJsonValue &value : path->toArray()) {
+            files.append(folder.put(QStringLiteral("right-%1.json").arg(files.size()),
+                                    documents::with(r32(), {{path.key(), value.toVariant()}})));
+        }
+    }
+    const auto verdicts = program::check(files, {QStringLiteral("--no-pages")});
+    QCOMPARE(verdicts.size(), files.size());
+    for (auto verdict = verdicts.begin(); verdict != verdicts.end(); ++verdict) {
+        QVERIFY2(program::findings(*verdict).isEmpty(),
+                 qPrintable(program::findings(*verdict).join(QLatin1Char('\n'))));
+    }
+}
+
+void TestFilesCheck::refusesWhatTheSchemaRefuses()
+{
+    const QJsonArray wrong = QJsonDocument::fromJson(testfiles::content(schemaFile("wrong.json"))).array();
+    QVERIFY(!wrong.isEmpty());
+    QStringList files;
+    for (const QJsonValue &edit : wrong) {
+        files.append(folder.put(QStringLiteral("refused-%1.json").arg(files.size()),
+                                documents::with(r32(),
+                                                {{edit[QStringLiteral("path")].toString(),
+                                                  edit[QStringLiteral("remove")].toBool()
+                                                      ? QVariant()
+                                                      : edit[QStringLiteral("value")].toVariant()}})));
+    }
+    const auto verdicts = program::check(files, {QStringLiteral("--no-pages")});
+    for (int index = 0; index < files.size(); ++index) {
+        const QJsonValue edit = wrong.at(index);
+        const QStringList found = program::findings(
+            verdicts.value(QStringLiteral("refused-%1.json").arg(index)));
+        const QString path = edit[QStringLiteral("path")].toString();
+        QVERIFY2(found.contains(QStringLiteral("error ") + path)
+                     || found.contains(QStringLiteral("warning ") + path),
+                 qPrintable(path + QStringLiteral(": ") + found.join(QLatin1String(", "))));
+    }
+}
+
+void TestFilesCheck::tellsWhereAFileIsNoJson_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("trouble");
+
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("at line 1, column 1");
+    QTest::newRow("a word") << QByteArray("{\n  \"product\": awhp\n}")
+                            << QStringLiteral("at line 2, column 14");
+    QTest::newRow("after letters beyond ASCII")
+        << QByteArray("{\n  \"\xc3\xa9\xe2\x82\xac\": awhp\n}") << QStringLiteral("at line 2, column 9");
+    QTest::newRow("cut off") << QByteArray("{\"product\": \"awhp\"") << QStringLiteral("is not JSON");
+    QTest::newRow("a list") << QByteArray("[1, 2]") << QStringLiteral("is no settings file");
+    QTest::newRow("not UTF-8") << QByteArray("{\"product\": \"\xff\xfe\"}") << QStringLiteral("is not JSON");
+}
+
+void TestFilesCheck::tellsWhereAFileIsNoJson()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, trouble);
+
+    const program::Outcome outcome = program::run(
+        {QStringLiteral("check"), folder.put(QStringLiteral("bad.json"), content)});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.out.contains(trouble), qPrintable(outcome.out));
+}
+
+void TestFilesCheck::goesOnAfterADamagedFile()
+{
+    const QString bad = folder.put(QStringLiteral("bad.json"), QByteArray("{"));
+    const QString wrong = folder.put(
+        QStringLiteral("wrong.json"),
+        documents::with(r32(), {{QStringLiteral("product"), QStringLiteral("x")}}));
+    const QString good = folder.put(QStringLiteral("good.json"), complete());
+    const program::Outcome outcome = program::run(
+        {QStringLiteral("check"), folder.path(QStringLiteral("none.json")), bad, wrong, good});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.out.contains(QLatin1String("none.json: can't be opened\n")), qPrintable(outcome.out));
+    QVERIFY2(outcome.out.contains(good + QStringLiteral(": sound; the wizard would call it complete\n")),
+             qPrintable(outcome.out));
+    QVERIFY2(
+        outcome.out.endsWith(
+            QLatin1String("4 files: 1 sound, 1 with errors, 2 not usable; 1 error, 2 warnings, 0 notes\n"))
+            || outcome.out.contains(QLatin1String("4 files: 1 sound, 1 with errors, 2 not usable; 1 error")),
+        qPrintable(outcome.out));
+    QCOMPARE(program::run({QStringLiteral("check"), wrong, good}).code, 1);
+}
+
+void TestFilesCheck::readsTheStandardInput()
+{
+    const program::Outcome outcome = program::run({QStringLiteral("check"), QStringLiteral("-")},
+                                                  complete().toJson());
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out, QStringLiteral("-: sound; the wizard would call it complete\n"));
+}
+
+void TestFilesCheck::speaksEachLanguage()
+{
+    const QString file = folder.put(
+        QStringLiteral("wrong.json"),
+        documents::with(complete(), {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("pink")}}));
+    const QDir languages(QStringLiteral(LANGUAGES_DIR));
+    for (const QString &name : languages.entryList({QStringLiteral("*.json")})) {
+        const QJsonObject texts = QJsonDocument::fromJson(testfiles::content(languages.filePath(name)))
+                                      .object();
+        const program::Outcome outcome = program::run({QStringLiteral("check"), QStringLiteral("--language"),
+                                                       name.chopped(5), QStringLiteral("--no-pages"), file});
+        const QString caption = texts.value(QLatin1String("DisplayTheme")).toString().simplified();
+        QVERIFY2(outcome.out.contains(caption), qPrintable(name + outcome.out + outcome.err));
+    }
+    const program::Outcome outcome = program::run(
+        {QStringLiteral("check"), QStringLiteral("--language"), QStringLiteral("Elvish"), file});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.err.contains(QLatin1String("there is no language Elvish; there are:")),
+             qPrintable(outcome.err));
+}
+
+// The pages keep radios and lists that a load leaves alone.
+void TestFilesCheck::oneFileDoesNotColourTheNext()
+{
+    const QString whole = folder.put(QStringLiteral("a.json"), complete());
+    const QString without = folder.put(
+        QStringLiteral("b.json"),
+        documents::with(complete(),
+                        {{QStringLiteral("SettingInfo.user.themeSet"), QVariant()},
+                         {installation("seasonalAutoOption.seasonalAutoOpMode"), QStringLiteral("?")},
+                         {installation("settempLimit.heatWater.low_limit"), 65},
+                         {installation("settempLimit.heatWater.high_limit"), 14}}));
+    const auto alone = program::check({without});
+    const auto after = program::check({whole, without});
+    const auto before = program::check({without, whole});
+    QCOMPARE(program::findings(after.value(QStringLiteral("b.json"))),
+             program::findings(alone.value(QStringLiteral("b.json"))));
+    QCOMPARE(program::findings(before.value(QStringLiteral("a.json"))), QStringList());
+}
+
+void TestFilesCheck::whatSteersATerminalIsSpelled()
+{
+    const QString file = folder.put(
+        QStringLiteral("steers.json"),
+        documents::with(complete(),
+                        {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("\x1b[2J\u202e\n")},
+                         {QStringLiteral("SettingInfo.user.\x1b]0;x\x07"), 1}}));
+    const program::Outcome outcome = program::run({QStringLiteral("check"), file});
+    QVERIFY(!outcome.out.contains(QChar(0x1b)) && !outcome.out.contains(QChar(0x202e)));
+    QVERIFY2(outcome.out.contains(QLatin1String("SettingInfo.user.\\u001b]0;x\\u0007")),
+             qPrintable(outcome.out));
+}
+
+void TestFilesCheck::standsHostileFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("code");
+
+    const QByteArray whole = complete().toJson(QJsonDocument::Compact);
+    const auto with = [&whole](const QByteArray &more) { return whole.chopped(1) + "," + more + "}"; };
+    QTest::newRow("10,000 levels") << with("\"x\":" + QByteArray(10000, '[') + QByteArray(10000, ']')) << 2;
+    QTest::newRow("500 levels") << with("\"x\":" + QByteArray(500, '[') + QByteArray(500, ']')) << 0;
+    QTest::newRow("a key of 1 MB") << with("\"" + QByteArray(1000000, 'k') + "\":1") << 0;
+    QByteArray keys;
+    for (int key = 0; key < 100000; ++key) {
+        keys += "\"k" + QByteArray::number(key) + "\":0,";
+    }
+    QTest::newRow("100,000 keys") << with(keys.chopped(1)) << 0;
+    QByteArray phone = whole;
+    phone.replace("\"phoneNumber\":\"-\"", "\"phoneNumber\":\"" + QByteArray(3000000, '1') + "\"");
+    QTest::newRow("a telephone number of 3 MB") << phone << 1;
+    QTest::newRow("zeros") << QByteArray(100000, '\0') << 2;
+}
+
+void TestFilesCheck::standsHostileFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, code);
+
+    const program::Outcome outcome = program::run(
+        {QStringLiteral("check"), folder.put(QStringLiteral("hostile.json"), content)});
+    QCOMPARE(outcome.code, code);
+    QVERIFY2(outcome.out.size() < 100000, qPrintable(outcome.out.left(1000)));
+}
+
+void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("said");
+
+    const auto row = [](const char *arguments, int code, const char *said) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                                 << code << QString::fromLatin1(said);
+    };
+    row("", 2, "Say check, diff or report");
+    row("chek a.json", 2, "Say check, diff or report");
+    row("check", 2, "which file?");
+    row("diff a.json", 2, "two files");
+    row("diff --default a.json b.json", 2, "one file");
+    row("report", 2, "one file");
+    row("check --nonsense a.json", 2, "Unknown option 'nonsense'");
+    row("--help", 0, "calora-files check plant.json");
+    row("check --help", 0, "calora-files check plant.json");
+    row("--version", 0, "calora-files 1.0");
+}
+
+void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, code);
+    QFETCH(QString, said);
+
+    const program::Outcome outcome = program::run(arguments);
+    QCOMPARE(outcome.code, code);
+    QVERIFY2((code == 0 ? outcome.out : outcome.err).contains(said), qPrintable(outcome.out + outcome.err));
+}
+
+QTEST_GUILESS_MAIN(TestFilesCheck)
+#include "tst_filescheck.moc"
