@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds docs/settings-file.schema.json and docs/settings-file.md against documents and against the sources.
+"""Holds docs/settings-file.schema.json against documents and against the sources.
 
 Usage: settings_schema.py FOLDER, where the test of journeys has left the documents that it saved.
 """
@@ -165,10 +165,6 @@ class Sources(unittest.TestCase):
             self.assertTrue(any(text == name or text.endswith("." + name) for text in texts),
                             f"{path} is described and no page names it")
 
-    def test_written_paths(self):
-        """The list that the fuzzers go by."""
-        self.assertEqual((ROOT / "tests/data/written_paths.txt").read_text(encoding="utf-8").split(), sorted(WRITTEN))
-
     def test_every_word_is_accepted(self):
         words = re.findall(r'"((?:SettingInfo|IduFuncList)\.[\w.]+)",\s*"(\w+)"\}', SOURCES)
         for path, options in re.findall(r'\{"([\w.]+)",\s*\{((?:\{ui->\w+,\s*"\w+"\}[,\s]*)+)\}', SOURCES):
@@ -180,51 +176,6 @@ class Sources(unittest.TestCase):
         for path, word in words:
             self.assertIn(path, WRITTEN)
             self.assertTrue(accepts(path, word), f"{path}: {word}")
-
-
-class Page(unittest.TestCase):
-    """docs/settings-file.md tells the same as the schema."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.rows, cls.passed, group = {}, set(), ""
-        text = (ROOT / "docs/settings-file.md").read_text(encoding="utf-8")
-        for section in re.split(r"^## ", text, flags=re.M)[1:]:
-            group = section.split("\n")[0]
-            if group != "IduFuncList" and not group.startswith("SettingInfo."):
-                continue
-            for key, value, meaning in re.findall(r"^\| `([^`]+)` \| (.+?) \| (.+) \|$", section, re.M):
-                cls.rows[f"{group}.{key}"] = (value, meaning)
-            for sentence in re.findall(r"Passed through:([^;]*)", section):
-                cls.passed |= {f"{group}.{key}" for key in re.findall(r"`([\w.]+)`", sentence)}
-
-    def test_rows_are_the_written_keys(self):
-        self.assertEqual(set(self.rows), WRITTEN - {"product"})
-
-    def test_rows_tell_values_and_meaning(self):
-        for path, (value, meaning) in self.rows.items():
-            self.assertEqual(meaning, USED[path]["description"], path)
-            if "pattern" not in USED[path] and "maxLength" not in USED[path]:
-                self.assertEqual(value, self.told(USED[path]), path)
-
-    @staticmethod
-    def told(sub):
-        """The value's cell of a row."""
-        if "$ref" in sub:
-            return sub["$ref"].rsplit("/", 1)[-1]
-        if "enum" in sub:
-            return ", ".join(json.dumps(word) for word in sub["enum"])
-        # A difference chosen under °F is told in the remarks.
-        choices = sub.get("anyOf", [sub])
-        unset = ", or `unset`" if {"$ref": "#/definitions/unset"} in choices else ""
-        return next(f'{each["minimum"]} to {each["maximum"]}' for each in choices if "minimum" in each) + unset
-
-    def test_passed_keys(self):
-        groups = ("IduFuncList.", "SettingInfo.")
-        expected = {path for path, sub in LEAVES.items() if sub is PASSED and path.startswith(groups)}
-        bounds = {path for path in expected if re.search(r"[mM](ax|in)RangeOf(Upper|Lower)Bound$", path)}
-        self.assertEqual(len(bounds), 24)
-        self.assertEqual(self.passed, expected - bounds)
 
 
 if __name__ == "__main__":

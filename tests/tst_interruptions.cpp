@@ -194,7 +194,7 @@ void TestInterruptions::startsAmidAChoice()
     put(languagefolder::iniPath(), "English");
     const Window window;
     QCOMPARE(text(window, "labelCurrentLanguage"), QString("English"));
-    QCOMPARE(window.dialog.languageMap().size(), languagefolder::textCount);
+    QCOMPARE(window.dialog.languageMap().size(), languagefolder::textCount());
 }
 
 // Another instance chooses while this one runs, which keeps its own language.

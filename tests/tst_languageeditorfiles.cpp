@@ -158,7 +158,7 @@ void TestLanguageEditorFiles::dialogsListLanguageFiles()
 void TestLanguageEditorFiles::openIsCancelled()
 {
     QCOMPARE(press("openButton", QString()).title, QString("Json File"));
-    QCOMPARE(list()->count(), languagefolder::textCount);
+    QCOMPARE(list()->count(), languagefolder::textCount());
     QVERIFY(editor->isVisible());
     QVERIFY(messages::all().isEmpty());
 }
@@ -169,7 +169,7 @@ void TestLanguageEditorFiles::fileCantBeOpened()
     QVERIFY(QMetaObject::invokeMethod(editor.get(), "loadLanguageFile", Q_ARG(QString, path)));
     QCOMPARE(messages::all(),
              QStringList{"LanguageMenu::on_loadButton_clicked failed to open file: " + quoted(path)});
-    QCOMPARE(list()->count(), languagefolder::textCount);
+    QCOMPARE(list()->count(), languagefolder::textCount());
     QCOMPARE(dialog().languageMap(), english());
     QVERIFY(editor->isVisible());
 }
@@ -278,7 +278,7 @@ void TestLanguageEditorFiles::saveIsCancelled()
     QCOMPARE(text("newButton"), QString("New"));
     QCOMPARE(ini(), QByteArray("English"));
     QVERIFY(messages::all().isEmpty());
-    QCOMPARE(list()->count(), languagefolder::textCount);
+    QCOMPARE(list()->count(), languagefolder::textCount());
 }
 
 void TestLanguageEditorFiles::saveCantWrite()

@@ -104,7 +104,7 @@ void TestLanguageFiles::nameCantBeSaved()
     dialog().loadLanguageData(languagefolder::iniPath());
     QCOMPARE(messages::all(), QStringList{unreadable});
     QCOMPARE(currentLanguage(), QString("English"));
-    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount);
+    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount());
 }
 
 void TestLanguageFiles::unwritableNameReloadsTheOldLanguage()
@@ -236,7 +236,7 @@ void TestLanguageFiles::cantLoadFromAnotherPath()
     QCOMPARE(messages::all(), QStringList{notLoaded + ' ' + quoted(path)});
     QCOMPARE(currentLanguage(), QString("English"));
     QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
-    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount);
+    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount());
     QCOMPARE(dialog().members().languageMenuWidget, popup);
     QCOMPARE(QDir(languagefolder::path()).entryList(QDir::Files),
              (QStringList{"English.json", "language.ini"}));
@@ -264,7 +264,7 @@ void TestLanguageFiles::defaultLanguageLiesAtTheRoot()
     QCOMPARE(messages::all(),
              QStringList{"MainDialog::loadDefaultLanguageJsonFile failed to open file: "
                          "\"/language/English.json\""});
-    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount);
+    QCOMPARE(dialog().languageMap().size(), languagefolder::textCount());
     QCOMPARE(told.size(), 0);
 }
 

@@ -112,7 +112,7 @@ void TestPlainText::everyLabelIsPlain()
     QVERIFY(all<QLabel>().size() > 300);
     QVERIFY(!dialog().members().languageMenuWidget->findChildren<LanguageItem *>().isEmpty());
     QCOMPARE(richLabels(editor.get()), QStringList());
-    QCOMPARE(editor->findChildren<LetterItem *>().size(), languagefolder::textCount);
+    QCOMPARE(editor->findChildren<LetterItem *>().size(), languagefolder::textCount());
     for (const QWidget *widget : all<QWidget>()) {
         QVERIFY2(!Qt::mightBeRichText(widget->toolTip()), qPrintable(widget->toolTip()));
     }

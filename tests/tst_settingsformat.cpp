@@ -1,6 +1,6 @@
-#include "support/languagefolder.h"
+#include "support/schema.h"
+#include "support/testfiles.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -8,12 +8,10 @@
 #include <QtTest>
 
 // The bytes, the keys and the values of the default documents and of the English texts, held against tables
-// in tests/data: path, R32 value and R410 value per line; language key and text per line.
+// in tests/data: path, R32 value and R410 value per line; language key and text per line. The tables are what
+// other programs rely on; a key that has come since is held by the schema, a text by scripts/lint.
 
 namespace {
-
-constexpr int leafCount = 393;
-constexpr int differingCount = 27;
 
 struct Leaf {
     QString path;
@@ -28,12 +26,6 @@ struct Text {
 
 using Leaves = QVector<QPair<QString, QJsonValue>>;
 
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QString documentPath(const QString &refrigerant)
 {
     return QStringLiteral(":/defaultsettings/KV5_AWHP_DATA_%1.json").arg(refrigerant);
@@ -45,7 +37,7 @@ QVector<QList<QByteArray>> tableRows(const QString &name)
 {
     QVector<QList<QByteArray>> rows;
     const QString path = QStringLiteral(TEST_DATA_DIR) + QLatin1Char('/') + name;
-    for (const QByteArray &line : fileBytes(path).split('\n')) {
+    for (const QByteArray &line : testfiles::content(path).split('\n')) {
         if (!line.isEmpty()) {
             rows.append(line.split('\t'));
         }
@@ -210,16 +202,13 @@ void SettingsFormatTest::checkByteForm(const QByteArray &bytes)
 
 void SettingsFormatTest::tablesAreWhole()
 {
-    const QVector<QList<QByteArray>> leaves = tableRows(QStringLiteral("default_document.tsv"));
-    QCOMPARE(leaves.size(), leafCount);
-    for (const QList<QByteArray> &row : leaves) {
+    for (const QList<QByteArray> &row : tableRows(QStringLiteral("default_document.tsv"))) {
         QCOMPARE(row.size(), 3);
     }
-    const QVector<QList<QByteArray>> texts = tableRows(QStringLiteral("english.tsv"));
-    QCOMPARE(texts.size(), languagefolder::textCount);
-    for (const QList<QByteArray> &row : texts) {
+    for (const QList<QByteArray> &row : tableRows(QStringLiteral("english.tsv"))) {
         QCOMPARE(row.size(), 2);
     }
+    QVERIFY(!expectedLeaves().isEmpty() && !expectedTexts().isEmpty());
 }
 
 void SettingsFormatTest::documentBytes_data() { addRefrigerants(); }
@@ -227,7 +216,7 @@ void SettingsFormatTest::documentBytes_data() { addRefrigerants(); }
 void SettingsFormatTest::documentBytes()
 {
     QFETCH(QString, refrigerant);
-    const QByteArray bytes = fileBytes(documentPath(refrigerant));
+    const QByteArray bytes = testfiles::content(documentPath(refrigerant));
     checkByteForm(bytes);
     for (const char byte : bytes) {
         QVERIFY(byte > 0 && byte < 127);
@@ -239,20 +228,20 @@ void SettingsFormatTest::documentLeaves_data() { addRefrigerants(); }
 void SettingsFormatTest::documentLeaves()
 {
     QFETCH(QString, refrigerant);
-    const QJsonObject document = QJsonDocument::fromJson(fileBytes(documentPath(refrigerant))).object();
-    QStringList expectedPaths;
+    const QJsonObject document = QJsonDocument::fromJson(testfiles::content(documentPath(refrigerant)))
+                                     .object();
+    QStringList known = schema::written();
     for (const Leaf &leaf : expectedLeaves()) {
         const QJsonValue expected = refrigerant == QLatin1String("R32") ? leaf.r32 : leaf.r410;
         const QJsonValue actual = valueAt(document, leaf.path);
         QVERIFY2(actual.type() == expected.type(), qPrintable(leaf.path));
         QVERIFY2(actual == expected, qPrintable(leaf.path));
-        expectedPaths.append(leaf.path);
+        known.append(leaf.path);
     }
     Leaves actualLeaves;
     collectLeaves(document, QString(), actualLeaves);
-    QCOMPARE(actualLeaves.size(), leafCount);
     for (const auto &leaf : qAsConst(actualLeaves)) {
-        QVERIFY2(expectedPaths.contains(leaf.first), qPrintable(leaf.first));
+        QVERIFY2(known.contains(leaf.first), qPrintable(leaf.first));
     }
 }
 
@@ -265,7 +254,12 @@ void SettingsFormatTest::documentOrder()
     for (const Leaf &leaf : expectedLeaves()) {
         expectedPaths.append(leaf.path);
     }
-    QCOMPARE(pathsInTextOrder(fileBytes(documentPath(refrigerant))), expectedPaths);
+    QStringList paths = pathsInTextOrder(testfiles::content(documentPath(refrigerant)));
+    QCOMPARE(paths.size(), QSet<QString>(paths.begin(), paths.end()).size());
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                               [&](const QString &path) { return !expectedPaths.contains(path); }),
+                paths.end());
+    QCOMPARE(paths, expectedPaths);
 }
 
 void SettingsFormatTest::documentLines_data() { addRefrigerants(); }
@@ -273,48 +267,66 @@ void SettingsFormatTest::documentLines_data() { addRefrigerants(); }
 void SettingsFormatTest::documentLines()
 {
     QFETCH(QString, refrigerant);
-    const QByteArray bytes = fileBytes(documentPath(refrigerant));
+    const QByteArray bytes = testfiles::content(documentPath(refrigerant));
+    const QJsonObject document = QJsonDocument::fromJson(bytes).object();
     int from = 0;
-    for (const Leaf &leaf : expectedLeaves()) {
-        const QStringList keys = leaf.path.split(QLatin1Char('.'));
-        const QJsonValue value = refrigerant == QLatin1String("R32") ? leaf.r32 : leaf.r410;
-        const QByteArray line = "\r\n" + laidOut(keys.last().toUtf8(), value, keys.size());
+    for (const QString &path : pathsInTextOrder(bytes)) {
+        const QStringList keys = path.split(QLatin1Char('.'));
+        const QByteArray line = "\r\n" + laidOut(keys.last().toUtf8(), valueAt(document, path), keys.size());
         const int at = bytes.indexOf(line, from);
-        QVERIFY2(at >= 0, qPrintable(leaf.path));
+        QVERIFY2(at >= 0, qPrintable(path));
         from = at + line.size();
-        QVERIFY2(bytes.at(from) == ',' || bytes.at(from) == '\r', qPrintable(leaf.path));
+        QVERIFY2(bytes.at(from) == ',' || bytes.at(from) == '\r', qPrintable(path));
     }
 }
 
 void SettingsFormatTest::documentsDifferWhereTheyShould()
 {
-    const QJsonObject r32 = QJsonDocument::fromJson(fileBytes(documentPath(QStringLiteral("R32")))).object();
-    const QJsonObject r410 = QJsonDocument::fromJson(fileBytes(documentPath(QStringLiteral("R410"))))
+    const QJsonObject r32 = QJsonDocument::fromJson(testfiles::content(documentPath(QStringLiteral("R32"))))
+                                .object();
+    const QJsonObject r410 = QJsonDocument::fromJson(testfiles::content(documentPath(QStringLiteral("R410"))))
                                  .object();
-    int differing = 0;
+    QSet<QString> expected;
     for (const Leaf &leaf : expectedLeaves()) {
-        const bool differs = valueAt(r32, leaf.path) != valueAt(r410, leaf.path);
-        QVERIFY2(differs == (leaf.r32 != leaf.r410), qPrintable(leaf.path));
-        differing += differs ? 1 : 0;
+        if (leaf.r32 != leaf.r410) {
+            expected.insert(leaf.path);
+        }
     }
-    QCOMPARE(differing, differingCount);
+    Leaves all;
+    collectLeaves(r32, QString(), all);
+    QSet<QString> differing;
+    for (const auto &leaf : qAsConst(all)) {
+        if (leaf.second != valueAt(r410, leaf.first)) {
+            differing.insert(leaf.first);
+        }
+    }
+    QCOMPARE(differing, expected);
 }
 
 void SettingsFormatTest::englishBytes()
 {
-    QList<QByteArray> lines;
-    for (const Text &text : expectedTexts()) {
-        lines.append("  \"" + text.key.toUtf8() + "\": " + text.json);
-    }
-    const QByteArray bytes = fileBytes(englishPath());
+    const QByteArray bytes = testfiles::content(englishPath());
     checkByteForm(bytes);
-    QCOMPARE(bytes, "{\r\n" + lines.join(",\r\n") + "\r\n}\r\n");
+    const QRegularExpression line(QStringLiteral(R"(^  "\w+": "([^"\\]|\\.)+",?\r$)"));
+    QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n')).mid(1);
+    lines.erase(lines.end() - 2, lines.end());
+    for (const QString &each : qAsConst(lines)) {
+        QVERIFY2(line.match(each).hasMatch(), qPrintable(each));
+    }
+    int from = 0;
+    for (const Text &text : expectedTexts()) {
+        const QString expected = QLatin1String("  \"") + text.key + QLatin1String("\": ")
+            + QString::fromUtf8(text.json);
+        from = 1
+            + lines.indexOf(QRegularExpression(QRegularExpression::escape(expected) + QLatin1String(",?\r")),
+                            from);
+        QVERIFY2(from > 0, qPrintable(expected));
+    }
 }
 
 void SettingsFormatTest::englishTexts()
 {
-    const QJsonObject english = QJsonDocument::fromJson(fileBytes(englishPath())).object();
-    QCOMPARE(english.size(), languagefolder::textCount);
+    const QJsonObject english = QJsonDocument::fromJson(testfiles::content(englishPath())).object();
     for (const Text &text : expectedTexts()) {
         const QJsonValue actual = english.value(text.key);
         QVERIFY2(actual.isString(), qPrintable(text.key));

@@ -1,7 +1,7 @@
 #include "fuzz/changes.h"
 
 #include "fuzz/target.h"
-#include "support/testfiles.h"
+#include "support/schema.h"
 
 #include <QJsonObject>
 
@@ -39,11 +39,8 @@ QStringList changes(const QJsonDocument &before, const QJsonDocument &after)
 
 WrittenPaths::WrittenPaths()
 {
-    const QString lines = QString::fromUtf8(
-        testfiles::content(QStringLiteral(TEST_DATA_DIR "/written_paths.txt")));
-    for (const QString &line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        paths.insert(line);
-    }
+    const QStringList written = schema::written();
+    paths = QSet<QString>(written.begin(), written.end());
 }
 
 bool WrittenPaths::isAbove(const QString &path) const

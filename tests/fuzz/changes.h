@@ -7,7 +7,7 @@
 /// The deepest paths at which the two documents differ.
 QStringList changes(const QJsonDocument &before, const QJsonDocument &after);
 
-/// The paths that pages write, from tests/data/written_paths.txt. All else passes unchanged.
+/// The paths that pages write, as the schema names them. All else passes unchanged.
 class WrittenPaths
 {
 public:
