@@ -17,7 +17,6 @@ private slots:
     }
     void cleanupTestCase() { close(); }
 
-    void slotsAreDeclaredInOrder();
     void startsWithFormTexts_data();
     void startsWithFormTexts();
     void startsOffAndUnchecked();
@@ -37,59 +36,6 @@ private slots:
     void functionMasterThatIsNotOfferedPasses();
     void readsAndWritesByPath();
 };
-
-void TestDipSwitch::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(page), QStringList());
-    QCOMPARE(Window::ownSlots(page),
-             (QStringList{"initUi()",
-                          "saveJsonData(QString,QJsonValue)",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "enableSolarThermalKit()",
-                          "enableOrvoMeterSubCategory()",
-                          "enableOduFunctionMaster()",
-                          "enableOduFunctionMasterSubCategory()",
-                          "changeImage(QString)",
-                          "setDipSwitchButton(bool)",
-                          "setRadioTextOpacity(bool)",
-                          "setOpacity(bool)",
-                          "setPowerHotWater()",
-                          "setElectricHeater(QString,QString)",
-                          "setOrvoSubCategory()",
-                          "initSeasonalAutoRange()",
-                          "validationCheck()",
-                          "changeLanguage()",
-                          "on_radioDhwNotUse_clicked()",
-                          "on_radioDhwUse_clicked()",
-                          "on_radioDhwOnly_clicked()",
-                          "on_radioSolarThermalKitNotuse_clicked()",
-                          "on_radioSolarThermalKitUse_clicked()",
-                          "on_radioOperationHeating_clicked()",
-                          "on_radioOperationBoth_clicked()",
-                          "on_radioFlowAlways_clicked()",
-                          "on_radioFlowOnlyPump_clicked()",
-                          "on_radioElectricHeaterNotuse_clicked()",
-                          "on_radioElectricHeater1_clicked()",
-                          "on_radioElectricHeaterBoth_clicked()",
-                          "on_radioThermostatNone_clicked()",
-                          "on_radioThermostatUse_clicked()",
-                          "on_radioOrvometerInterfaceNotuse_clicked()",
-                          "on_radioOrvoAddressB0_clicked()",
-                          "on_radioOrvoAddressB1_clicked()",
-                          "on_lineEditWHM1_textEdited(QString)",
-                          "on_lineEditWHM2_textEdited(QString)",
-                          "on_lineEditWHM3_textEdited(QString)",
-                          "on_lineEditWHM4_textEdited(QString)",
-                          "on_radioOduMaster_clicked()",
-                          "on_radioOduSlave_clicked()",
-                          "on_radioSilentODU_clicked()",
-                          "on_radioSilentRemote_clicked()",
-                          "on_radioAdditionalAirNotUse_clicked()",
-                          "on_radioAdditionalAirUse_clicked()",
-                          "on_radioAntifreezeNotuse_clicked()",
-                          "on_radioAntifreezeUse_clicked()"}));
-}
 
 void TestDipSwitch::startsWithFormTexts_data()
 {

@@ -63,7 +63,6 @@ private slots:
     void init() { messages::clear(); }
     void cleanupTestCase() { section.reset(); }
 
-    void slotsAreDeclaredInOrder();
     void startsClosedWithoutDocument();
     void headerOpensAndCloses();
     void textsFollowTheLanguage_data();
@@ -91,45 +90,6 @@ private:
 
     std::unique_ptr<automode::Section> section;
 };
-
-void TestInstallationaAuto::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(section->page), QStringList());
-    QStringList expected{"initUi()",
-                         "initDefaultTempRange()",
-                         "refresh()",
-                         "saveJsonData(QString,QJsonValue)",
-                         "parseJsonData(QString)",
-                         "loadJsonData()",
-                         "setVisibleMode()",
-                         "setVisibleMainZone()",
-                         "setVisibleIndoorWaterView()",
-                         "setVisibleIndoorWaterView(QString)",
-                         "setTempValue(QComboBox*,int)",
-                         "setloadJsonValue()",
-                         "setVisibleSeasonalAutoView()",
-                         "setTempRangeValue()",
-                         "valueChanged(int,int,bool)",
-                         "refreshTempRange(int)",
-                         "on_hideButton_clicked()",
-                         "on_radioHeatingOnly_clicked()",
-                         "on_radioCoolingOnly_clicked()",
-                         "on_radioBoth_clicked()"};
-    for (const char *pair :
-         {"OutdoorOutdoor", "OutdoorIndoor", "OutdoorWater", "HeatingOutdoor", "CoolingOutdoor",
-          "HeatingIndoor", "CoolingIndoor", "HeatingWater", "CoolingWater", "MainZoneHeatingIndoor",
-          "MainZoneIndoor", "MainZoneHeatingWater", "MainZoneWater"}) {
-        for (const char *end : {"Max", "Min"}) {
-            expected.append(QString("on_combo%1%2_currentTextChanged(QString)").arg(pair, end));
-        }
-    }
-    expected.append({"validationCheck()", "changeLanguage()"});
-    QCOMPARE(Window::ownSlots(section->page), expected);
-    // The third argument of valueChanged has a default.
-    QVERIFY(section->page->metaObject()->indexOfSlot("valueChanged(int,int)") >= 0);
-    const int parse = section->page->metaObject()->indexOfSlot("parseJsonData(QString)");
-    QCOMPARE(QByteArray(section->page->metaObject()->method(parse).typeName()), QByteArray("QJsonValue"));
-}
 
 void TestInstallationaAuto::startsClosedWithoutDocument()
 {

@@ -45,7 +45,6 @@ private slots:
     void initTestCase() { renew(); }
     void cleanupTestCase() { section.reset(); }
 
-    void hasItsSignalsAndSlots();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
     void languageKeepsPositions();
@@ -118,34 +117,6 @@ private:
     /// What the section has emitted.
     QStringList order;
 };
-
-void TestInstallationAquabox::hasItsSignalsAndSlots()
-{
-    QCOMPARE(Window::ownSignals(module),
-             (QStringList{"validationCheckSignals(bool,QString)", "saveJsonValue(QString,QJsonValue)",
-                          "refreshInstallationPage()"}));
-    QCOMPARE(Window::ownSlots(module),
-             (QStringList{"initUi()",
-                          "refresh()",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "setLoadJsonValue()",
-                          "enableOilRecovery()",
-                          "setRadioTextOpacity(bool)",
-                          "on_radioStandbyNotuse_clicked()",
-                          "on_radioStandbyUse_clicked()",
-                          "on_radioHsmodeNotuse_clicked()",
-                          "on_radioHsmodeUse_clicked()",
-                          "on_comboKnightType_currentTextChanged(QString)",
-                          "on_comboWater_currentTextChanged(QString)",
-                          "on_radioRefrigerantNotuse_clicked()",
-                          "on_radioRefrigerantUse_clicked()",
-                          "on_radioOpt1_clicked()",
-                          "on_radioOpt2_clicked()",
-                          "on_radioCombinationNotuse_clicked()",
-                          "on_radioCombinationUse_clicked()",
-                          "validationCheck()"}));
-}
 
 void TestInstallationAquabox::textsFollowTheLanguage_data()
 {

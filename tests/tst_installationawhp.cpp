@@ -26,7 +26,6 @@ private slots:
     void initTestCase() { renew(); }
     void cleanupTestCase() { section.reset(); }
 
-    void hasItsSignalsAndSlots();
     void showsGroups_data();
     void showsGroups();
     void secondCircuitEnablesItsRows();
@@ -88,54 +87,6 @@ private:
     const QString full = QStringLiteral("color : #555555;");
     const QString dimmed = QStringLiteral("color : rgba(55,55,55,30%)");
 };
-
-void TestInstallationAwhp::hasItsSignalsAndSlots()
-{
-    QCOMPARE(Window::ownSignals(awhp),
-             (QStringList{"validationCheckSignals(bool,QString)", "saveJsonValue(QString,QJsonValue)",
-                          "refreshInstallationPage()"}));
-    QCOMPARE(Window::ownSlots(awhp),
-             (QStringList{"initUi()",
-                          "initDefaultTempRange()",
-                          "refresh()",
-                          "loadJsonData()",
-                          "parseJsonData(QString)",
-                          "saveJsonData(QString,QJsonValue)",
-                          "conversionToFahrenheit()",
-                          "setloadJsonValue()",
-                          "setOpacity(bool)",
-                          "refreshInstallation()",
-                          "enable2ndCircuit()",
-                          "enableSmartGrid()",
-                          "enableWaterTankHeater()",
-                          "enable3rdPartyBoiler()",
-                          "on_radio2ndNotuse_clicked()",
-                          "on_radio2ndUse_clicked()",
-                          "on_radioSgNotuse_clicked()",
-                          "on_radioSgUse_clicked()",
-                          "on_radioHeaterPriorityNotuse_clicked()",
-                          "on_radioHeaterPriorityUse_clicked()",
-                          "on_radioWaterTankHeaterNotuse_clicked()",
-                          "on_radioWaterTankHeaterUse_clicked()",
-                          "on_radioWaterTankHeaterMode_clicked()",
-                          "on_radioExternalPumpNotuse_clicked()",
-                          "on_radioExternalPumpUse_clicked()",
-                          "on_radio3rdNotUse_clicked()",
-                          "on_radio3rdUse_clicked()",
-                          "on_comboHysterisis_currentIndexChanged(int)",
-                          "on_comboValveClosingTime_currentTextChanged(QString)",
-                          "on_comboStep_currentIndexChanged(int)",
-                          "on_comboHeaterOnTemperature_currentTextChanged(QString)",
-                          "on_comboAntiFreezingTemp_currentTextChanged(QString)",
-                          "on_comboPreRun_currentIndexChanged(int)",
-                          "on_comboOverRun_currentIndexChanged(int)",
-                          "on_comboDelayTime_currentIndexChanged(int)",
-                          "on_comboControlMode_currentTextChanged(QString)",
-                          "on_comboControlTemp_currentTextChanged(QString)",
-                          "on_combo3rdHysterisis_currentTextChanged(QString)",
-                          "validataionCheck()",
-                          "on_comboHeatingPriority_currentIndexChanged(int)"}));
-}
 
 void TestInstallationAwhp::showsGroups_data()
 {

@@ -41,7 +41,6 @@ private slots:
     void closedSectionWritesNothing();
     void basisBringsItsRangeAndDefaults();
     void fanCoilSlotsDiffer();
-    void controlTypeEnablesItsConstants();
     void twoCircuitsStayInLine();
     void loadInOpenSectionRunsSlots();
     void pumpColoursItsTimers();
@@ -172,17 +171,6 @@ void TestInstallationCoolRules::fanCoilSlotsDiffer()
              documents::joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}, {lowLimit, 16}}));
     QVERIFY(driver->enabled("comboForcerWater"));
     QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("16°C"));
-}
-
-void TestInstallationCoolRules::controlTypeEnablesItsConstants()
-{
-    driver->open({{mainZone, "SET"}});
-    for (const auto &[radio, enabled] :
-         {std::make_pair("radioControlTypeAuto", false), std::make_pair("radioControlTypeManual", true)}) {
-        Window::click(driver->page, radio);
-        QCOMPARE(driver->enabled("comboControlWaterTemp"), enabled);
-        QCOMPARE(driver->enabled("comboControlMainZoneTemp"), enabled);
-    }
 }
 
 void TestInstallationCoolRules::twoCircuitsStayInLine()

@@ -20,7 +20,6 @@ private slots:
     void init() { section->reset(); }
     void cleanupTestCase() { section.reset(); }
 
-    void slotsAreDeclaredInOrder();
     void startsClosed();
     void opensAndCloses();
     void textsFollowTheLanguage_data();
@@ -65,42 +64,6 @@ void TestInstallationDwh::uncheck(const char *first, const char *second) const
         radio->setChecked(false);
         radio->setAutoExclusive(true);
     }
-}
-
-void TestInstallationDwh::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(section->page), QStringList());
-    QCOMPARE(Window::ownSlots(section->page),
-             (QStringList{"initUi()",
-                          "initDefaultTempRange()",
-                          "refresh()",
-                          "saveJsonData(QString,QJsonValue)",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "setloadJsonValue()",
-                          "setHotWaterTempRange()",
-                          "enableDisinfection()",
-                          "on_hideButton_clicked()",
-                          "on_comboHotWaterMin_currentTextChanged(QString)",
-                          "on_comboHotWaterMax_currentTextChanged(QString)",
-                          "on_comboTankWaterMin_currentTextChanged(QString)",
-                          "on_comboInletWaterMax_currentTextChanged(QString)",
-                          "on_comboHeatPump_currentTextChanged(QString)",
-                          "on_comboTankHeatingHysterisis_currentTextChanged(QString)",
-                          "on_radioUnderFloorNotUse_clicked()",
-                          "on_radioUnderFloorUse_clicked()",
-                          "on_radioDisinfectionNotUse_clicked()",
-                          "on_radioDisinfectionUse_clicked()",
-                          "on_comboSchedule1_currentIndexChanged(int)",
-                          "on_comboSchedule2_currentIndexChanged(int)",
-                          "on_comboMaxTemp_currentTextChanged(QString)",
-                          "on_comboCutOffDuration_currentIndexChanged(int)",
-                          "on_comboMaxTempDuration_currentIndexChanged(int)",
-                          "validationCheck()",
-                          "changeLanguage()",
-                          "changeLanguageInCombobox()",
-                          "on_comboHeatingDurationTime_currentIndexChanged(int)",
-                          "on_comboStopDurationTime_currentIndexChanged(int)"}));
 }
 
 void TestInstallationDwh::startsClosed()

@@ -36,7 +36,6 @@ private slots:
     void limitsAreBroughtIn();
     void closedSectionWritesNothing();
     void basisBringsItsRangeAndDefaults();
-    void controlTypeEnablesItsConstants();
     void twoCircuitsStayInLine();
     void loadInOpenSectionRunsSlots();
     void pumpLeavesTheColours();
@@ -101,17 +100,6 @@ void TestInstallationHeatRules::basisBringsItsRangeAndDefaults()
                                   Q_ARG(QString, "x"));
     });
     QCOMPARE(changes, documents::joined(seasons(16, 20, 28, 35), {{basis, ""}}));
-}
-
-void TestInstallationHeatRules::controlTypeEnablesItsConstants()
-{
-    driver->open({{mainZone, "SET"}});
-    for (const auto &[radio, enabled] :
-         {std::make_pair("radioControlTypeAuto", false), std::make_pair("radioControlTypeManual", true)}) {
-        Window::click(driver->page, radio);
-        QCOMPARE(driver->enabled("comboControlWaterTemp"), enabled);
-        QCOMPARE(driver->enabled("comboControlMainZoneTemp"), enabled);
-    }
 }
 
 // In heating the main zone stays at or below the other circuit.

@@ -30,7 +30,6 @@ private slots:
     void startsCollapsed();
     void opensAndCloses();
     void standsFirstOnTheTab();
-    void hasItsSignalsAndSlots();
     void sensingRefreshesTheOtherSections();
     void sensingSetsTheSensorGroup();
     void lockedAddressIsNotLoaded();
@@ -108,47 +107,6 @@ void TestInstallationSystem::standsFirstOnTheTab()
     const QLayout *products = Window::find(section->page, "frame_2")->layout();
     QCOMPARE(products->itemAt(0)->widget()->objectName(), QStringLiteral("widgetAwhp"));
     QCOMPARE(products->itemAt(1)->widget()->objectName(), QStringLiteral("widgetAquabox"));
-}
-
-void TestInstallationSystem::hasItsSignalsAndSlots()
-{
-    QCOMPARE(Window::ownSignals(section->page),
-             (QStringList{"refreshInstallationPageSignal()", "refreshAwhpCategory()",
-                          "refreshAquaboxCategory()"}));
-    QCOMPARE(Window::ownSlots(section->page),
-             (QStringList{"initUi()",
-                          "initDefaultRange()",
-                          "blockComboBoxSignal(bool)",
-                          "saveJsonData(QString,QJsonValue)",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "refreshAwhpWidget()",
-                          "refreshAquaboxWidget()",
-                          "refreshInstallationPage()",
-                          "enableEnforcedCirculation()",
-                          "on_hideButton_clicked()",
-                          "setTempValue(QComboBox*,int)",
-                          "on_radioDryManual_clicked()",
-                          "on_radioDryAuto_clicked()",
-                          "on_radioEnforcedNotuse_clicked()",
-                          "on_radioEnforcedUse_clicked()",
-                          "on_comboBoxSensingTemp_currentTextChanged(QString)",
-                          "on_comboBoxAirTemp_currentTextChanged(QString)",
-                          "on_comboWaterRpmDuty_currentTextChanged(QString)",
-                          "on_comboWaterpumpRPM_currentTextChanged(QString)",
-                          "on_comboDryContactInstallation_currentTextChanged(QString)",
-                          "on_comboCnEXT_currentIndexChanged(int)",
-                          "on_comboCentral_currentTextChanged(QString)",
-                          "on_comboModbus_currentTextChanged(QString)",
-                          "validationCheck()",
-                          "validationCheckByProductType(bool,QString)",
-                          "changeLanguage()",
-                          "changeLanguageInCombobox()",
-                          "on_comboBoxScreedStep_currentTextChanged(QString)",
-                          "on_comboBoxScreedMaxTemp_currentTextChanged(QString)",
-                          "on_comboOperationTime_currentIndexChanged(int)",
-                          "on_comboBoxScreedHolding_currentIndexChanged(int)",
-                          "on_comboOperationPeriod_currentIndexChanged(int)"}));
 }
 
 void TestInstallationSystem::sensingRefreshesTheOtherSections()

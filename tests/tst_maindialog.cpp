@@ -41,7 +41,6 @@ private slots:
     void hasItsSizesAndLook();
     void hasItsShadow();
     void isTheGlobalDialog();
-    void declaresItsSlotsInOrder();
     void holdsItsBars();
     void stacksItsPages();
     void stacksItsTabs();
@@ -119,44 +118,6 @@ void TestMainDialog::hasItsShadow()
 }
 
 void TestMainDialog::isTheGlobalDialog() { QCOMPARE(mainDialog, &dialog()); }
-
-void TestMainDialog::declaresItsSlotsInOrder()
-{
-    QCOMPARE(Window::ownSignals(&dialog()), QStringList{"changeInstallationLanguage()"});
-    const QStringList expected{"initUi()",
-                               "saveJsonFile(QString)",
-                               "initSettingPageUi()",
-                               "initSettingFunctionUi()",
-                               "initSettingInstallationUi()",
-                               "initDipSwitchSettingStatusPageUi()",
-                               "initSettingUserUi()",
-                               "initDataSavePageUi()",
-                               "initLanguageMenu()",
-                               "initCFTable()",
-                               "clickedFunctionTabButton()",
-                               "clickedUserTabButton()",
-                               "clickedServiceTabButton()",
-                               "clickedInstallationTabButton()",
-                               "on_minimizeButton_clicked()",
-                               "on_maximumButton_clicked()",
-                               "on_closeButton_clicked()",
-                               "updateMaximumButtonUi(bool)",
-                               "on_productSelectionButton_clicked()",
-                               "on_dipSwitchButton_clicked()",
-                               "on_settingButton_clicked()",
-                               "on_validationButton_clicked()",
-                               "on_newButton_clicked()",
-                               "on_openButton_clicked()",
-                               "on_saveButton_clicked()",
-                               "loadJsonData(QString)",
-                               "languageMenu()",
-                               "changeSelectTextInCombobox()",
-                               "defaultSavePath()",
-                               "defaultLoadPath()",
-                               "setTabButonStyleSheet(bool)",
-                               "saveJsonData(QString,QJsonValue)"};
-    QCOMPARE(Window::ownSlots(&dialog()), expected);
-}
 
 void TestMainDialog::holdsItsBars()
 {

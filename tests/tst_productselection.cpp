@@ -24,7 +24,6 @@ private slots:
     void cleanup() { window.reset(); }
 
     void showsAwhpAloneOnNew();
-    void slotsAreDeclaredInOrder();
     void startsWithFormTexts();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
@@ -83,17 +82,6 @@ void TestProductSelection::showsAwhpAloneOnNew()
     QVERIFY(!Window::enabled(page, "radioButtonHighTemp"));
     QVERIFY(!Window::enabled(page, "radioButtonAquabox"));
     QVERIFY(!productDone());
-}
-
-void TestProductSelection::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(page), QStringList{"buttonClicked(QString)"});
-    QCOMPARE(Window::ownSlots(page),
-             (QStringList{"loadJsonData()", "saveJsonData(QString,QJsonValue)", "enableProductSpec()",
-                          "enableRefrigerantType()", "validationCheck()", "on_radioButtonAwhp_clicked()",
-                          "on_radioButtonAquabox_clicked()", "on_radioButtonMiddleTemp_clicked()",
-                          "on_radioButtonHighTemp_clicked()", "on_radioButtonR410_clicked()",
-                          "on_radioButtonR32_clicked()"}));
 }
 
 void TestProductSelection::startsWithFormTexts()

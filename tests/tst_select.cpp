@@ -17,7 +17,6 @@ private slots:
     }
     void cleanup() { window.reset(); }
 
-    void declaresItsSlots();
     void hasItsPictures_data();
     void hasItsPictures();
     void standsFromLeftToRight();
@@ -40,12 +39,6 @@ private:
     std::unique_ptr<Window> window;
     Select *page = nullptr;
 };
-
-void TestSelect::declaresItsSlots()
-{
-    QCOMPARE(Window::ownSlots(page), (QStringList{"initUi()", "clickedNewButton()", "clickedOpenButton()"}));
-    QCOMPARE(Window::ownSignals(page), QStringList());
-}
 
 void TestSelect::hasItsPictures_data()
 {

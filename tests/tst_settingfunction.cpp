@@ -28,7 +28,6 @@ private slots:
     void passesAtStartUntilNew();
     void startsWithTheTextsOfTheForm_data();
     void startsWithTheTextsOfTheForm();
-    void slotsAreDeclaredInOrder();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
     void listsHoldFixedItems_data();
@@ -116,44 +115,6 @@ void TestSettingFunction::startsWithTheTextsOfTheForm()
     QFETCH(QString, text);
     const SettingFunction fresh;
     QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
-}
-
-void TestSettingFunction::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(page), QStringList());
-    QCOMPARE(Window::ownSlots(page),
-             (QStringList{"initUi()",
-                          "saveJsonData(QString,QJsonValue)",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "setloadJsonValue()",
-                          "convertTimeValueByJson(int)",
-                          "calcurateTime(int,QString)",
-                          "setOpacity(bool)",
-                          "setRadioTextOpacity(bool)",
-                          "enableSilentMode()",
-                          "allButtonLock(bool)",
-                          "onoffButtonLock(bool)",
-                          "modeButtonLock(bool)",
-                          "hotWaterButtonLock(bool)",
-                          "validationCheck()",
-                          "changeLanguage()",
-                          "changeLanguageInCombobox()",
-                          "on_radioSlientModeNotuse_clicked()",
-                          "on_radioSlientModeUse_clicked()",
-                          "on_comboSilentStartHour_currentTextChanged(QString)",
-                          "on_comboSilentStartMin_currentTextChanged(QString)",
-                          "on_comboSilentEndHour_currentTextChanged(QString)",
-                          "on_comboSilentEndMin_currentTextChanged(QString)",
-                          "on_radioAllButtonNone_clicked()",
-                          "on_radioAllButtonUse_clicked()",
-                          "on_radioOnOffButtonNone_clicked()",
-                          "on_radioOnOffButtonUse_clicked()",
-                          "on_radioOperationModeButtonNone_clicked()",
-                          "on_radioOperationModeButtonUse_clicked()",
-                          "on_radioDhwOnOffNone_clicked()",
-                          "on_radioDhwOnOffUse_clicked()",
-                          "on_comboDefrostMode_currentTextChanged(QString)"}));
 }
 
 void TestSettingFunction::textsFollowTheLanguage_data()

@@ -16,7 +16,6 @@ private slots:
     void init();
     void cleanup() { window.reset(); }
 
-    void slotsAreDeclaredInOrder();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
     void takesNoPartInTheLanguageSignal();
@@ -62,17 +61,6 @@ void TestSettingService::show(const QVariantMap &values)
 {
     window->use(documents::with(documents::standard("R410"), values));
     window->showPage(MainDialog::SettingPage, MainDialog::ServiceTab);
-}
-
-void TestSettingService::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(page), QStringList());
-    QCOMPARE(
-        Window::ownSlots(page),
-        (QStringList{"initUi()", "saveJsonData(QString,QJsonValue)", "parseJsonData(QString)",
-                     "loadJsonData()", "validataionCheck()", "on_lineEditOfficeName_textChanged(QString)",
-                     "on_lineEditInstallerName_textChanged(QString)",
-                     "on_lineEditTelephone_textChanged(QString)"}));
 }
 
 void TestSettingService::textsFollowTheLanguage_data()

@@ -17,7 +17,6 @@ private slots:
     void firstShowingLoads();
     void startsWithTheTextsOfTheForm_data();
     void startsWithTheTextsOfTheForm();
-    void slotsAreDeclaredInOrder();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
     void listsAtConstruction_data();
@@ -96,40 +95,6 @@ void TestSettingUser::startsWithTheTextsOfTheForm()
     QFETCH(QString, text);
     const SettingUser fresh;
     QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
-}
-
-void TestSettingUser::slotsAreDeclaredInOrder()
-{
-    QCOMPARE(Window::ownSignals(page), QStringList());
-    QCOMPARE(Window::ownSlots(page),
-             (QStringList{"initUi()",
-                          "blockComboBoxSignal(bool)",
-                          "saveJsonData(QString,QJsonValue)",
-                          "parseJsonData(QString)",
-                          "loadJsonData()",
-                          "setLoadJsonValue()",
-                          "setOpacity(bool)",
-                          "enableSummerTime()",
-                          "calcDay(QComboBox*,QComboBox*)",
-                          "calcDayInlanguage(QComboBox*,QComboBox*)",
-                          "validationCheck()",
-                          "changeLanguage()",
-                          "changeLanguageInCombobox()",
-                          "on_radioCelicious_clicked()",
-                          "on_radioFahreheit_clicked()",
-                          "on_comboScreenSaverTimer_currentTextChanged(QString)",
-                          "on_comboBrightness_currentTextChanged(QString)",
-                          "on_comboDateYear_currentTextChanged(QString)",
-                          "on_comboDateMonth_currentTextChanged(QString)",
-                          "on_comboDateDay_currentTextChanged(QString)",
-                          "on_radioSummerTimeNotuse_clicked()",
-                          "on_radioSummerTimeUse_clicked()",
-                          "on_comboStartMonth_currentTextChanged(QString)",
-                          "on_comboStartDay_currentTextChanged(QString)",
-                          "on_comboEndMonth_currentTextChanged(QString)",
-                          "on_comboEndDay_currentTextChanged(QString)",
-                          "on_radioWhite_clicked()",
-                          "on_radioBlack_clicked()"}));
 }
 
 void TestSettingUser::textsFollowTheLanguage_data()

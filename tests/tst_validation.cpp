@@ -72,7 +72,6 @@ private slots:
     }
     void cleanup() { window.reset(); }
 
-    void declaresOneSlot();
     void looksAsTold();
     void showsPlaceholdersUntilAsked();
     void knowsItsTextsWithoutALanguage();
@@ -87,7 +86,6 @@ private slots:
     void savesNothing();
     void lostTabTakesTheStepBack();
 
-    void dataSaveDeclaresItsSlots();
     void dataSaveHasItsForm();
     void dataSaveShowsItsChoices_data();
     void dataSaveShowsItsChoices();
@@ -111,12 +109,6 @@ private:
     std::unique_ptr<Window> window;
     Validation *page = nullptr;
 };
-
-void TestValidation::declaresOneSlot()
-{
-    QCOMPARE(Window::ownSlots(page), QStringList{"initUi()"});
-    QCOMPARE(Window::ownSignals(page), QStringList());
-}
 
 void TestValidation::looksAsTold()
 {
@@ -269,14 +261,6 @@ void TestValidation::lostTabTakesTheStepBack()
     dialog().setSettingTabValid(false, MainDialog::ServiceTab);
     Window::click(&dialog(), "validationButton");
     QCOMPARE(Shown(page), complete());
-}
-
-void TestValidation::dataSaveDeclaresItsSlots()
-{
-    const DataSave fresh;
-    QCOMPARE(Window::ownSlots(&fresh),
-             (QStringList{"initUi()", "clickedCheckValidationButton()", "clickedFileCookingButton()"}));
-    QCOMPARE(Window::ownSignals(&fresh), QStringList());
 }
 
 void TestValidation::dataSaveHasItsForm()

@@ -45,7 +45,8 @@ void Window::speak(const std::function<QString(const QString &)> &translate)
 void Window::followsTheLanguage(const QWidget *page)
 {
     QFETCH(QString, text);
-    const QWidget *widget = find(page, QTest::currentDataTag());
+    const QByteArray name = QByteArray(QTest::currentDataTag()).split(' ').last();
+    const QWidget *widget = find(page, name.constData());
     QCOMPARE(widget->property("text").toString(), text);
     speak(QStringLiteral("~"));
     const QString marked = widget->property("text").toString();
