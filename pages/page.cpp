@@ -177,6 +177,8 @@ void Page::save(const QComboBox *list, int index)
     save(row.path, index + row.offset);
 }
 
+QString Page::captionOf(const QString &key) const { return mainDialog->languageValue(key); }
+
 void Page::setCaptions(const std::vector<CaptionRow> &rows)
 {
     for (const CaptionRow &row : rows) {

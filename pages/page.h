@@ -1,5 +1,6 @@
 #pragma once
 
+#include "languages/captions.h"
 #include "pages/rows.h"
 #include "rules/range.h"
 
@@ -9,7 +10,6 @@
 #include <vector>
 
 class QComboBox;
-class QLabel;
 
 /// What the pages share: reading the document, writing rows, captions, radios. It has no slots of its own;
 /// each page declares its slots and says in a line what they do.
@@ -49,6 +49,18 @@ protected:
     /// Judges the page and reports the result: the last step of most changes.
     virtual void validationCheck() = 0;
 
+    // Captions
+    /// Sets the texts of the page's form from the language in force, in the order of the form.
+    template <class Form>
+    void setCaptions(Form &form)
+    {
+        captions::set(form, this, [this](const QString &key) { return captionOf(key); });
+    }
+    /// The text of a form's key.
+    virtual QString captionOf(const QString &key) const;
+    /// Sets the texts of labels and radios from the language in force, in the order of the rows.
+    static void setCaptions(const std::vector<CaptionRow> &rows);
+
     // Rows. A control that stands in none ends the run.
     /// The page's radios that exclude each other, in the order of its check.
     std::vector<Choice> choices;
@@ -78,8 +90,6 @@ protected:
         save(what...);
         validationCheck();
     }
-    /// Sets the texts of labels, radios and buttons from the language in force, in the order of the rows.
-    static void setCaptions(const std::vector<CaptionRow> &rows);
     /// Saves the word of the row that `button` stands in.
     void saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton *button);
     /// The document value of an item's text; null where the index tells it.

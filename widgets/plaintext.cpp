@@ -45,6 +45,8 @@ PlainLabel::PlainLabel(QWidget *parent)
     setTextFormat(Qt::PlainText);
 }
 
+void PlainLabel::setText(const QString &text) { plaintext::setText(this, text); }
+
 // QLabel takes the "&" out of what it draws when it has a buddy.
 bool PlainLabel::drawsItself() const
 {
@@ -97,6 +99,8 @@ void PlainLabel::paintEvent(QPaintEvent *event)
                           plaintext::shown(text()), foregroundRole());
 }
 
+void PlainRadioButton::setText(const QString &text) { plaintext::setText(this, text); }
+
 // As Qt measures a radio button, and below a push button.
 QSize PlainRadioButton::sizeHint() const
 {
@@ -129,6 +133,8 @@ bool PlainRadioButton::hitButton(const QPoint &position) const
     option.text = forStyle(text());
     return style()->subElementRect(QStyle::SE_RadioButtonClickRect, &option, this).contains(position);
 }
+
+void PlainPushButton::setText(const QString &text) { plaintext::setText(this, text); }
 
 QSize PlainPushButton::sizeHint() const
 {

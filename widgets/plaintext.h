@@ -6,13 +6,16 @@
 
 // What is read from files is shown letter for letter: "<" makes no markup, and "&" neither vanishes nor makes
 // a shortcut. What is longer than any screen is shown as far as plaintext::shown() goes, since drawing it
-// whole would take minutes. To style sheets these classes are those of Qt that they derive from.
+// whole would take minutes. Their setText(), which the forms call too, hides that of Qt. To style sheets
+// these classes are those of Qt that they derive from.
 
 /// A label of plain text, with or without a buddy.
 class PlainLabel : public QLabel
 {
 public:
     explicit PlainLabel(QWidget *parent = nullptr);
+
+    void setText(const QString &text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -32,6 +35,7 @@ class PlainRadioButton : public QRadioButton
 public:
     using QRadioButton::QRadioButton;
 
+    void setText(const QString &text);
     QSize sizeHint() const override;
 
 protected:
@@ -44,6 +48,7 @@ class PlainPushButton : public QPushButton
 public:
     using QPushButton::QPushButton;
 
+    void setText(const QString &text);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks the form descriptions: names, layouts, geometry, tab order and buddies."""
+"""Checks the form descriptions: names, layouts, geometry, tab order, buddies and texts."""
 import re
 import xml.etree.ElementTree as ET
 from pathlib import Path
@@ -81,12 +81,19 @@ def check_buddies(root):
             yield f"{widget.get('name')} has a buddy {buddy} that is not in the form"
 
 
+def check_texts(root):
+    """A text either has the key of a language or stays as it is in each of them."""
+    for text in root.iter("string"):
+        if (text.get("comment") is None) == (text.get("notr") is None):
+            yield f"the text {text.text!r} needs a key as its comment, or notr"
+
+
 def check(path):
     try:
         root = ET.parse(ROOT / path).getroot()
     except ET.ParseError as error:
         return [f"not well-formed: {error}"]
-    return [finding for rule in (check_names, check_layouts, check_tab_order, check_buddies) for finding in rule(root)]
+    return [finding for rule in (check_names, check_layouts, check_tab_order, check_buddies, check_texts) for finding in rule(root)]
 
 
 finish("forms", [f"{path}: {finding}" for path in own_files("forms/*.ui") for finding in check(path)])

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the language keys that the code asks for against those of the English file, and checks each delivered file."""
+"""Holds the language keys that code and forms ask for against those of the English file, and checks each delivered file."""
 import re
 from pathlib import Path
 
@@ -11,14 +11,18 @@ UNANSWERED = Path(__file__).with_name("languages-unanswered.txt")  # asked for, 
 
 LITERAL = re.compile(r'"((?:\\.|[^"\\\n])*)"')
 TEXT = r'(?:QStringLiteral\(|QLatin1String\()?"([^"\n]+)"'
-ASKED = re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT)
+ASKED = [
+    re.compile(r"\b(?:languageValue|languageTextOrKey)\(\s*" + TEXT),
+    re.compile(r'<string comment="([^"]+)"'),  # a form's text
+]
 CAPTIONS = re.compile(r"\bsetCaptions\((\{.*?\})\);", re.S)
 LISTED = re.compile(r"\blanguageTexts\(\s*\{([^}]*)\}")  # the texts of a list
 
 
 def asked(text):
-    """Yields (position, key) of each key that the code names where it asks for one."""
-    yield from ((match.start(1), match.group(1)) for match in ASKED.finditer(text))
+    """Yields (position, key) of each key that code or a form names where it asks for one."""
+    for pattern in ASKED:
+        yield from ((match.start(1), match.group(1)) for match in pattern.finditer(text))
     for pattern in CAPTIONS, LISTED:
         for keys in pattern.finditer(text):
             yield from ((keys.start(1) + match.start(1), match.group(1)) for match in LITERAL.finditer(keys.group(1)))
@@ -28,9 +32,11 @@ def main():
     keys = set(english())
     reserved, unanswered = allowed(RESERVED), allowed(UNANSWERED)
     mentioned, findings = set(), []
-    for path in own_files("app/*.cpp", "app/*.h", "document/*", "languages/*", "pages/*", "rules/*", "widgets/*"):
+    for path in own_files("app/*.cpp", "app/*.h", "document/*", "forms/*.ui", "languages/*", "pages/*", "rules/*", "widgets/*"):
         text = (ROOT / path).read_text(encoding="utf-8")
-        mentioned.update(LITERAL.findall(text))
+        mentioned.update(key for _, key in asked(text))
+        if path.suffix != ".ui":
+            mentioned.update(LITERAL.findall(text))
         for position, key in asked(text):
             if key not in keys | unanswered:
                 line = text.count("\n", 0, position) + 1
