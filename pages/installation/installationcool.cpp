@@ -264,14 +264,7 @@ void InstallationCool::validationCheck()
 
 void InstallationCool::changeLanguage()
 {
-    setCaptions({{ui->labelTitle, "Cool"},
-                 {ui->labelControlBasisTemp, "ControlBasisTemp"},
-                 {ui->labelForcedStop, "forcedStopTemp"},
-                 {ui->labelFanCoil, "FanCoilUnit"},
-                 {ui->radioFanCoilNotuse, "NotUse"},
-                 {ui->radioFanCoilUse, "Use"},
-                 {ui->labelForcedWater, "WaterTemp"}});
-    setCaptions(waterCaptions(*ui, twoCircuits()));
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 

@@ -205,8 +205,7 @@ void InstallationHeat::validationCheck()
 
 void InstallationHeat::changeLanguage()
 {
-    setCaptions({{ui->labelTitle, "Heat"}, {ui->labelControlBasisTemp, "ControlBasisTemp"}});
-    setCaptions(waterCaptions(*ui, twoCircuits()));
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "pages/rows.h"
-
-#include <vector>
-
+class QComboBox;
 class QRadioButton;
+class QWidget;
 
 /// The controls that the forms of the cooling and heating sections have in common.
 struct WaterControls {
@@ -58,32 +56,4 @@ WaterControls waterControls(const Form &form)
             form.comboWaterPumpOnTimer,
             form.groupBoxOffTimer,
             form.comboWaterPumpOffTimer};
-}
-
-/// The captions of both forms from the temperature limits downwards. The constant temperature is that of
-/// circuit 2 where there is one.
-template <class Form>
-std::vector<CaptionRow> waterCaptions(const Form &form, bool twoCircuits)
-{
-    return {{form.labelTempRange, "TemperatureRange"},
-            {form.labelTempIndoor, "IndoorAirTemp"},
-            {form.labelTemperatureIndoorMin, "Min"},
-            {form.labelTemperatureIndoorMax, "Max"},
-            {form.labelTempWater, "WaterTemp"},
-            {form.labelTemperatureWaterMin, "Min"},
-            {form.labelTemperatureWaterMax, "Max"},
-            {form.labelTemperatureControl, "TemperatureControl"},
-            {form.labelControlType, "ControlMode"},
-            {form.radioControlTypeAuto, "Auto"},
-            {form.radioControlTypeManual, "Constant"},
-            {form.labelControlMainZoneTemp, "MainZoneTemp"},
-            {form.labelControlWaterTemp, twoCircuits ? "WaterTempRoom2" : "ConstantWaterTemp"},
-            {form.labelTHOnOff, "THOnOffCriteria"},
-            {form.labelTHIndoor, "IndoorAirTemp"},
-            {form.labelTHWater, "WaterTemp"},
-            {form.labelWaterPump, "WaterPumpnOperationTimer"},
-            {form.radioWaterPumpNotuse, "OperationContinue"},
-            {form.radioWaterPumpUse, "TimeSetting"},
-            {form.labelOpeartionOn, "ONTimer"},
-            {form.labelOpeartionOff, "OFFTimer"}};
 }

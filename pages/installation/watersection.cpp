@@ -40,6 +40,12 @@ void WaterSection::refillLists()
     refill(controls.offTimer, minutes);
 }
 
+QString WaterSection::captionOf(const QString &key) const
+{
+    const bool second = key == QLatin1String("ConstantWaterTemp") && twoCircuits();
+    return Section::captionOf(second ? QStringLiteral("WaterTempRoom2") : key);
+}
+
 void WaterSection::showOrHide(std::initializer_list<QWidget *> widgets, bool shown)
 {
     for (QWidget *widget : widgets) {

@@ -44,6 +44,8 @@ protected:
 
     /// Tells the auto mode section, whose lists follow the water basis and the limits.
     virtual void announceChange() = 0;
+    /// The constant temperature is that of circuit 2 where there is one.
+    QString captionOf(const QString &key) const override;
 
     // Loading
     /// Fills the lists of words and times; no language is in force yet.
