@@ -292,28 +292,7 @@ void InstallationDWH::validationCheck()
 
 void InstallationDWH::changeLanguage()
 {
-    setCaptions({{ui->labelTitle, "DomesticHotWater"},
-                 {ui->labelHotWaterTargetTempRange, "HotWaterTargetTempRange"},
-                 {ui->labelHotWaterMin, "Min"},
-                 {ui->labelHotWaterMax, "Max"},
-                 {ui->labelTankWaterTemperature, "TankWaterTemperature"},
-                 {ui->labelMinimumTankWaterTemp, "MinimumTankWaterTemp"},
-                 {ui->labelMaximumInletWaterTemp, "MaximumInletWaterTemp"},
-                 {ui->labelTankHeatingHysterisis, "TankHeatingHysterisis"},
-                 {ui->labelUnderFloorHeatingPriority, "UnderFloorHeatingPriority"},
-                 {ui->radioUnderFloorNotUse, "DHW"},
-                 {ui->radioUnderFloorUse, "RoomHeating"},
-                 {ui->labelHeatingOperationTimer, "HeatingOperationTimer"},
-                 {ui->labelHeatingDurationTime, "HeatingDurationTime"},
-                 {ui->labelStopDurationTime, "StopDurationTime"},
-                 {ui->labelTHOnOffCriteria, "THOnOffCriteria"},
-                 {ui->labelDisinfection, "Disinfection"},
-                 {ui->radioDisinfectionNotUse, "NotUse"},
-                 {ui->radioDisinfectionUse, "Use"},
-                 {ui->labelSchedule, "Schedule"},
-                 {ui->labelMaximumTemp, "MaximumTemp"},
-                 {ui->labelMaxTempDuration, "MaxTempDuration"},
-                 {ui->labelCutOffDuration, "CutOffDuration"}});
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 
