@@ -272,28 +272,7 @@ void InstallationSystemSetting::validationCheckByProductType(bool isChecked, con
 
 void InstallationSystemSetting::changeLanguage()
 {
-    setCaptions({{ui->labelSystemSetting, "SystemSetting"},
-                 {ui->labelTempSensor, "TemperatureSensor"},
-                 {ui->labelSensingTemp, "SensingTemperature"},
-                 {ui->labelAirTemp, "AirTemperatureSensor"},
-                 {ui->labelDryContactMode, "DryContactMode"},
-                 {ui->radioDryManual, "Manual"},
-                 {ui->radioDryAuto, "Auto"},
-                 {ui->labelCCAddress, "CentralControlAddress"},
-                 {ui->labelScreedDry, "ScreedDry"},
-                 {ui->labelScreedStep, "ScreedStep"},
-                 {ui->labelScreedMaxTemp, "ScreedMaxtemp"},
-                 {ui->labelScreedHolding, "ScreedHolding"},
-                 {ui->labelModbusAddress, "ModbusAddress"},
-                 {ui->labelWaterPumpDuty, "WaterPumpRPM"},
-                 {ui->labelWaterPump, "WaterPumpRPM"},
-                 {ui->labelEnforced, "EnforcedCirculation"},
-                 {ui->radioEnforcedNotuse, "NotUse"},
-                 {ui->radioEnforcedUse, "Use"},
-                 {ui->labelOperationPeriod, "OperationPeriod"},
-                 {ui->labelOperationTime, "OperationTime"},
-                 {ui->labelDryContact, "DryContact"},
-                 {ui->labelCnExt, "CNEXT"}});
+    setCaptions(*ui);
     ui->widgetAwhp->changeLanguage();
     ui->widgetAquabox->changeLanguage();
     changeLanguageInCombobox();
