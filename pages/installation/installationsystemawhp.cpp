@@ -314,37 +314,6 @@ void InstallationSystemAWHP::on_comboHeatingPriority_currentIndexChanged(int ind
 
 void InstallationSystemAWHP::changeLanguage()
 {
-    setCaptions({{ui->labelSecondCircuit, "Secondcircuit"},
-                 {ui->radio2ndNotuse, "NotUse"},
-                 {ui->radio2ndUse, "Use"},
-                 {ui->label2ndValve, "ValveClosingTime"},
-                 {ui->label2ndHysterisis, "Hysterisis"},
-                 {ui->labelSmartGrid, "SmartGrid"},
-                 {ui->radioSgNotuse, "NotUse"},
-                 {ui->radioSgUse, "Use"},
-                 {ui->labelSmartgridStep, "ControlMode"},
-                 {ui->labelHeaterPriority, "HeaterPriority"},
-                 {ui->radioHeaterPriorityNotuse, "BackupBoostBoth"},
-                 {ui->radioHeaterPriorityUse, "BoostOnly"},
-                 {ui->labelHeaterOnTemp, "HeaterOnTemperature"},
-                 {ui->labelWaterTankHeater, "WaterTankHeater"},
-                 {ui->radioWaterTankHeaterNotuse, "NotUse"},
-                 {ui->radioWaterTankHeaterUse, "Use"},
-                 {ui->radioWaterTankHeaterMode, "DisinfectionMode"},
-                 {ui->labelWaterTankPriority, "HeatingPriority"},
-                 {ui->labelWaterTankTime, "DelayTime"},
-                 {ui->labelAntiFreeze, "AntifreezingSolutionTemperature"},
-                 {ui->labelPumpControl, "PumpControl"},
-                 {ui->labelPreRun, "PreRun"},
-                 {ui->labelOverRun, "OverRun"},
-                 {ui->labelExternalPump, "ExternalPump"},
-                 {ui->radioExternalPumpNotuse, "NotUse"},
-                 {ui->radioExternalPumpUse, "Use"},
-                 {ui->labelThirdParty, "ThirdPartyBoiler"},
-                 {ui->radio3rdNotUse, "NotUse"},
-                 {ui->radio3rdUse, "Use"},
-                 {ui->label3rdMode, "ControlMode"},
-                 {ui->label3rdTemp, "ControlTemperatureRun"},
-                 {ui->label3rdHysterisis, "Hysterisis"}});
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
