@@ -193,23 +193,7 @@ void InstallationSystemAquabox::validationCheck()
 
 void InstallationSystemAquabox::changeLanguage()
 {
-    setCaptions({{ui->labelModeStandby, "ModeStandby"},
-                 {ui->radioStandbyNotuse, "NotUse"},
-                 {ui->radioStandbyUse, "ModePriority"},
-                 {ui->labelHsMode, "HSMode"},
-                 {ui->radioHsmodeNotuse, "NotUse"},
-                 {ui->radioHsmodeUse, "Use"},
-                 {ui->labelCombination, "Combination"},
-                 {ui->radioCombinationNotuse, "NotUse"},
-                 {ui->radioCombinationUse, "Use"},
-                 {ui->labelOilrecovery, "OilRecovery"},
-                 {ui->radioOpt1, "Opt0"},
-                 {ui->radioOpt2, "Opt1"},
-                 {ui->labelNightTime, "NightTime"},
-                 {ui->labelWaterFlow, "WaterFlowRate"},
-                 {ui->labelRefrigerant, "RefrigerantLeakageSensor"},
-                 {ui->radioRefrigerantNotuse, "NotUse"},
-                 {ui->radioRefrigerantUse, "Use"}});
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 
