@@ -228,26 +228,7 @@ void SettingFunction::validationCheck()
 
 void SettingFunction::changeLanguage()
 {
-    setCaptions({{ui->labelSilentMode, "SilentMode"},
-                 {ui->radioSlientModeNotuse, "Off"},
-                 {ui->radioSlientModeUse, "On"},
-                 {ui->labelStratTime, "SilentModeStartTime"},
-                 {ui->labelEndTime, "SilentModeEndTime"},
-                 {ui->labelLock, "LockTitle"},
-                 {ui->labelAll, "AllButtonLock"},
-                 {ui->radioAllButtonNone, "Release"},
-                 {ui->radioAllButtonUse, "Lock"},
-                 {ui->labelOnOff, "OnOffButtonLock"},
-                 {ui->radioOnOffButtonNone, "Release"},
-                 {ui->radioOnOffButtonUse, "Lock"},
-                 {ui->labelOperationMode, "OperationModeButtonLock"},
-                 {ui->radioOperationModeButtonNone, "Release"},
-                 {ui->radioOperationModeButtonUse, "Lock"},
-                 {ui->labelDHW, "DHWOnOffButtonLock"},
-                 {ui->radioDhwOnOffNone, "Release"},
-                 {ui->radioDhwOnOffUse, "Lock"},
-                 {ui->labelODEFunction, "ODEFunction"},
-                 {ui->labelDSR, "DefrostSnowRemove"}});
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 
