@@ -77,11 +77,4 @@ void SettingService::on_lineEditTelephone_textChanged(const QString & /*arg1*/)
     save(telephone, ui->lineEditTelephone->text());
 }
 
-void SettingService::changeLanguage()
-{
-    setCaptions({{ui->labelServiceContract, "ServiceContact"},
-                 {ui->labelOfficeName, "OfficeName"},
-                 {ui->labelInstallerName, "InstallerName"},
-                 {ui->labelTel, "Telephone"},
-                 {ui->labelTelephoneSubString, "TelephoneSubString"}});
-}
+void SettingService::changeLanguage() { setCaptions(*ui); }
