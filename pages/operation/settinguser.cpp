@@ -230,21 +230,7 @@ void SettingUser::validationCheck()
 
 void SettingUser::changeLanguage()
 {
-    setCaptions({{ui->labelTempUnit, "TemperatureUnit"},
-                 {ui->radioCelicious, "Celicious"},
-                 {ui->radioFahreheit, "Fahrenheit"},
-                 {ui->labelRemoteController, "BacklightControl"},
-                 {ui->labelScreenSaverTimer, "ScreenSaverTimer"},
-                 {ui->labelBrightness, "BRIGHTNESS"},
-                 {ui->labelDate, "Date"},
-                 {ui->labelSummerTime, "SummerTime"},
-                 {ui->radioSummerTimeNotuse, "Off"},
-                 {ui->radioSummerTimeUse, "On"},
-                 {ui->labelStartDay, "StartDay"},
-                 {ui->labelEndDay, "EndDay"},
-                 {ui->labelRemoteTheme, "DisplayTheme"},
-                 {ui->radioWhite, "White"},
-                 {ui->radioBlack, "Black"}});
+    setCaptions(*ui);
     changeLanguageInCombobox();
 }
 
