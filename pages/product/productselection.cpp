@@ -138,15 +138,4 @@ void ProductSelection::startWith(const QString &refrigerant)
     emit buttonClicked(refrigerant);
 }
 
-void ProductSelection::changeLanguage()
-{
-    setCaptions({{ui->labelProductType, "Producttype"},
-                 {ui->radioButtonAwhp, "AWHP"},
-                 {ui->radioButtonAquabox, "Aquabox"},
-                 {ui->labelProductSpec, "ProductSpec"},
-                 {ui->radioButtonMiddleTemp, "MediumTemperature"},
-                 {ui->radioButtonHighTemp, "HighTemperature"},
-                 {ui->labelRefregerantType, "RefrigerantType"},
-                 {ui->radioButtonR410, "R410A"},
-                 {ui->radioButtonR32, "R32"}});
-}
+void ProductSelection::changeLanguage() { setCaptions(*ui); }
