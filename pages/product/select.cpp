@@ -19,8 +19,6 @@ void Select::initUi()
 {
     connect(ui->newButton, &ImageButton::clicked, this, &Select::clickedNewButton);
     connect(ui->openButton, &ImageButton::clicked, this, &Select::clickedOpenButton);
-    ui->newButton->setText(tr("New"));
-    ui->openButton->setText(tr("Open"));
     ui->newButton->setStandardPixmaps();
     ui->openButton->setStandardPixmaps();
     ui->label_img_new->setPixmap(QPixmap(QStringLiteral(":/images/img_new.png")));
@@ -29,9 +27,7 @@ void Select::initUi()
 
 void Select::changeLanguage()
 {
-    ui->newButton->setText(mainDialog->languageValue(QStringLiteral("New")));
-    ui->openButton->setText(mainDialog->languageValue(QStringLiteral("Open")));
-    ui->label_newopen->setText(mainDialog->languageValue(QStringLiteral("SubText")));
+    captions::set(*ui, this, [](const QString &key) { return mainDialog->languageValue(key); });
 }
 
 void Select::clickedNewButton() { mainDialog->startNewDocument(); }
