@@ -118,10 +118,6 @@ void MainDialog::initSettingPageUi()
     connect(ui->userTabButton, &TabButton::clicked, this, &MainDialog::clickedUserTabButton);
     connect(ui->serviceTabButton, &TabButton::clicked, this, &MainDialog::clickedServiceTabButton);
     connect(ui->installationTabButton, &TabButton::clicked, this, &MainDialog::clickedInstallationTabButton);
-    ui->functionTabButton->setText(tr("Function"));
-    ui->userTabButton->setText(tr("User"));
-    ui->serviceTabButton->setText(tr("Service"));
-    ui->installationTabButton->setText(tr("Installation"));
     ui->functionTabButton->setSelected(true);
     styleTabs(FunctionTab);
     initSettingFunctionUi();

@@ -139,16 +139,10 @@ void MainDialog::loadDefaultLanguageJsonFile()
     setLanguageDocument(QJsonDocument::fromJson(*content));
 }
 
+// The tabs stand in another order in the form.
 void MainDialog::changeOwnTexts()
 {
-    plaintext::setText(ui->newButton, languageValue(QStringLiteral("New")));
-    plaintext::setText(ui->openButton, languageValue(QStringLiteral("Open")));
-    plaintext::setText(ui->saveButton, languageValue(QStringLiteral("Save")));
-    ui->labelLanguage->setText(languageValue(QStringLiteral("Language")));
-    ui->labelSlide1->setText(languageValue(QStringLiteral("ProductSelection")));
-    ui->labelSlide2->setText(languageValue(QStringLiteral("DipSwitchSettingStatus")));
-    ui->labelSlide3->setText(languageValue(QStringLiteral("Setting")));
-    ui->labelSlide4->setText(languageValue(QStringLiteral("Validation")));
+    captions::set(*ui, this, [this](const QString &key) { return languageValue(key); });
     ui->functionTabButton->setText(languageValue(QStringLiteral("Function")));
     ui->installationTabButton->setText(languageValue(QStringLiteral("Installation")));
     ui->serviceTabButton->setText(languageValue(QStringLiteral("Service")));
