@@ -16,8 +16,6 @@ void DataSave::initUi()
 {
     connect(ui->checkValidationButton, &ImageButton::clicked, this, &DataSave::clickedCheckValidationButton);
     connect(ui->fileCookingButton, &ImageButton::clicked, this, &DataSave::clickedFileCookingButton);
-    ui->checkValidationButton->setText(tr("Check Validation"));
-    ui->fileCookingButton->setText(tr("File Cooking"));
     ui->checkValidationButton->setStandardPixmaps();
     ui->fileCookingButton->setStandardPixmaps();
     ui->label_checkValidation->setPixmap(QPixmap(QStringLiteral(":/images/img_checkvalidation.png")));
