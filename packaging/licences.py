@@ -71,7 +71,8 @@ def main(head, folder, *files):
             sys.exit(f"licences: none recognised in {place}")
         shutil.copyfile(place, folder / f"{plain}.copyright")
         needed |= referred(text)
-        lines += [f"{plain}", f"    files:    {', '.join(sorted(names))}", f"    source:   {source}",
+        version = ask("dpkg-query", "-W", "-f", "${Version}", package)
+        lines += [f"{plain} {version}", f"    files:    {', '.join(sorted(names))}", f"    source:   {source}",
                   f"    licences: {'; '.join(found)}", ""]
     for name in needed:
         shutil.copyfile(COMMON / name, folder / name)
