@@ -19,6 +19,7 @@ from pathlib import Path
 import jsonschema
 
 SCHEMAS = Path(__file__).resolve().parents[2] / "packaging/parts"
+PACKAGES = (".gz", ".deb", ".zip", ".exe")
 ENTRY = re.compile(r"^(\S+) (\S+)\n    files:    (.*)\n    source:   (\S+) (\S+)\n    licences: (.*)$", re.M)
 
 
@@ -58,7 +59,7 @@ def delivered(package):
 
 
 def document(folder, version):
-    packages = sorted(path for path in folder.iterdir() if path.name.startswith("calora-configurator"))
+    packages = sorted(path for path in folder.iterdir() if path.suffix in PACKAGES)
     parts, needs = {}, []
     for package in packages:
         found = [part(match) for match in ENTRY.finditer(licences(package))]
