@@ -9,7 +9,14 @@
 
 namespace {
 
-QString folder() { return QCoreApplication::applicationDirPath() + QStringLiteral("/language"); }
+/// Beside the program, or where the Debian package keeps the configurator's.
+QString folder()
+{
+    const QDir here(QCoreApplication::applicationDirPath());
+    return here.filePath(here.exists(QStringLiteral("language"))
+                             ? QStringLiteral("language")
+                             : QStringLiteral("../lib/calora-configurator/language"));
+}
 
 /// The same letters in one way of writing them; a shell may give another than the disk.
 QString composed(const QString &name) { return name.normalized(QString::NormalizationForm_C); }

@@ -142,7 +142,7 @@ void Wizard::collect()
 void Wizard::remember()
 {
     for (QComboBox *list : dialog->findChildren<QComboBox *>()) {
-        firstItems.insert(list, itemsOf(*list));
+        firstLists.insert(list, {itemsOf(*list), list->currentIndex()});
     }
     for (const auto &page : qAsConst(controls)) {
         for (const Control &control : page) {
@@ -156,10 +156,12 @@ void Wizard::remember()
 /// To what a new window has: a load leaves some lists and radios as the document before had them.
 void Wizard::reset()
 {
-    for (auto list = firstItems.begin(); list != firstItems.end(); ++list) {
-        if (list.key()->count() != list->size() || list.key()->itemText(0) != list->value(0)) {
-            dialog->setComboItems(list.key(), *list, -1);
+    for (auto list = firstLists.begin(); list != firstLists.end(); ++list) {
+        if (list.key()->count() != list->items.size() || list.key()->itemText(0) != list->items.value(0)) {
+            dialog->setComboItems(list.key(), list->items, -1);
         }
+        const QSignalBlocker silent(list.key());
+        list.key()->setCurrentIndex(list->index);
     }
     for (auto radio = firstChecks.begin(); radio != firstChecks.end(); ++radio) {
         check(radio.key(), *radio);

@@ -45,6 +45,11 @@ private:
         QWidget *widget; ///< the first of them
     };
 
+    struct List {
+        QStringList items;
+        int index;
+    };
+
     void speakKeys();
     void openSections();
     void collect();
@@ -59,6 +64,6 @@ private:
     QStackedWidget *tabs = nullptr;
     QHash<QString, QWidget *> pages;
     QHash<QString, std::vector<Control>> controls;
-    QHash<QComboBox *, QStringList> firstItems;
+    QHash<QComboBox *, List> firstLists;
     QHash<QAbstractButton *, bool> firstChecks;
 };

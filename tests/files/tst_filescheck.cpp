@@ -286,6 +286,17 @@ void TestFilesCheck::oneFileDoesNotColourTheNext()
                          {installation("seasonalAutoOption.seasonalAutoOpMode"), QStringLiteral("?")},
                          {installation("settempLimit.heatWater.low_limit"), 65},
                          {installation("settempLimit.heatWater.high_limit"), 14}}));
+    const QString july = folder.put(
+        QStringLiteral("c.json"),
+        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.month"), 7}}));
+    const QString wrongDay = folder.put(
+        QStringLiteral("d.json"),
+        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), 31}}));
+    for (const QStringList &order :
+         {QStringList{wrongDay}, {whole, wrongDay}, {july, wrongDay}, {wrongDay, wrongDay}}) {
+        QCOMPARE(program::findings(program::check(order).value(QStringLiteral("d.json"))),
+                 QStringList{QStringLiteral("warning SettingInfo.user.DateInfo.mday")});
+    }
     const auto alone = program::check({without});
     const auto after = program::check({whole, without});
     const auto before = program::check({without, whole});
