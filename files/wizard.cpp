@@ -10,7 +10,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonObject>
-#include <QLabel>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QSignalBlocker>
@@ -20,16 +19,10 @@
 
 namespace {
 
-/// The pages in the order of the wizard, and where they lie.
-struct Place {
-    const char *page;
-    int step;
-    int tab;
-};
-
 constexpr int noTab = -1;
 
-constexpr std::array<Place, 11> places{
+/// The pages in the order of the wizard.
+constexpr std::array<WizardPlace, 11> places{
     {{"DipSwitchSettingStatus", MainDialog::DipSwitchPage, noTab},
      {"SettingFunction", MainDialog::SettingPage, MainDialog::FunctionTab},
      {"SettingUser", MainDialog::SettingPage, MainDialog::UserTab},
@@ -76,7 +69,7 @@ Wizard::Wizard()
 {
     steps = dialog->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
     tabs = dialog->findChild<QStackedWidget *>(QStringLiteral("settingStackedWidget"));
-    for (const Place &place : places) {
+    for (const WizardPlace &place : places) {
         for (QWidget *each : dialog->findChildren<QWidget *>()) {
             if (qstrcmp(each->metaObject()->className(), place.page) == 0) {
                 pages.insert(QLatin1String(place.page), each);
@@ -168,43 +161,69 @@ void Wizard::reset()
     }
 }
 
-void Wizard::show(const QString &page)
+/// As Open and a hand on the buttons would: each page gets what the one before has left. Returns what the
+/// marks tell.
+bool Wizard::walk(const QJsonDocument &document)
 {
-    QWidget *widget = pages.value(page);
-    QShowEvent event;
-    QCoreApplication::sendEvent(widget, &event);
+    dialog->setDocument(document);
+    steps->setCurrentIndex(MainDialog::ProductPage);
+    for (const WizardPlace &place : places) {
+        show(place);
+    }
+    const bool complete = dialog->members().dipSwitchDone && dialog->members().settingDone;
+    leave();
+    return complete;
+}
+
+void Wizard::show(const WizardPlace &place)
+{
+    steps->setCurrentIndex(place.step);
+    if (place.tab != noTab) {
+        tabs->setCurrentIndex(place.tab);
+    }
+}
+
+void Wizard::leave()
+{
+    tabs->setCurrentIndex(MainDialog::FunctionTab);
+    steps->setCurrentIndex(MainDialog::ValidationPage);
+    // Nothing is ever painted or laid out; what waits for that would pile up.
+    QCoreApplication::removePostedEvents(nullptr);
 }
 
 Wizard::Answer Wizard::ask(const QJsonObject &document)
 {
     Answer answer;
     reset();
-    for (const Place &place : places) {
+    answer.complete = walk(QJsonDocument(document));
+    reset();
+    for (const WizardPlace &place : places) {
+        show(place);
+        // Without what the pages before have written.
         dialog->setDocument(QJsonDocument(document));
-        steps->setCurrentIndex(place.step);
-        if (place.tab != noTab) {
-            tabs->setCurrentIndex(place.tab);
-        }
-        dialog->setDocument(QJsonDocument(document));
-        const QString page = QLatin1String(place.page);
-        if (pages.value(page)->isVisible()) {
-            show(page);
-            judge(page, document, &answer);
+        QWidget *page = pages.value(QLatin1String(place.page));
+        if (page->isVisible()) {
+            QShowEvent event;
+            QCoreApplication::sendEvent(page, &event);
+            judge(QLatin1String(place.page), document, &answer);
         }
     }
-    const DialogState &state = dialog->members();
-    answer.complete = state.dipSwitchDone && state.settingDone;
-    for (const QLabel *drawn :
-         pages.value(QStringLiteral("DipSwitchSettingStatus"))->findChildren<QLabel *>()) {
+    answer.switches = switchesOn();
+    leave();
+    return answer;
+}
+
+QStringList Wizard::switchesOn() const
+{
+    QStringList on;
+    const QWidget *page = pages.value(QStringLiteral("DipSwitchSettingStatus"));
+    for (const auto *drawn : page->findChildren<QAbstractButton *>()) {
         if (drawn->objectName().startsWith(QLatin1String("DipSwitch"))
             && drawn->text() == QLatin1String("true")) {
-            answer.switches.append(drawn->objectName());
+            on.append(drawn->objectName());
         }
     }
-    steps->setCurrentIndex(MainDialog::ValidationPage);
-    // Nothing is ever painted or laid out; what waits for that would pile up.
-    QCoreApplication::removePostedEvents(nullptr);
-    return answer;
+    return on;
 }
 
 void Wizard::judge(const QString &page, const QJsonObject &document, Answer *answer) const

@@ -15,6 +15,13 @@ class QStackedWidget;
 class QWidget;
 struct Setting;
 
+/// Where a page lies in the window: a step, and a tab of it where there are tabs.
+struct WizardPlace {
+    const char *page;
+    int step;
+    int tab;
+};
+
 /// The real wizard, asked what it would offer for a document and what it would still ask for. Its pages are
 /// shown where nobody sees them, each on the document as it stands: what showing a page writes is thrown
 /// away. Needs a QApplication, and there can be one at a time.
@@ -55,7 +62,10 @@ private:
     void collect();
     void remember();
     void reset();
-    void show(const QString &page);
+    bool walk(const QJsonDocument &document);
+    void show(const WizardPlace &place);
+    void leave();
+    QStringList switchesOn() const;
     void judge(const QString &page, const QJsonObject &document, Answer *answer) const;
     void judgeList(const Control &control, const QJsonObject &document, Findings *findings) const;
 

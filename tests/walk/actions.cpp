@@ -214,7 +214,10 @@ Walker::Action Walker::startNew()
 Walker::Action Walker::open()
 {
     const QString path = installer.folder.filePath(QStringLiteral("plant.json"));
-    const QByteArray content = mutations::file(random);
+    const auto whole = [this] {
+        return documents::standard(dice(2) == 0 ? QStringLiteral("R32") : QStringLiteral("R410")).toJson();
+    };
+    const QByteArray content = opens == Opens::Damaged ? mutations::file(random) : whole();
     testfiles::put(path, content);
     if (dice(6) == 0) {
         filedialogs::answer([this] { installer.press("openButton"); }, QString());

@@ -50,8 +50,9 @@ Walker::Languages::Languages()
                    languagefolder::marked(QStringLiteral("~")));
 }
 
-Walker::Walker(quint32 seed)
+Walker::Walker(quint32 seed, Opens whatOpens)
     : random(seed)
+    , opens(whatOpens)
     , scene(installer.window.dialog)
     , marks(installer.window.dialog, scene)
 {

@@ -29,7 +29,10 @@ protected:
 class Walker
 {
 public:
-    explicit Walker(quint32 seed);
+    /// What it opens: files that have gone wrong, or default documents alone.
+    enum class Opens { Damaged, Whole };
+
+    explicit Walker(quint32 seed, Opens opens = Opens::Damaged);
 
     /// Takes one step. Returns what doesn't hold after it, or nothing.
     QStringList step();
@@ -37,6 +40,9 @@ public:
     QStringList trail() const { return lastSteps; }
     /// How often each kind of step was taken.
     QMap<QString, int> counts() const { return tally; }
+
+    /// The document as it stands after the last step.
+    const QJsonDocument &document() const { return scene.document(); }
 
     /// The controls that a walk touches: "Page/control".
     QStringList controlNames() const;
@@ -82,6 +88,7 @@ private:
 
     Installer installer;
     QRandomGenerator random;
+    const Opens opens;
     Scene scene;
     Marks marks;
     Selections selections;
