@@ -1,12 +1,11 @@
 // calora-files: checks, compares and prints settings files from the command line.
 
 #include "files/check.h"
+#include "files/diff.h"
 #include "files/options.h"
 #include "files/printing.h"
 
 #include <QApplication>
-
-#include <cstdio>
 
 namespace {
 
@@ -14,7 +13,7 @@ namespace {
 void discardMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg) {
-        std::fprintf(stderr, "%s\n", qPrintable(message));
+        printing::complain(message);
     }
 }
 
@@ -49,9 +48,11 @@ int run(const Options &options)
     switch (options.command) {
     case Options::Check:
         return check::run(options);
+    case Options::Diff:
+        return diff::run(options);
     case Options::Help:
     case Options::Version:
-        std::fputs(qPrintable(options.message), stdout);
+        printing::say(options.message);
         return 0;
     default:
         printing::complain(options.message);

@@ -104,6 +104,13 @@ std::optional<Texts> printing::language(const QString &name)
     return texts;
 }
 
+void printing::say(const QString &text)
+{
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    out << text;
+}
+
 void printing::complain(const QString &message)
 {
     QTextStream err(stderr);
@@ -123,7 +130,7 @@ Printer::Printer(const Options &theOptions)
 void Printer::progress()
 {
     if (onTerminal) {
-        std::fprintf(stderr, "\r%d of %d ", sums.files + 1, static_cast<int>(options.files.size()));
+        QTextStream(stderr) << '\r' << sums.files + 1 << " of " << options.files.size() << ' ';
         progressShown = true;
     }
 }
@@ -131,7 +138,7 @@ void Printer::progress()
 void Printer::clearProgress()
 {
     if (progressShown) {
-        std::fputs("\r\033[K", stderr);
+        QTextStream(stderr) << "\r\033[K";
         progressShown = false;
     }
 }

@@ -49,6 +49,8 @@ namespace printing {
 QString plain(const QString &text);
 /// The texts of the language; nothing, and a message, when there is none of that name.
 std::optional<Texts> language(const QString &name);
+/// To the standard output as it stands.
+void say(const QString &text);
 void complain(const QString &message);
 
 } // namespace printing

@@ -6,9 +6,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int longestValue = 60;
+constexpr int longestList = 10;
 
 /// Where the parser stopped, counted in characters as an editor counts them.
 QString position(const QByteArray &content, int offset)
@@ -68,7 +71,10 @@ QString reading::told(const QJsonValue &value)
     if (value.isUndefined()) {
         return {};
     }
-    if (value.isObject() || value.isArray()) {
+    const QJsonArray list = value.toArray();
+    const bool isShort = list.size() <= longestList
+        && std::none_of(list.begin(), list.end(), [](const QJsonValue &each) { return !each.isDouble(); });
+    if (value.isObject() || (value.isArray() && !isShort)) {
         return value.isObject() ? QStringLiteral("{…}") : QStringLiteral("[…]");
     }
     const QString text = compact(value.isString() ? value.toString().left(longestValue + 1) : value);

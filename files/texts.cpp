@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 namespace {
 
@@ -36,11 +37,12 @@ std::optional<Texts> Texts::load(const QString &name)
     const auto content = files::read(found == names.end()
                                          ? QStringLiteral(":/language/English.json")
                                          : folder() + QLatin1Char('/') + *found + QStringLiteral(".json"));
+    static const QRegularExpression brokenWord(QStringLiteral("-\\n(?=\\p{Ll})"));
     const QJsonObject map = QJsonDocument::fromJson(content.value_or(QByteArray())).object();
     Texts texts;
     for (auto each = map.begin(); each != map.end(); ++each) {
         // The window breaks long captions.
-        const QString text = each->toString().simplified();
+        const QString text = each->toString().remove(brokenWord).simplified();
         if (!text.isEmpty()) {
             texts.texts.insert(each.key(), text);
         }
