@@ -1,5 +1,6 @@
 #include "files/program.h"
 
+#include "support/schema.h"
 #include <QRandomGenerator>
 #include <QtTest>
 
@@ -55,12 +56,6 @@ QVector<QString> leaves(const QJsonDocument &document, QJsonValue::Type type)
     return paths;
 }
 
-QStringList writtenPaths()
-{
-    return QString::fromUtf8(testfiles::content(QStringLiteral(TEST_DATA_DIR "/written_paths.txt")))
-        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-}
-
 Damaged with(const QJsonDocument &document, const QString &path, const QVariant &value)
 {
     return {documents::with(document, {{path, value}}).toJson(QJsonDocument::Compact), path};
@@ -82,7 +77,7 @@ Damaged anotherType(const QJsonDocument &document, Dice &dice)
 /// flags.
 Damaged damagedWord(const QJsonDocument &document, Dice &dice)
 {
-    const QStringList written = writtenPaths();
+    const QStringList written = schema::written();
     QVector<QString> words;
     for (const QString &path : leaves(document, QJsonValue::String)) {
         const QString word = valueAt(document, path).toString();
@@ -110,7 +105,7 @@ Damaged damagedWord(const QJsonDocument &document, Dice &dice)
 Damaged beyondEveryList(const QJsonDocument &document, Dice &dice)
 {
     QVector<QString> numbers;
-    for (const QString &path : writtenPaths()) {
+    for (const QString &path : schema::written()) {
         if (valueAt(document, path).isDouble()) {
             numbers.append(path);
         }
