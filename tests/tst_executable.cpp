@@ -22,11 +22,11 @@ const QByteArray firstMessage = "main() release mode\n";
 const QString own = QFileInfo(QStringLiteral(CALORA_EXECUTABLE)).fileName();
 
 /// What a helper program prints.
-QString ask(const QString &program, const QStringList &arguments)
+QString ask(const QString &program, const QStringList &arguments, int timeout = 10000)
 {
     QProcess process;
     process.start(program, arguments);
-    process.waitForFinished(10000);
+    process.waitForFinished(timeout);
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
@@ -54,13 +54,7 @@ public:
         process.setWorkingDirectory(with.workingDirectory.isEmpty() ? folder : with.workingDirectory);
         process.start(folder + '/' + own, with.arguments);
         process.waitForStarted();
-        const QStringList search{
-            "search", "--onlyvisible",        "--all", "--pid", QString::number(process.processId()),
-            "--name", "^Calora configurator$"};
-        QElapsedTimer waited;
-        for (waited.start(); window.isEmpty() && waited.elapsed() < 20000; QTest::qWait(50)) {
-            window = ask("xdotool", search);
-        }
+        window = find("Calora configurator");
     }
     ~Run()
     {
@@ -98,14 +92,10 @@ public:
     /// blinks.
     QImage pictureOf(const QString &title, const QImage &expected = {}) const
     {
-        QString other;
-        const QStringList search{
-            "search", "--onlyvisible",  "--all", "--pid", QString::number(process.processId()),
-            "--name", '^' + title + '$'};
+        const QString other = find(title);
         QImage before;
         for (int tries = 0; tries < 60; ++tries) {
             QTest::qWait(100);
-            other = ask("xdotool", search);
             const QImage now = other.isEmpty()
                 ? QImage()
                 : QGuiApplication::primaryScreen()->grabWindow(other.toULongLong()).toImage();
@@ -146,6 +136,15 @@ public:
     QByteArray standardError() { return process.readAllStandardError(); }
 
 private:
+    /// The windows of that title, once there is one.
+    QString find(const QString &title) const
+    {
+        return ask("xdotool",
+                   {"search", "--sync", "--onlyvisible", "--all", "--pid",
+                    QString::number(process.processId()), "--name", '^' + title + '$'},
+                   20000);
+    }
+
     QProcess process;
     QString window;
 };

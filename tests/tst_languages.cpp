@@ -44,13 +44,16 @@ QString difference(const Move &english, const Move &other)
     return {};
 }
 
-/// How much of a text of several lines a font needs.
+/// How much of a text of several lines a font needs. The same texts come again on page after page.
 int widthOf(const QWidget *widget, const QString &text)
 {
-    int width = 0;
-    const auto lines = text.split('\n');
-    for (const QString &line : lines) {
-        width = qMax(width, widget->fontMetrics().horizontalAdvance(line.trimmed()));
+    static QHash<QString, int> known;
+    int &width = known[widget->font().key() + text];
+    if (width == 0) {
+        const auto lines = text.split('\n');
+        for (const QString &line : lines) {
+            width = qMax(width, widget->fontMetrics().horizontalAdvance(line.trimmed()));
+        }
     }
     return width;
 }

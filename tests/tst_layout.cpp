@@ -136,6 +136,7 @@ void TestLayout::hasRoom()
     QFETCH(QString, unit);
     QFETCH(QString, refrigerant);
     Window window;
+    window.stopPainting();
     window.dialog.resize(size);
     QTRY_COMPARE(window.dialog.size(), size);
     if (longer) {
@@ -166,6 +167,7 @@ void TestLayout::controlsStandInOneColumn()
     QFETCH(QString, refrigerant);
     constexpr int roomOfWord = 44;
     Window window;
+    window.stopPainting();
     int measured = 0;
     Tour tour(window, refrigerant);
     for (const Tour::Stop &stop : tour.stops()) {
@@ -228,6 +230,7 @@ void TestLayout::pagesEndAtOneEdge()
 {
     QFETCH(QSize, size);
     Window window;
+    window.stopPainting();
     window.dialog.resize(size);
     QTRY_COMPARE(window.dialog.size(), size);
     Tour tour(window, QStringLiteral("R32"));

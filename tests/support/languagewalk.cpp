@@ -9,7 +9,7 @@ namespace {
 const QString mark = QStringLiteral("~");
 
 // The longest list whose items aren't numbers has as many.
-constexpr int rounds = 7;
+constexpr int mostWords = 7;
 
 void copyLanguages()
 {
@@ -35,6 +35,7 @@ QString nameOf(const QWidget *list)
 
 LanguageWalk::LanguageWalk()
 {
+    window.stopPainting();
     copyLanguages();
     window.dialog.rebuildLanguageMenu();
     findTranslated();
@@ -123,6 +124,7 @@ QVector<Move> LanguageWalk::moveLists(const QString &language, const QJsonDocume
                 moveList(list, english || Window::items(list) != englishItems.value(list));
             }
         }
+        const int rounds = mostItems();
         for (int round = 0; round < rounds; ++round) {
             reloadLists(round);
         }
@@ -144,6 +146,18 @@ void LanguageWalk::moveList(QComboBox *list, bool told)
         moveTo(index);
     }
     moveTo(start);
+}
+
+// Of a list of words on the page that is shown.
+int LanguageWalk::mostItems() const
+{
+    int most = 1;
+    for (const QComboBox *list : translated) {
+        if (list->isVisible() && list->isEnabled() && list->count() <= mostWords) {
+            most = qMax(most, list->count());
+        }
+    }
+    return most;
 }
 
 // Each list at another item than in the round before, so that every item of the short ones is loaded once.

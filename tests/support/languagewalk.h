@@ -40,6 +40,7 @@ private:
     void expandSections() const;
     void findTranslated();
     void moveList(QComboBox *list, bool told);
+    int mostItems() const;
     void reloadLists(int round);
 
     int shownTab = 0;

@@ -5,6 +5,7 @@
 #include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -87,13 +88,23 @@ void measureCombo(QStringList &faults, const QComboBox *combo)
     const QRect room = combo->style()
                            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
                            .adjusted(1, 0, -1, 0);
+    // The same items come again on page after page.
+    static QHash<QString, QSize> known;
+    const QString font = combo->font().key();
     QString widest;
+    QSize needed;
     for (int index = 0; index < combo->count(); ++index) {
-        if (sizeOf(combo, combo->itemText(index)).width() >= sizeOf(combo, widest).width()) {
-            widest = combo->itemText(index);
+        const QString text = combo->itemText(index);
+        QSize &size = known[font + text];
+        if (!size.isValid()) {
+            size = sizeOf(combo, text);
+        }
+        if (size.width() >= needed.width()) {
+            widest = text;
+            needed = size;
         }
     }
-    compare(faults, combo, widest, sizeOf(combo, widest), room.size());
+    compare(faults, combo, widest, needed, room.size());
 }
 
 // A line scrolls, so its text may be wider than the line; it has one row whatever it holds.

@@ -48,6 +48,9 @@ public:
         return widget;
     }
 
+    /// From now on nothing is painted, for tests that show many pages and look at none; layouts go on.
+    void stopPainting() { dialog.setUpdatesEnabled(false); }
+
     /// Puts a document in force, as Open does, and °C unless told otherwise. No page is loaded by this.
     void use(const QJsonDocument &document, const QString &unit = QStringLiteral("CENTIGRADE"));
 
