@@ -5,19 +5,20 @@
 
 namespace {
 
-/// Who asks, and for which keys. "1:" and "2:" stand before a key that only a document of one circuit asks
-/// for, and before one that takes two circuits or a flag.
+/// Who asks, and for which keys; `more` follows them. "1:" and "2:" stand before a key that only a document
+/// of one circuit asks for, and before one that takes two circuits or a flag.
 struct Part {
     const char *name;
     const char *keys;
+    const char *more = "";
 };
 
 // What cooling and heating have in common.
-#define WATER                                                                                                \
-    "TemperatureRange IndoorAirTemp Min Max WaterTemp Min Max TemperatureControl ControlMode Auto Constant " \
-    "MainZoneTemp 1:ConstantWaterTemp 2:WaterTempRoom2 THOnOffCriteria IndoorAirTemp WaterTemp "             \
-    "WaterPumpnOperationTimer OperationContinue TimeSetting ONTimer OFFTimer "                               \
-    "Outlet Inlet STEP0 STEP1 STEP2 STEP3 OperationMinute"
+constexpr auto water =
+    "TemperatureRange IndoorAirTemp Min Max WaterTemp Min Max TemperatureControl ControlMode Auto Constant "
+    "MainZoneTemp 1:ConstantWaterTemp 2:WaterTempRoom2 THOnOffCriteria IndoorAirTemp WaterTemp "
+    "WaterPumpnOperationTimer OperationContinue TimeSetting ONTimer OFFTimer "
+    "Outlet Inlet STEP0 STEP1 STEP2 STEP3 OperationMinute";
 
 constexpr Part parts[] = {
     {"window",
@@ -39,8 +40,8 @@ constexpr Part parts[] = {
      "SilentMode Off On SilentModeStartTime SilentModeEndTime LockTitle AllButtonLock Release Lock "
      "OnOffButtonLock Release Lock OperationModeButtonLock Release Lock DHWOnOffButtonLock Release Lock "
      "ODEFunction DefrostSnowRemove STEP0 STEP1 STEP2 STEP3"},
-    {"InstallationCool", "Cool ControlBasisTemp forcedStopTemp FanCoilUnit NotUse Use WaterTemp " WATER},
-    {"InstallationHeat", "Heat ControlBasisTemp " WATER},
+    {"InstallationCool", "Cool ControlBasisTemp forcedStopTemp FanCoilUnit NotUse Use WaterTemp", water},
+    {"InstallationHeat", "Heat ControlBasisTemp", water},
     {"InstallationaAuto",
      "Automode OutdoorTempDependentMode OutdoorTempRange IndoorAirTempRange WaterTempRange Max Max Max "
      "Min Min Min SeasonalAutoMode HeatingOnly CoolingOnly Both OutdoorTempRange CoolingRange HeatingRange "
@@ -79,7 +80,7 @@ constexpr Part parts[] = {
 QStringList keysOf(const Part &part, int circuits)
 {
     QStringList keys;
-    const QStringList words = QString(part.keys).split(' ');
+    const QStringList words = QString(part.keys).append(' ').append(part.more).split(' ', Qt::SkipEmptyParts);
     for (const QString &word : words) {
         const int colon = word.indexOf(':');
         if (colon < 0 || word.left(colon).toInt() == circuits) {
