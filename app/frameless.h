@@ -29,7 +29,7 @@ public:
         BottomRightEdge = 128
     };
 
-    /// Without `resizable` no edge is ever found. The target deletes this before it goes.
+    /// Without `resizable` no edge is ever found. The target deletes this before it is destroyed.
     FrameLess(QWidget *target, bool resizable);
     ~FrameLess() override;
 

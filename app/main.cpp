@@ -14,7 +14,7 @@ void refuseScaling()
     for (const char *variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_DEVICE_PIXEL_RATIO"}) {
         qunsetenv(variable);
     }
-    // Goes before the desktop's own setting, which would enlarge the texts alone.
+    // Takes precedence over the desktop's own setting, which would enlarge the texts alone.
     qputenv("QT_FONT_DPI", "96");
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);

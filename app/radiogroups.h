@@ -6,7 +6,7 @@ class QWidget;
 namespace radiogroups {
 
 /// Lets Tab stop once in each group of the window: at the radio that has the focus, else at the one that is
-/// checked, else at the first that can be chosen. Arrows go about within the group.
+/// checked, else at the first that can be chosen. Arrow keys move within the group.
 void placeTabStops(const QWidget *window);
 
 } // namespace radiogroups

@@ -72,8 +72,8 @@ RadioRing::RadioRing(QWidget *window)
     }
 }
 
-// A focus frame hides when its widget lies outside what is seen of a page, and stays so when the page scrolls
-// there.
+// A focus frame hides when its widget lies outside the visible part of a page, and stays hidden when the page
+// scrolls there.
 bool RadioRing::eventFilter(QObject *watched, QEvent *event)
 {
     const bool taken = QFocusFrame::eventFilter(watched, event);

@@ -13,8 +13,8 @@
 
 namespace {
 
-// Far more than any list needs, and as many as are filled before a hand notices. Limits of a damaged document
-// could ask for thousands of millions.
+// Far more than any list needs, and as many as are filled without a noticeable delay. Limits of a damaged
+// document could ask for thousands of millions.
 constexpr int longestList = 30000;
 
 int numberBefore(const QString &text, int suffixLength)

@@ -4,7 +4,7 @@
 
 class LetterItem;
 
-/// The rows of the language editor. It takes its rows along when it goes.
+/// The rows of the language editor. It deletes its rows when it is deleted.
 class LanguageList : public QListWidget
 {
     Q_OBJECT

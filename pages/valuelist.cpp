@@ -34,7 +34,7 @@ void ValueList::showPopup()
         itemPainter = new QStyledItemDelegate(this);
         setItemDelegate(itemPainter);
     }
-    // Each item measured by itself would keep a hand waiting.
+    // Measuring each item by itself would delay the opening noticeably.
     constexpr int longList = 1000;
     if (auto *rows = qobject_cast<QListView *>(view())) {
         rows->setUniformItemSizes(count() > longList);

@@ -28,7 +28,7 @@ Range coolLow(const CoolWords &words);
 Range coolHigh(const CoolWords &words);
 
 Range heatLow(bool heaterInstalled);
-/// `outlet`: the control goes by the outlet temperature.
+/// `outlet`: the control follows the outlet temperature.
 Range heatHigh(bool r32, bool outlet);
 
 /// How the constant temperatures of two circuits stand to each other. The main zone is circuit 1.

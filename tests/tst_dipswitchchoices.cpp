@@ -300,7 +300,7 @@ void TestDipSwitchChoices::slaveIsForgotten()
 }
 
 // A load finds nothing of what the master radio writes either, and leaves that radio checked: without the
-// silent mode priority, which goes by the document.
+// silent mode priority, which follows the document.
 void TestDipSwitchChoices::masterStays()
 {
     load(everything());

@@ -308,7 +308,7 @@ void TestProductSelection::showingMarksTheStep()
                                             "background-image: url(:/images/btn_step_1_focus.png);}"));
 }
 
-// The load goes by the radio that was checked before it clicks AWHP.
+// The load follows the radio that was checked before it clicks AWHP.
 void TestProductSelection::showingAnAquaboxStartsR410()
 {
     Window::find(page, "radioButtonHighTemp")->setEnabled(true);

@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 
 // The headers of the Installation tab's sections: a click on the title line is one on the arrow, and a
-// section that a hand opens comes into view.
+// section that the user opens is scrolled into view.
 class TestSections : public QObject
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ void row(const char *list, const QVariant &argument, const char *key, const QVar
     row(list, argument, unit) << QVariantMap() << QVariantMap{{installation(key), value}};
 }
 
-/// A slot that goes by the list, for a document in which the key's value isn't what the list shows.
+/// A slot that follows the list, for a document in which the key's value isn't what the list shows.
 void position(const char *list, const QVariant &argument, const char *key, const QVariant &stored,
               const QVariant &value)
 {

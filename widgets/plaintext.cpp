@@ -4,7 +4,7 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
-// Told of at QKeySequence; no header declares it.
+// Documented at QKeySequence; no header declares it.
 void Q_GUI_EXPORT qt_set_sequence_auto_mnemonic(bool on);
 
 namespace {

@@ -307,7 +307,7 @@ void InstallationaAuto::chooseOutdoor(const char *key, const QString &text)
     validationCheck();
 }
 
-// Whatever the section offers is valid, so it has nothing to find fault with.
+// Whatever the section offers is valid, so the check always passes.
 void InstallationaAuto::validationCheck()
 {
     qDebug() << "InstallationaAuto::validationCheck : " << true;

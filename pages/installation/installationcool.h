@@ -8,7 +8,7 @@ namespace Ui {
 class InstallationCool;
 }
 
-/// Cooling: the water temperature that the control goes by, the water cut-off, the limits, automatic or
+/// Cooling: the water temperature that the control follows, the water cut-off, the limits, automatic or
 /// constant water temperature, the thermo criteria and the cycling of the water pump. Temperatures are in °C.
 class InstallationCool : public WaterSection
 {
@@ -64,7 +64,7 @@ private slots:
     void validationCheck() override;
 
 public slots:
-    /// Sets the section's texts from the language in force; one of them hangs on the number of circuits.
+    /// Sets the section's texts from the language in force; one of them depends on the number of circuits.
     void changeLanguage();
 
 private slots:

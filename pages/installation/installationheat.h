@@ -8,7 +8,7 @@ namespace Ui {
 class InstallationHeat;
 }
 
-/// Heating: the water temperature that the control goes by, the limits, automatic or constant water
+/// Heating: the water temperature that the control follows, the limits, automatic or constant water
 /// temperature, the thermo criteria and the cycling of the water pump. Temperatures are in °C.
 class InstallationHeat : public WaterSection
 {
@@ -59,7 +59,7 @@ private slots:
     void validationCheck() override;
 
 public slots:
-    /// Sets the section's texts from the language in force; one of them hangs on the number of circuits.
+    /// Sets the section's texts from the language in force; one of them depends on the number of circuits.
     void changeLanguage();
 
 private slots:

@@ -92,7 +92,7 @@ void InstallationSystemAquabox::loadCombination()
     if (oilRecovery == QLatin1String("CLR")) {
         ui->radioOpt1->setChecked(true);
     } else {
-        // A stored "SET" comes up unchecked, on purpose: the user has to choose again.
+        // A stored "SET" loads unchecked, on purpose: the user has to choose again.
         uncheck({ui->radioOpt2});
     }
 }

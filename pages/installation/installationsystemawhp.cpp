@@ -290,7 +290,7 @@ void InstallationSystemAWHP::on_combo3rdHysterisis_currentTextChanged(const QStr
     save("boilerOfThirdParty.thirdPartyHysterisis", shownValue(Shown::Kelvin, text));
 }
 
-// The messages go under the name of the system section.
+// The messages name the system section.
 void InstallationSystemAWHP::validataionCheck()
 {
     const MainDialog *dialog = mainDialog;

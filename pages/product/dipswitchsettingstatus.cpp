@@ -189,7 +189,7 @@ bool DipSwitchSettingStatus::loadPair(const char *flagName, QRadioButton *set, Q
     return isOn;
 }
 
-// With both flags set the radio says both steps, and setElectricHeater() goes by the first.
+// With both flags set the radio says both steps, and setElectricHeater() follows the first.
 void DipSwitchSettingStatus::loadElectricHeater()
 {
     const QString heater1 = text(flagPath("is_heater1"));

@@ -26,7 +26,7 @@ QStringList counted(int count)
 ComboRule hour(const char *name, const QString &path)
 {
     return {name, comborules::fixed(counted(24)), [path](const Scene &scene, const QComboBox &combo) {
-                // 12 "PM" comes up as midnight.
+                // 12 "PM" shows as midnight.
                 const bool afternoon = scene.word(path + QStringLiteral(".ampm")) == QLatin1String("PM");
                 const int shown = scene.number(path + QStringLiteral(".hour")) + (afternoon ? 12 : 0);
                 return qMax(0, find(combo, twoDigits(afternoon && shown == 24 ? 0 : shown)));
@@ -69,7 +69,7 @@ ComboRule::Shown dated(const QString &path)
     };
 }
 
-/// What isn't listed comes up as the first item.
+/// What isn't listed shows as the first item.
 ComboRule::Shown summerTime(const QString &path)
 {
     return [path](const Scene &scene, const QComboBox &combo) {

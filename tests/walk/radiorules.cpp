@@ -103,7 +103,7 @@ std::optional<QString> meter(const Scene &scene)
     }
 }
 
-/// A stored choice of the second comes up with neither.
+/// A stored choice of the second checks neither.
 std::optional<QString> oilRecovery(const Scene &scene)
 {
     if (!scene.isSet(installation("combination200.combiValue"))) {

@@ -10,7 +10,7 @@ namespace {
 constexpr int usualSteps = 1000;
 constexpr quint32 usualSeed = 20261121;
 
-/// Refrigerants replace the document, and these two are hidden for good.
+/// Refrigerants replace the document, and these two stay hidden.
 const QStringList &withoutRow()
 {
     static const QStringList names{QStringLiteral("ProductSelection/radioButtonR32"),
