@@ -178,8 +178,8 @@ void MainDialog::on_dipSwitchButton_clicked()
     }
 }
 
-// The tabs are coloured as for the Function tab though the shown tab stays: the highlight may disagree with
-// it.
+// Oddity 40: the tabs are coloured as for the Function tab though the shown tab stays: the highlight may
+// disagree with it.
 void MainDialog::on_settingButton_clicked()
 {
     if (state.filePath.isEmpty()) {

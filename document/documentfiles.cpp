@@ -64,7 +64,7 @@ bool MainDialog::openNewJsonFile(const QString &refrigerant)
     return true;
 }
 
-// The unit of the display stays that of the last New, whatever the opened file says.
+// Oddity 32: the unit of the display stays that of the last New, whatever the opened file says.
 bool MainDialog::openJsonFile()
 {
     const QString selectedFile = QFileDialog::getOpenFileName(this, tr("Json File"), dialogDirectory(),
@@ -89,7 +89,7 @@ bool MainDialog::openJsonFile()
     return true;
 }
 
-// What isn't JSON gives a null document and counts as loaded all the same.
+// Oddity 48: what isn't JSON gives a null document and counts as loaded all the same.
 bool MainDialog::loadJsonData(const QString &filePath)
 {
     qDebug() << "Load Json Data!!";

@@ -9,7 +9,7 @@ QMap<int, int> makeTable()
 {
     constexpr int lowest = -50;
     constexpr int highest = 120;
-    // The next °C shows the same °F as these.
+    // Oddity 16: the next °C shows the same °F as these.
     constexpr std::array<int, 18> doubled{-47, -32, -27, -19, -16, -6, 4,  14,  24,
                                           34,  44,  54,  64,  74,  84, 94, 104, 114};
     QMap<int, int> table;

@@ -71,7 +71,7 @@ QJsonValue changedMember(const QJsonValue &member, const PathHead &head, const Q
         Util::modifyJsonValue(object, head.rest, value);
         return object;
     }
-    // The rest of the path is dropped: the missing name takes the value itself.
+    // Oddity 51: the rest of the path is dropped: the missing name takes the value itself.
     return value;
 }
 
@@ -108,7 +108,7 @@ void Util::modifyJsonValue(QJsonValue &destValue, const QString &path, const QJs
     const PathHead head = splitPath(path);
     if (destValue.isArray()) {
         QJsonArray array = destValue.toArray();
-        // An element is fetched by its name read as a number and stored by the index in brackets.
+        // Oddity 52: an element is fetched by its name read as a number and stored by the index in brackets.
         storeElement(array, head.index, changedMember(array.at(head.name.toInt()), head, value));
         destValue = array;
     } else if (destValue.isObject()) {

@@ -91,8 +91,8 @@ void MainDialog::setComboByValue(QComboBox *comboBox, int value, int unit)
     if (index < 0) {
         qDebug() << "# Error index setting" << comboBox->objectName() << " #";
         qDebug() << value << text;
-        // An item with a suffix reads as 0, so a positive value lands on the last item and any other on the
-        // first.
+        // Oddity 33: an item with a suffix reads as 0, so a positive value lands on the last item and any
+        // other on the first.
         const bool aboveFirst = unit != PlainNumber && value > comboBox->itemText(0).toInt();
         index = aboveFirst ? comboBox->count() - 1 : 0;
     }

@@ -116,7 +116,7 @@ void LanguageMenu::on_loadButton_clicked()
     mainDialog->loadLanguageAnotherPath(QFileDialog::getOpenFileName());
 }
 
-// The path isn't that of the row's file, on purpose: the button reaches only a file put there by hand.
+// Oddity 46: the path isn't that of the row's file: the button reaches only a file put there by hand.
 void LanguageMenu::clickedModifyButton(const QString &language)
 {
     closeMenu();

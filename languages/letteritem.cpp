@@ -23,11 +23,11 @@ void LetterItem::setData(const QString &reference, const QString &editText)
 
 QString LetterItem::editText() const { return ui->lineEdit->text(); }
 
-// Empties the row on the screen only: setting the text is no edit, so the key keeps its old text.
+// Oddity 43: empties the row on the screen only: setting the text is no edit, so the key keeps its old text.
 void LetterItem::on_ButtonRemove_clicked() { ui->lineEdit->setText(QString()); }
 
-// Keys with equal texts share the first of them in sorted order: a row knows its text, not its key. A text
-// that the language in force has lost since goes to the empty key.
+// Oddity 42: keys with equal texts share the first of them in sorted order: a row knows its text, not its
+// key. A text that the language in force has lost since goes to the empty key.
 void LetterItem::on_lineEdit_textEdited(const QString &arg1)
 {
     mainDialog->setLanguageSnapshotText(mainDialog->languageKey(ui->labelReference->text()), arg1);

@@ -95,7 +95,7 @@ void MainDialog::loadLanguageData(const QString &iniPath)
     changeLanguage();
 }
 
-// The message names another class; it stands for every caller.
+// Oddity 49: the message names another class; it stands for every caller.
 void MainDialog::saveLanguageName(const QString &name)
 {
     if (!files::replaceContent(state.languageIniPath, name.toUtf8())) {
@@ -127,7 +127,7 @@ void MainDialog::loadLanguageAnotherPath(const QString &filePath)
     changeLanguage();
 }
 
-// A path from the root of the drive, on purpose: neither the language folder nor the resource of that name.
+// Oddity 47: a path from the root of the drive: neither the language folder nor the resource of that name.
 void MainDialog::loadDefaultLanguageJsonFile()
 {
     const QString path = QStringLiteral("/language/English.json");
@@ -174,7 +174,7 @@ void MainDialog::initLanguageMenu()
 
 void MainDialog::rebuildLanguageMenu() { initLanguageMenu(); }
 
-// A second form of the toggle that the filter does; nothing connects it.
+// Oddity 50: a second form of the toggle that the filter does; nothing connects it.
 void MainDialog::languageMenu()
 {
     constexpr int top = 100;

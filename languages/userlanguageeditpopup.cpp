@@ -29,7 +29,7 @@ void UserLanguageEditPopup::setNewLanguage(bool isNew) { isNewLanguage = isNew; 
 
 void UserLanguageEditPopup::setLanguageFilePath(const QString &path) { languageFilePath = path; }
 
-// Nothing calls it.
+// Oddity 50: nothing calls it.
 void UserLanguageEditPopup::initUi()
 {
     ui->listWidget->clear();
@@ -63,7 +63,7 @@ void UserLanguageEditPopup::addLanguageData()
     }
 }
 
-// The message names another class. The snapshot, which Save writes, stays as it is.
+// Oddity 45: the message names another class. The snapshot, which Save writes, stays as it is.
 void UserLanguageEditPopup::loadLanguageFile(const QString &filePath)
 {
     const auto content = files::read(filePath);
@@ -95,7 +95,7 @@ void UserLanguageEditPopup::on_pushButtonSearch_clicked() { searchText(ui->searc
 
 void UserLanguageEditPopup::on_searchLineEdit_textEdited(const QString &text) { searchText(text); }
 
-// The dialog starts in the folder "languages", not in the one that holds the languages, on purpose.
+// Oddity 44: the dialog starts in the folder "languages", not in the one that holds the languages.
 void UserLanguageEditPopup::on_openButton_clicked()
 {
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/languages");

@@ -26,7 +26,7 @@ Range highLimitOfAwhp(const Words &words)
     return {50, isSet(words.isR32) ? 55 : 50};
 }
 
-// The list of the one item 0 is meant.
+// Oddity 19: the list of the one item 0 is meant.
 Range highLimitOfAquabox(const Words &words)
 {
     if (!isClear(words.isHotwaterTankHeaterUse)) {

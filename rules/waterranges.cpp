@@ -9,7 +9,7 @@ namespace {
 const QLatin1String set("SET");
 const QLatin1String clr("CLR");
 
-// A single item for -1: there is no range for these settings.
+// Oddity 18: a single item for -1: there is no range for these settings.
 constexpr Range none{-1, -1};
 
 Range coolLowWithFanCoil(const CoolWords &words)

@@ -36,7 +36,7 @@ int InstallationaAuto::current(int modelName) const
     return celsius(mainDialog->textWithoutTwoChars(box(modelName)->currentText()));
 }
 
-// Compared as it stands, unlike where it decides what is shown.
+// Oddity 34: compared as it stands, unlike where it decides what is shown.
 bool InstallationaAuto::mainZoneOff()
 {
     return text(installation("circuitMainZone.enableMainZone")) == QLatin1String("CLR");
@@ -104,7 +104,7 @@ void InstallationaAuto::refreshTempRange(int type)
     }
 }
 
-// What the text says is saved, also where narrowing the lists has blanked the box.
+// Oddity 20: what the text says is saved, also where narrowing the lists has blanked the box.
 void InstallationaAuto::choose(int modelName, const QString &text)
 {
     const autoengine::Row *row = autoengine::row(modelName);

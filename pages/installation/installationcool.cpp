@@ -8,7 +8,7 @@
 
 namespace {
 
-// The sense is inverted: "SET" is no fan coil unit.
+// Oddity 1: the sense is inverted: "SET" is no fan coil unit.
 const char *const fanCoilPath = "UFH_stop.FCU_disable";
 const char *const cutOffPath = "UFH_stop.watertemp";
 
@@ -167,7 +167,7 @@ void InstallationCool::on_radioFanCoilNotuse_clicked()
     announceChange();
 }
 
-// The seasonal defaults stay as they are here, unlike above.
+// Oddity 38: the seasonal defaults stay as they are here, unlike above.
 void InstallationCool::on_radioFanCoilUse_clicked()
 {
     chooseFanCoil(QStringLiteral("CLR"));
@@ -270,7 +270,7 @@ void InstallationCool::changeLanguage()
 
 void InstallationCool::changeLanguageInCombobox() { refillLists(); }
 
-// Compared as it stands: the word in another case counts as the inlet.
+// Oddity 34: compared as it stands: the word in another case counts as the inlet.
 void InstallationCool::initSeasonalAutoRange()
 {
     const bool outlet = text(rules.controlBasis) == QLatin1String("EXIT");

@@ -30,8 +30,8 @@ QStringList wholeHours()
     return hours;
 }
 
-// In the order in which a load selects. Two steps of a list aren't those of its value: the holding time goes
-// by 5 in the list and by 1 in the value, and the stop time stores the index and no minutes.
+// Oddity 10: in the order in which a load selects. Two steps of a list aren't those of its value: the holding
+// time goes by 5 in the list and by 1 in the value, and the stop time stores the index and no minutes.
 std::vector<ValueRow> valueRows(const Ui::InstallationDWH &ui)
 {
     return {
@@ -93,7 +93,7 @@ void InstallationDWH::initUi()
 void InstallationDWH::initDefaultTempRange()
 {
     mainDialog->setRangeValueInComboBox(ui->comboTankHeatingHysterisis, 2, 4, MainDialog::Kelvin, 1);
-    // Compared as it stands, unlike the other flags.
+    // Oddity 34: compared as it stands, unlike the other flags.
     const bool heaterOffered = text(flagPath("isHotwaterTankHeaterUse")) == QLatin1String("SET");
     mainDialog->setRangeValueInComboBox(ui->comboTankWaterMin, 1, heaterOffered ? 30 : 20, MainDialog::Kelvin,
                                         1);
@@ -148,7 +148,7 @@ void InstallationDWH::loadTimer()
     if (!visible) {
         return;
     }
-    // The list of the compressor's limit gets the minutes, not those of the timer, and is meant to.
+    // Oddity 29: the list of the compressor's limit gets the minutes, not those of the timer.
     const QString expand = word(flagPath("isHotwaterTimerExpand"));
     if (expand == QLatin1String("SET")) {
         mainDialog->setRangeValueInComboBox(ui->comboInletWaterMax, 0, 1440, MainDialog::PlainNumber, 60);
@@ -280,7 +280,7 @@ void InstallationDWH::on_comboMaxTempDuration_currentIndexChanged(int index)
 void InstallationDWH::validationCheck()
 {
     const bool valid = choicesMade();
-    // Both messages name other classes and stay so.
+    // Oddity 49: both messages name other classes and stay so.
     if (valid) {
         qDebug() << "InstallationDWH::SettingUser validation succeed!";
     } else {

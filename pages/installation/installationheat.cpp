@@ -123,7 +123,7 @@ void InstallationHeat::on_comboReferenceWater_currentTextChanged(const QString &
     announceChange();
 }
 
-// The timers' captions keep their colour, unlike in cooling.
+// Oddity 31: the timers' captions keep their colour, unlike in cooling.
 void InstallationHeat::choosePump(const QString &option)
 {
     saveJsonData(rules.pumpOption, option);

@@ -54,7 +54,7 @@ void InstallationSystemAquabox::loadJsonData()
     if (hasStandby) {
         checkPair(standby, {ui->radioStandbyNotuse, "CLR", ui->radioStandbyUse, "SET"});
     }
-    // This row stays visible without its flag: only a click can satisfy it then.
+    // Oddity 28: this row stays visible without its flag: only a click can satisfy it then.
     const QString hsMode = word(installation("hsSetting"));
     if (flag("isHsModel")) {
         checkPair(hsMode, {ui->radioHsmodeNotuse, "CLR", ui->radioHsmodeUse, "SET"});
@@ -92,7 +92,7 @@ void InstallationSystemAquabox::loadCombination()
     if (oilRecovery == QLatin1String("CLR")) {
         ui->radioOpt1->setChecked(true);
     } else {
-        // A stored "SET" loads unchecked, on purpose: the user has to choose again.
+        // Oddity 27: a stored "SET" loads unchecked: the user has to choose again.
         uncheck({ui->radioOpt2});
     }
 }
@@ -121,7 +121,7 @@ void InstallationSystemAquabox::enableOilRecovery()
 
 QString InstallationSystemAquabox::setRadioTextOpacity(bool isEnabled) { return style::radioText(isEnabled); }
 
-// Unlike in the other sections the check comes before the save, in every slot.
+// Oddity 39: unlike in the other sections the check comes before the save, in every slot.
 void InstallationSystemAquabox::choose(const QAbstractButton *button)
 {
     validationCheck();

@@ -250,7 +250,8 @@ void InstallationSystemAWHP::on_comboHeaterOnTemperature_currentTextChanged(cons
     save("eheater_onoff.heater1_value", shownValue(Shown::Temperature, text));
 }
 
-// In °F the number goes through the table of temperatures as well, which leaves none that is listed.
+// Oddity 17: In °F the number goes through the table of temperatures as well, which leaves none that is
+// listed.
 void InstallationSystemAWHP::on_comboAntiFreezingTemp_currentTextChanged(const QString &text)
 {
     save("antiFreezeTemp", antiFreezeWord(shownValue(Shown::Kelvin, text).toInt()));

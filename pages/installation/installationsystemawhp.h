@@ -97,8 +97,8 @@ private:
     // What item 0 stands for: seconds, and minutes.
     static constexpr int firstClosingTime = 60;
     static constexpr int firstRun = 1;
-    // In °F the last step of the hysteresis stands for 5 and not for its index; the list in °F ends before
-    // it.
+    // Oddity 9: In °F the last step of the hysteresis stands for 5 and not for its index; the list in °F ends
+    // before it.
     static constexpr int lastHysteresisItem = 4;
     static constexpr int lastHysteresis = 5;
 

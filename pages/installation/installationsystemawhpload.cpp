@@ -42,7 +42,7 @@ void InstallationSystemAWHP::initUi()
 
 void InstallationSystemAWHP::initDefaultTempRange()
 {
-    // This flag counts in capitals only.
+    // Oddity 34: this flag counts in capitals only.
     const bool expanded = text(flagPath("isR410CoolExpand")) == QLatin1String("SET");
     mainDialog->setRangeValueInComboBox(ui->comboHysterisis, 1, 5, MainDialog::Kelvin, 1);
     mainDialog->setRangeValueInComboBox(ui->comboAntiFreezingTemp, -25, -5, MainDialog::Kelvin, 5);
@@ -68,7 +68,7 @@ void InstallationSystemAWHP::changeLanguageInCombobox()
     refill(ui->comboStep, languageTexts({"STEP0", "STEP1", "STEP2"}));
 }
 
-// With U+00BA and not the degree sign of the other lists, and four items for five steps, both on purpose.
+// Oddity 25: with U+00BA and not the degree sign of the other lists, and four items for five steps.
 void InstallationSystemAWHP::conversionToFahrenheit()
 {
     mainDialog->setComboItems(ui->comboHysterisis, numbered(2, 8, 2, QStringLiteral("\u00BAF")), -1);
@@ -101,7 +101,8 @@ void InstallationSystemAWHP::loadSmartGrid()
 void InstallationSystemAWHP::loadHeaters()
 {
     const QString priority = word(installation("EH_BH_priority"));
-    // Below the installation settings, where the default documents have no such key: the test passes then.
+    // Oddity 24: below the installation settings, where the default documents have no such key: the test
+    // passes then.
     const QString model = word(installation("is_indoor_model"));
     const bool fixed = model == QLatin1String("GHU") || model == QLatin1String("WHU")
         || model == QLatin1String("CASCADE");
@@ -120,7 +121,7 @@ void InstallationSystemAWHP::loadHeaters()
 void InstallationSystemAWHP::loadWaterTankHeater()
 {
     const QString use = word(installation("hotWaterTankHeater.tankHeaterUse"));
-    // The second flag counts in capitals only.
+    // Oddity 34: the second flag counts in capitals only.
     const bool available = flag("is_hotwater")
         && text(flagPath("isHotwaterTankHeaterUse")) == QLatin1String("SET");
     ui->groupBoxWaterTankHeater->setVisible(available);
@@ -198,7 +199,8 @@ void InstallationSystemAWHP::setloadJsonValue()
     const int hysteresis = number(installation("circuitMainZone.hysterisisMainZone"));
     const bool last = mainDialog->isFahrenheit() && hysteresis == lastHysteresis;
     ui->comboHysterisis->setCurrentIndex(last ? lastHysteresisItem : hysteresis);
-    // With "s" in every language: where the text of the second is another, each time loads as the first item.
+    // Oddity 26: with "s" in every language: where the text of the second is another, each time loads as the
+    // first item.
     const int closingTime = number(installation("circuitMainZone.controlTimeMainZone"));
     mainDialog->setComboByKey(ui->comboValveClosingTime, QString::number(closingTime) + QLatin1Char('s'));
 }

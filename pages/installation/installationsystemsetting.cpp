@@ -41,7 +41,7 @@ InstallationSystemSetting::InstallationSystemSetting(QWidget *parent)
     connectProduct(ui->widgetAquabox);
     connect(this, &InstallationSystemSetting::refreshAwhpCategory, ui->widgetAwhp,
             &InstallationSystemAWHP::refresh);
-    // The heat pump section here too, on purpose.
+    // Oddity 37: the heat pump section here too.
     connect(this, &InstallationSystemSetting::refreshAquaboxCategory, ui->widgetAwhp,
             &InstallationSystemAWHP::refresh);
     startCollapsed(ui->hideButton, ui->frame);
@@ -206,7 +206,7 @@ void InstallationSystemSetting::on_comboCentral_currentTextChanged(const QString
     save("cc_address", text.toUpper());
 }
 
-// The text is read as decimal though it shows hexadecimal digits, on purpose: "10" stores 10 and "0a" 0.
+// Oddity 8: the text is read as decimal though it shows hexadecimal digits: "10" stores 10 and "0a" 0.
 void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &text)
 {
     save("modbusAddress", text.toInt());
@@ -237,7 +237,7 @@ void InstallationSystemSetting::on_comboOperationPeriod_currentIndexChanged(int 
     save("pumpOperationByForce.ByForcePeriod", index + firstPeriod);
 }
 
-// A failed product section ends the check before the tab's result is joined, on purpose.
+// Oddity 36: a failed product section ends the check before the tab's result is joined.
 void InstallationSystemSetting::validationCheck()
 {
     bool result = mainDialog->checkValidationRadio(ui->radioDryAuto, ui->radioDryManual, nullptr)

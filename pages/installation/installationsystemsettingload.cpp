@@ -90,7 +90,7 @@ QStringList InstallationSystemSetting::airTempTexts()
 QStringList InstallationSystemSetting::digitalInputTexts()
 {
     std::vector<const char *> keys{"NotUse", "SimpleOperation", "SimpleDryContact", "SingleEmergencyStop"};
-    // This flag counts in capitals only.
+    // Oddity 34: this flag counts in capitals only.
     if (text(flagPath("isEmergencyAllStop")) == QLatin1String("SET")) {
         keys.push_back("MultiEmergencyStop");
     }
@@ -181,7 +181,7 @@ void InstallationSystemSetting::loadCentralAddress()
     }
 }
 
-// Shown in hexadecimal, though the slot stores the text read as decimal.
+// Oddity 8: shown in hexadecimal, though the slot stores the text read as decimal.
 void InstallationSystemSetting::loadModbusAddress(int address)
 {
     const bool available = flag("isModbusAddress");

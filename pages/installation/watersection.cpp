@@ -152,7 +152,7 @@ void WaterSection::showStored(const std::vector<TemperatureRow> &temperatures)
     mainDialog->setComboByKey(controls.waterThermo, waterThermo);
     controls.onTimer->setCurrentIndex(indexOf(onTime, 1));
     controls.offTimer->setCurrentIndex(indexOf(offTime, 1));
-    // "SET" is the running through: no timers.
+    // Oddity 2: "SET" is the running through: no timers.
     if (pump == QLatin1String("CLR") || pump == QLatin1String("SET")) {
         QRadioButton *radio = pump == QLatin1String("CLR") ? controls.pumpUse : controls.pumpNotuse;
         radio->setChecked(true);

@@ -32,7 +32,8 @@ QStringList twoDigits(int last)
     return items;
 }
 
-// PM 12 is midnight here, though noon is saved as AM 12. Later hours aren't listed and show as midnight too.
+// Oddity 12: PM 12 is midnight here, though noon is saved as AM 12. Later hours aren't listed and show as
+// midnight too.
 int hourOfDay(int hour, const QString &ampm)
 {
     if (ampm != QLatin1String("PM")) {
@@ -122,7 +123,8 @@ void SettingFunction::loadJsonData()
     enableSilentMode();
 }
 
-// Whatever isn't "CLR" counts as locked. All lock leaves the radios of the other locks as they are.
+// Oddity 30: whatever isn't "CLR" counts as locked. All lock leaves the radios of the other locks as they
+// are.
 void SettingFunction::loadLocks()
 {
     const auto isLocked = [this](const QRadioButton *lock) {
@@ -251,7 +253,7 @@ void SettingFunction::chooseAllLock(const QRadioButton *radio)
     validationCheck();
 }
 
-// The lists show 24 hours, the document counts twelve. Noon becomes AM 12 and midnight AM 0.
+// Oddity 11: the lists show 24 hours, the document counts twelve. Noon becomes AM 12 and midnight AM 0.
 void SettingFunction::saveHour(const Clock &clock, const QString &text)
 {
     const int hour = text.toInt();

@@ -61,7 +61,7 @@ void SettingService::loadJsonData()
 
 void SettingService::validataionCheck() { mainDialog->setSettingTabValid(true, MainDialog::ServiceTab); }
 
-// The company alone falls back to "-".
+// Oddity 15: the company alone falls back to "-".
 void SettingService::on_lineEditOfficeName_textChanged(const QString &arg1)
 {
     save(company, arg1.isEmpty() ? QStringLiteral("-") : ui->lineEditOfficeName->text());

@@ -25,7 +25,7 @@ constexpr const char *dateDay = "SettingInfo.user.DateInfo.mday";
 constexpr const char *brightness = "SettingInfo.user.backlightControl.brightness";
 constexpr const char *dimmTime = "SettingInfo.user.backlightControl.dimmTimeSet";
 
-// February has 28 days in any year.
+// Oddity 13: February has 28 days in any year.
 int daysOf(int month)
 {
     if (month == 2) {
@@ -260,7 +260,8 @@ void SettingUser::saveNumber(const char *path, const QString &text, const char *
     change(path, text == mainDialog->languageValue(QLatin1String(unsetKey)) ? unset : text.toInt());
 }
 
-// Unlike that of the date, the day stays enabled without a month, and the month is written all the same.
+// Oddity 14: unlike that of the date, the day stays enabled without a month, and the month is written all the
+// same.
 void SettingUser::saveSummerMonth(const SummerDate &date, const QString &text)
 {
     const bool isUnset = text == mainDialog->languageValue(QStringLiteral("Month"));
@@ -298,7 +299,7 @@ void SettingUser::on_comboDateYear_currentTextChanged(const QString &text)
     saveNumber(dateYear, text, "Year");
 }
 
-// Without a month the day is lost but the month's old number stays in the document.
+// Oddity 14: without a month the day is lost but the month's old number stays in the document.
 void SettingUser::on_comboDateMonth_currentTextChanged(const QString &text)
 {
     if (text == mainDialog->languageValue(QStringLiteral("Month"))) {
@@ -324,7 +325,7 @@ void SettingUser::on_radioSummerTimeNotuse_clicked()
     validationCheck();
 }
 
-// Without a check: the tab's mark waits for the next change or showing.
+// Oddity 35: without a check: the tab's mark waits for the next change or showing.
 void SettingUser::on_radioSummerTimeUse_clicked()
 {
     save(ui->radioSummerTimeUse);

@@ -86,7 +86,7 @@ void DipSwitchSettingStatus::showSolarThermalKit()
     turn({{ui->DipSwitch22, sun}, {ui->DipSwitch23, !sun}});
 }
 
-// They change switches 22 and 23, and leave is_power_hotwater alone all the same.
+// Oddity 7: they change switches 22 and 23, and leave is_power_hotwater alone all the same.
 void DipSwitchSettingStatus::on_radioSolarThermalKitNotuse_clicked()
 {
     choose({{ui->DipSwitch22, false}, {ui->DipSwitch23, true}}, {{"is_sun", "CLR"}});
@@ -99,7 +99,7 @@ void DipSwitchSettingStatus::on_radioSolarThermalKitUse_clicked()
 
 // Operation mode, flow switch, thermostat, air sensor, anti-freeze
 
-// is_autoOp and is_heat are set in both modes.
+// Oddity 6: is_autoOp and is_heat are set in both modes.
 void DipSwitchSettingStatus::on_radioOperationHeating_clicked()
 {
     choose({{ui->DipSwitch24, false}},
@@ -136,7 +136,7 @@ void DipSwitchSettingStatus::on_radioAdditionalAirNotUse_clicked() { chooseAirSe
 
 void DipSwitchSettingStatus::on_radioAdditionalAirUse_clicked() { chooseAirSensor(true); }
 
-// The sensor's location is "RMC" with and without a remote sensor.
+// Oddity 5: the sensor's location is "RMC" with and without a remote sensor.
 void DipSwitchSettingStatus::chooseAirSensor(bool used)
 {
     turn({{ui->DipSwitch31, used}});
@@ -161,7 +161,7 @@ void DipSwitchSettingStatus::on_radioElectricHeaterNotuse_clicked() { chooseHeat
 
 void DipSwitchSettingStatus::on_radioElectricHeater1_clicked() { chooseHeater("SET", "CLR"); }
 
-// The two flags are a selection, not a pair of heaters: steps 1 and 2 clear the flag of step 1.
+// Oddity 3: the two flags are a selection, not a pair of heaters: steps 1 and 2 clear the flag of step 1.
 void DipSwitchSettingStatus::on_radioElectricHeaterBoth_clicked() { chooseHeater("CLR", "SET"); }
 
 void DipSwitchSettingStatus::chooseHeater(const char *heater1, const char *heater2)
@@ -286,7 +286,7 @@ void DipSwitchSettingStatus::on_radioOduMaster_clicked()
     validationCheck();
 }
 
-// It saves "MASTER" as well; "SLAVE" is only ever read.
+// Oddity 4: it saves "MASTER" as well; "SLAVE" is only ever read.
 void DipSwitchSettingStatus::on_radioOduSlave_clicked()
 {
     saveJsonData(installation("OduFunctionMS"), QStringLiteral("MASTER"));

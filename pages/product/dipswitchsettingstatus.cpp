@@ -129,7 +129,7 @@ void DipSwitchSettingStatus::loadJsonData()
     loadOperationMode();
     turn({{ui->DipSwitch31,
            loadPair("isIduAirTempSW", ui->radioAdditionalAirUse, ui->radioAdditionalAirNotUse)}});
-    // Switch 25 is left alone on purpose: it stays as drawn until a flow radio is clicked.
+    // Oddity 21: switch 25 is left alone: it stays as drawn until a flow radio is clicked.
     loadPair("is_flow_switch", ui->radioFlowOnlyPump, ui->radioFlowAlways);
     loadElectricHeater();
     turn({{ui->DipSwitch32, loadPair("isAntiFreeze", ui->radioAntifreezeUse, ui->radioAntifreezeNotuse)}});
@@ -212,7 +212,7 @@ void DipSwitchSettingStatus::showBankC(bool shown)
     }
 }
 
-// The path ends in a lower-case s on purpose, unlike the one that the radios write: no document holds it.
+// Oddity 22: the path ends in a lower-case s, unlike the one that the radios write: no document holds it.
 void DipSwitchSettingStatus::loadOduFunction(bool awhp)
 {
     const QString function = word(installation("OduFunctionMs"));

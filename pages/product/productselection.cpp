@@ -36,7 +36,7 @@ void ProductSelection::newJsonData()
     loadJsonData();
 }
 
-// Aquabox and High temperature are withdrawn from the user and stay complete in code.
+// Oddity 23: Aquabox and High temperature are withdrawn from the user and stay complete in code.
 void ProductSelection::loadJsonData()
 {
     enableProductSpec();
@@ -95,7 +95,8 @@ void ProductSelection::on_radioButtonAwhp_clicked()
     validationCheck();
 }
 
-// The writes come first; the refrigerant click that follows replaces the document with the R410 default.
+// Oddity 41: the writes come first; the refrigerant click that follows replaces the document with the R410
+// default.
 void ProductSelection::on_radioButtonAquabox_clicked()
 {
     for (const presets::Preset &preset : presets::aquabox) {
