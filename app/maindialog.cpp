@@ -97,8 +97,7 @@ void MainDialog::initUi()
     ui->sideGroupBox->hide();
     ui->newButton->setFocus(); // not the first button of the title bar
     ui->labelVersion->setText(QStringLiteral("Orvo Heating Configurator SW ver. 1.0 / RMC SW ver. 3.03.1b"));
-    state.languageIniPath = QCoreApplication::applicationDirPath() + QStringLiteral("/language/language.ini");
-    loadLanguageData(state.languageIniPath);
+    initLanguages();
 }
 
 // The pages connect to the language signal in the order in which they stand here; it is the order they are
@@ -161,8 +160,6 @@ void MainDialog::initSettingUserUi()
     connect(this, &MainDialog::changeInstallationLanguage, page, &SettingUser::changeLanguage);
 }
 
-void MainDialog::initDataSavePageUi() {}
-
 void MainDialog::on_minimizeButton_clicked()
 {
     closeLanguageMenu();
@@ -192,8 +189,6 @@ void MainDialog::updateMaximumButtonUi(bool maximized)
                                      + rule.arg(QStringLiteral("::hover"), name, QStringLiteral("over"))
                                      + rule.arg(QStringLiteral("::pressed"), name, QStringLiteral("press")));
 }
-
-void MainDialog::setLanguageMenuOpen(bool open) { state.languageMenuOpen = open; }
 
 void MainDialog::closeLanguageMenu()
 {

@@ -1,20 +1,13 @@
 #pragma once
 
 #include "app/dialogstate.h"
+#include "document/valuelists.h"
 
 #include <QDialog>
 
 #include <memory>
 
-class DipSwitchSettingStatus;
 class FrameLess;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QScrollArea;
-class TabButton;
 namespace Ui {
 class MainDialog;
 }
@@ -28,7 +21,7 @@ class MainDialog : public QDialog
 public:
     enum Page { SelectPage, ProductPage, DipSwitchPage, SettingPage, ValidationPage, DataSavePage };
     enum Tab { FunctionTab, UserTab, ServiceTab, InstallationTab };
-    enum Unit { PlainNumber, Temperature, Kelvin };
+    enum Unit { PlainNumber = Units::PlainNumber, Temperature = Units::Temperature, Kelvin = Units::Kelvin };
 
     explicit MainDialog(QWidget *parent = nullptr);
     ~MainDialog() override;
@@ -36,9 +29,9 @@ public:
     /// The members as they stand, for reading.
     const DialogState &members() const { return state; }
 
-    // The settings document (document/documentfiles.cpp)
-    QJsonDocument document() const;
-    void setDocument(const QJsonDocument &document);
+    // The settings document (document/settings.h, app/documentfiles.cpp)
+    QJsonDocument document() const { return state.settings.document; }
+    void setDocument(const QJsonDocument &document) { state.settings.document = document; }
     /// The common part of New: clears steps and tabs and shows the product page. The document stays.
     void startNewDocument();
     /// Loads the default document of "R32" or "R410", in any case. False for any other text.
@@ -48,101 +41,106 @@ public:
     /// Where the file dialogs start: the desktop.
     QString dialogDirectory() const;
 
-    // Units, value lists and shared checks (document/valuelists.cpp)
-    /// "CENTIGRADE" or "FAHRENHEIT"; any other text counts as °C.
-    QString tempUnit() const;
-    void setTempUnit(const QString &unit);
-    bool isFahrenheit() const;
-    /// By the table; 0 for what it doesn't hold. °F gives the lowest °C that shows it.
-    int celsiusToFahrenheit(int celsius) const;
-    int fahrenheitToCelsius(int fahrenheit) const;
-    /// Fills the list with lower to upper (°C for temperatures, shown in the unit in force; K is never
-    /// converted), signals blocked. lower > upper leaves the list as it is.
-    void setRangeValueInComboBox(QComboBox *comboBox, int lower, int upper, int unit, int step);
-    /// Selects the item of a document value, signals blocked. A value that isn't listed lands on an end of
-    /// the list.
-    void setComboByValue(QComboBox *comboBox, int value, int unit);
-    /// Selects the item that shows the text of a language key, else item 0. Signals stay live.
-    void setComboByKey(QComboBox *comboBox, const QString &key);
-    /// Replaces the items, signals blocked; an index of -1 leaves the selection to the list.
-    void setComboItems(QComboBox *comboBox, const QStringList &items, int index);
-    /// As setComboItems, but -1 selects item 0.
-    void refillComboItems(QComboBox *comboBox, const QStringList &items, int index);
-    /// The number in an item text without its last two characters, or its last one; 0 when there is none.
-    int textWithoutTwoChars(const QString &text) const;
-    int textWithoutOneChar(const QString &text) const;
-    /// The checks pass for what is hidden or disabled. Index 0 of a list stands for no choice; `third` may be
-    /// null.
-    bool checkValidationComboBox(const QComboBox *comboBox) const;
-    bool checkValidationRadio(const QRadioButton *first, const QRadioButton *second,
-                              const QRadioButton *third) const;
-    bool checkValidationLineEdit(const QLineEdit *lineEdit) const;
+    // Units (document/units.h)
+    QString tempUnit() const { return state.units.tempUnit; }
+    void setTempUnit(const QString &unit) { state.units.tempUnit = unit; }
+    bool isFahrenheit() const { return state.units.isFahrenheit(); }
+    int celsiusToFahrenheit(int celsius) const { return state.units.celsiusToFahrenheit(celsius); }
+    int fahrenheitToCelsius(int fahrenheit) const { return state.units.fahrenheitToCelsius(fahrenheit); }
+    int celsius(int shown) const { return state.units.celsius(shown); }
+    int textWithoutTwoChars(const QString &text) const { return Units::numberBefore(text, 2); }
+    int textWithoutOneChar(const QString &text) const { return Units::numberBefore(text, 1); }
 
-    // Languages (languages/lookup.cpp)
-    /// The text of a key; empty, with a warning in the log, when there is none.
-    QString languageValue(const QString &key) const;
-    /// The text of a key, or the key.
-    QString languageTextOrKey(const QString &key) const;
-    /// The first key in sorted order that has the text, or the text.
-    QString languageKeyOrText(const QString &text) const;
-    /// The first key in sorted order that has the text, or nothing.
-    QString languageKey(const QString &text) const;
-    QJsonDocument languageDocument() const;
-    QMap<QString, QVariant> languageMap() const;
+    // Value lists and shared checks (document/valuelists.h)
+    void setRangeValueInComboBox(QComboBox *comboBox, int lower, int upper, int unit, int step)
+    {
+        valuelists::setRange(comboBox, state.units, lower, upper, unit, step);
+    }
+    void setComboByValue(QComboBox *comboBox, int value, int unit)
+    {
+        valuelists::selectValue(comboBox, state.units, value, unit);
+    }
+    /// Selects the item that shows the text of a language key, else item 0. Signals stay live.
+    void setComboByKey(QComboBox *comboBox, const QString &key)
+    {
+        valuelists::selectText(comboBox, key.isEmpty() ? key : languageTextOrKey(key));
+    }
+    void setComboItems(QComboBox *comboBox, const QStringList &items, int index)
+    {
+        valuelists::setItems(comboBox, items, index);
+    }
+    /// As setComboItems, but -1 selects item 0.
+    void refillComboItems(QComboBox *comboBox, const QStringList &items, int index)
+    {
+        valuelists::setItems(comboBox, items, index == -1 ? 0 : index);
+    }
+    bool checkValidationComboBox(const QComboBox *comboBox) const { return valuelists::isChosen(comboBox); }
+    bool checkValidationRadio(const QRadioButton *first, const QRadioButton *second,
+                              const QRadioButton *third) const
+    {
+        return valuelists::isChosen(first, second, third);
+    }
+    bool checkValidationLineEdit(const QLineEdit *lineEdit) const { return valuelists::isFilled(lineEdit); }
+
+    // Languages (languages/language.h, languages/languages.h)
+    QString languageValue(const QString &key) const { return state.languages.inForce.value(key); }
+    QString languageTextOrKey(const QString &key) const { return state.languages.inForce.textOrKey(key); }
+    QString languageKeyOrText(const QString &text) const { return state.languages.inForce.keyOrText(text); }
+    QString languageKey(const QString &text) const { return state.languages.inForce.key(text); }
+    QJsonDocument languageDocument() const { return state.languages.inForce.document; }
+    QMap<QString, QVariant> languageMap() const { return state.languages.inForce.map; }
     /// Makes `document` the language in force without telling any page.
-    void setLanguageDocument(const QJsonDocument &document);
-    void setLanguageSnapshot(const QJsonDocument &document);
-    QMap<QString, QVariant> languageSnapshotMap() const;
-    void setLanguageSnapshotText(const QString &key, const QString &text);
-    void clearLanguageSnapshot();
-    /// Reads the name of the language from the file and applies that language to all pages.
-    void loadLanguageData(const QString &iniPath);
-    /// Copies a language file into the language folder and makes it the language in force.
-    void loadLanguageAnotherPath(const QString &filePath);
-    void loadDefaultLanguageJsonFile();
-    /// Remembers the name for the next run and shows it.
-    void saveLanguageName(const QString &name);
-    QString languageIniPath() const;
+    void setLanguageDocument(const QJsonDocument &document) { state.languages.inForce.set(document); }
+    void setLanguageSnapshot(const QJsonDocument &document) { state.languages.snapshot.set(document); }
+    QMap<QString, QVariant> languageSnapshotMap() const { return state.languages.snapshot.map; }
+    void setLanguageSnapshotText(const QString &key, const QString &text)
+    {
+        state.languages.snapshot.map.insert(key, text);
+    }
+    void loadLanguageData(const QString &iniPath) { state.languages.load(iniPath); }
+    void loadLanguageAnotherPath(const QString &filePath) { state.languages.loadAnotherPath(filePath); }
+    void loadDefaultLanguageJsonFile() { state.languages.loadDefault(); }
+    void saveLanguageName(const QString &name) { state.languages.saveName(name); }
+    QString languageIniPath() const { return state.languages.iniPath; }
     /// Sets every text of the window and of all pages from the language in force.
     void changeLanguage();
     /// The part of changeLanguage() that lies in the window itself.
     void changeOwnTexts();
-    void rebuildLanguageMenu();
-    void setLanguageMenuOpen(bool open);
+    void rebuildLanguageMenu() { initLanguageMenu(); }
+    void setLanguageMenuOpen(bool open) { state.languageMenuOpen = open; }
 
-    // Steps, tabs and sections (app/wizard.cpp)
+    // Steps, tabs and sections (rules/results.h, app/wizard.cpp)
     void setSideBarVisible(bool visible);
-    void setRefrigerant(const QString &name);
+    void setRefrigerant(const QString &name) { state.refrigerant = name; }
     /// Paints the step buttons for step 1 to 4; any other number changes nothing.
     void setCurrentStep(int step);
     /// Marks step 1 to 3 as completed or not.
     void setStepCompleted(bool completed, int step);
-    /// The result of tab 0 to 3, joined into step 3. The Service tab takes no part in the step.
+    /// The result of tab 0 to 3, joined into step 3.
     void setSettingTabValid(bool valid, int tab);
     /// The result of a section of the Installation tab; updateInstallationValid() joins the five.
-    void setSystemSectionValid(bool valid);
-    void setAutoSectionValid(bool valid);
-    void setCoolSectionValid(bool valid);
-    void setDwhSectionValid(bool valid);
-    void setHeatSectionValid(bool valid);
+    void setSystemSectionValid(bool valid) { state.results.systemSectionValid = valid; }
+    void setAutoSectionValid(bool valid) { state.results.autoSectionValid = valid; }
+    void setCoolSectionValid(bool valid) { state.results.coolSectionValid = valid; }
+    void setDwhSectionValid(bool valid) { state.results.dwhSectionValid = valid; }
+    void setHeatSectionValid(bool valid) { state.results.heatSectionValid = valid; }
     void updateInstallationValid();
-    /// Whether steps 1 to 3 are complete, which Save requires.
-    bool stepsDone() const;
+    bool stepsDone() const { return state.results.stepsDone(); }
 
 signals:
     void changeInstallationLanguage();
 
 private slots:
     void initUi();
-    void saveJsonFile(const QString &saveFilePath);
+    void saveJsonFile(const QString &saveFilePath) { state.settings.save(saveFilePath); }
     void initSettingPageUi();
     void initSettingFunctionUi();
     void initSettingInstallationUi();
     void initDipSwitchSettingStatusPageUi();
     void initSettingUserUi();
-    void initDataSavePageUi();
+    void initDataSavePageUi() {}
     void initLanguageMenu();
-    void initCFTable();
+    void initCFTable() { state.units.cfTable = Units::makeTable(); }
     void clickedFunctionTabButton();
     void clickedUserTabButton();
     void clickedServiceTabButton();
@@ -158,13 +156,13 @@ private slots:
     void on_newButton_clicked();
     void on_openButton_clicked();
     void on_saveButton_clicked();
-    bool loadJsonData(const QString &filePath);
+    bool loadJsonData(const QString &filePath) { return state.settings.load(filePath); }
     void languageMenu();
-    void changeSelectTextInCombobox();
+    void changeSelectTextInCombobox() {}
     QString defaultSavePath();
-    QString defaultLoadPath();
+    QString defaultLoadPath() { return {}; }
     QString setTabButonStyleSheet(bool selected);
-    void saveJsonData(const QString &path, const QJsonValue &value);
+    void saveJsonData(const QString &path, const QJsonValue &value) { state.settings.setValue(path, value); }
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
@@ -173,9 +171,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void initLanguages();
     QString jsonFilter() const;
-    QString unitSuffix(int unit) const;
-    QString languageFilePath(const QString &name) const;
     void selectTab(Tab tab);
     void styleTabs(Tab tab);
     void captionPage(int page);

@@ -41,19 +41,15 @@ QString completedStyle()
 
 void MainDialog::setSideBarVisible(bool visible) { ui->sideGroupBox->setVisible(visible); }
 
-void MainDialog::setRefrigerant(const QString &name) { state.refrigerant = name; }
-
-bool MainDialog::stepsDone() const { return state.productDone && state.dipSwitchDone && state.settingDone; }
-
 void MainDialog::setCurrentStep(int step)
 {
     if (step < 1 || step > 4) {
         return;
     }
     const std::array<std::pair<QPushButton *, bool>, 4> steps{
-        {{ui->productSelectionButton, state.productDone},
-         {ui->dipSwitchButton, state.dipSwitchDone},
-         {ui->settingButton, state.settingDone},
+        {{ui->productSelectionButton, state.results.productDone},
+         {ui->dipSwitchButton, state.results.dipSwitchDone},
+         {ui->settingButton, state.results.settingDone},
          {ui->validationButton, false}}};
     int number = 0;
     for (const auto &[button, done] : steps) {
@@ -71,9 +67,10 @@ void MainDialog::setStepCompleted(bool completed, int step)
         bool &done;
         QLabel *errorMark;
     };
-    const std::array<Step, 3> steps{{{ui->productSelectionButton, state.productDone, ui->labelErrorProduct},
-                                     {ui->dipSwitchButton, state.dipSwitchDone, ui->labelErrorDipSwitch},
-                                     {ui->settingButton, state.settingDone, ui->labelErrorSetting}}};
+    const std::array<Step, 3> steps{
+        {{ui->productSelectionButton, state.results.productDone, ui->labelErrorProduct},
+         {ui->dipSwitchButton, state.results.dipSwitchDone, ui->labelErrorDipSwitch},
+         {ui->settingButton, state.results.settingDone, ui->labelErrorSetting}}};
     if (step < 1 || step > 3) {
         return;
     }
@@ -94,10 +91,10 @@ void MainDialog::setSettingTabValid(bool valid, int tab)
         bool &valid;
         QLabel *icon;
     };
-    const std::array<TabResult, 4> tabs{{{state.functionValid, ui->functionValidationIcon},
-                                         {state.userValid, ui->userValidationIcon},
-                                         {state.serviceValid, ui->serviceValidationIcon},
-                                         {state.installationValid, ui->installationValidationIcon}}};
+    const std::array<TabResult, 4> tabs{{{state.results.functionValid, ui->functionValidationIcon},
+                                         {state.results.userValid, ui->userValidationIcon},
+                                         {state.results.serviceValid, ui->serviceValidationIcon},
+                                         {state.results.installationValid, ui->installationValidationIcon}}};
     if (tab >= FunctionTab && tab <= InstallationTab) {
         const TabResult &target = tabs.at(static_cast<std::size_t>(tab));
         target.valid = valid;
@@ -108,25 +105,14 @@ void MainDialog::setSettingTabValid(bool valid, int tab)
 
 void MainDialog::joinTabs()
 {
-    state.settingDone = state.functionValid && state.installationValid && state.userValid;
-    setStepCompleted(state.settingDone, 3);
+    state.results.joinTabs();
+    setStepCompleted(state.results.settingDone, 3);
 }
-
-void MainDialog::setSystemSectionValid(bool valid) { state.systemSectionValid = valid; }
-
-void MainDialog::setAutoSectionValid(bool valid) { state.autoSectionValid = valid; }
-
-void MainDialog::setCoolSectionValid(bool valid) { state.coolSectionValid = valid; }
-
-void MainDialog::setDwhSectionValid(bool valid) { state.dwhSectionValid = valid; }
-
-void MainDialog::setHeatSectionValid(bool valid) { state.heatSectionValid = valid; }
 
 void MainDialog::updateInstallationValid()
 {
-    state.installationValid = state.systemSectionValid && state.autoSectionValid && state.coolSectionValid
-        && state.dwhSectionValid && state.heatSectionValid;
-    ui->installationValidationIcon->setVisible(!state.installationValid);
+    state.results.joinSections();
+    ui->installationValidationIcon->setVisible(!state.results.installationValid);
     joinTabs();
 }
 
@@ -166,14 +152,14 @@ void MainDialog::clickedInstallationTabButton() { selectTab(InstallationTab); }
 
 void MainDialog::on_productSelectionButton_clicked()
 {
-    if (!state.filePath.isEmpty()) {
+    if (!state.settings.filePath.isEmpty()) {
         ui->stackedWidget->setCurrentIndex(ProductPage);
     }
 }
 
 void MainDialog::on_dipSwitchButton_clicked()
 {
-    if (!state.filePath.isEmpty() && state.productDone) {
+    if (!state.settings.filePath.isEmpty() && state.results.productDone) {
         ui->stackedWidget->setCurrentIndex(DipSwitchPage);
     }
 }
@@ -182,10 +168,10 @@ void MainDialog::on_dipSwitchButton_clicked()
 // disagree with it.
 void MainDialog::on_settingButton_clicked()
 {
-    if (state.filePath.isEmpty()) {
+    if (state.settings.filePath.isEmpty()) {
         return;
     }
-    if (!state.productDone || !state.dipSwitchDone) {
+    if (!state.results.productDone || !state.results.dipSwitchDone) {
         qDebug() << "MainDialog::on_dipSwitchButton_clicked product selection validate fail";
         return;
     }

@@ -1,8 +1,6 @@
-// Value lists: how document values are shown in combo boxes, how item texts go back to numbers, and the
-// shared checks.
+#include "document/valuelists.h"
 
-#include "app/maindialog.h"
-#include "document/temperature.h"
+#include "document/units.h"
 
 #include <QComboBox>
 #include <QDebug>
@@ -11,16 +9,9 @@
 
 #include <algorithm>
 
+namespace valuelists {
+
 namespace {
-
-// Far more than any list needs, and as many as are filled without a noticeable delay. Limits of a damaged
-// document could ask for thousands of millions.
-constexpr int longestList = 30000;
-
-int numberBefore(const QString &text, int suffixLength)
-{
-    return text.chopped(qMin(suffixLength, text.size())).toInt();
-}
 
 /// Whether the list holds these items already: then it needn't be filled again, which is what takes the time.
 bool holds(const QComboBox &comboBox, const QStringList &items)
@@ -35,80 +26,7 @@ bool holds(const QComboBox &comboBox, const QStringList &items)
 
 } // namespace
 
-QString MainDialog::tempUnit() const { return state.tempUnit; }
-
-void MainDialog::setTempUnit(const QString &unit) { state.tempUnit = unit; }
-
-bool MainDialog::isFahrenheit() const { return state.tempUnit == QLatin1String("FAHRENHEIT"); }
-
-void MainDialog::initCFTable() { state.cfTable = temperature::makeTable(); }
-
-int MainDialog::celsiusToFahrenheit(int celsius) const { return state.cfTable.value(celsius, 0); }
-
-int MainDialog::fahrenheitToCelsius(int fahrenheit) const
-{
-    return temperature::lowestCelsius(state.cfTable, fahrenheit);
-}
-
-QString MainDialog::unitSuffix(int unit) const
-{
-    switch (unit) {
-    case Temperature:
-        return isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
-    case Kelvin:
-        return QStringLiteral("K");
-    default:
-        return {};
-    }
-}
-
-void MainDialog::setRangeValueInComboBox(QComboBox *comboBox, int lower, int upper, int unit, int step)
-{
-    if (lower > upper) {
-        qWarning() << "MainDialog::setRangeValueInComboBox ComboBox:" << comboBox->objectName()
-                   << "lower:" << lower << " > upper:" << upper;
-        return;
-    }
-    if (unit == Temperature && isFahrenheit()) {
-        lower = celsiusToFahrenheit(lower);
-        upper = celsiusToFahrenheit(upper);
-        step = 2;
-    }
-    const QString suffix = unitSuffix(unit);
-    QStringList items;
-    for (qint64 value = lower; value <= upper && items.size() < longestList; value += step) {
-        items.append(QString::number(value) + suffix);
-    }
-    setComboItems(comboBox, items, -1);
-}
-
-void MainDialog::setComboByValue(QComboBox *comboBox, int value, int unit)
-{
-    comboBox->blockSignals(true);
-    const int shown = unit == Temperature && isFahrenheit() ? celsiusToFahrenheit(value) : value;
-    const QString text = QString::number(shown) + unitSuffix(unit);
-    int index = comboBox->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
-    if (index < 0) {
-        qDebug() << "# Error index setting" << comboBox->objectName() << " #";
-        qDebug() << value << text;
-        // Oddity 33: an item with a suffix reads as 0, so a positive value lands on the last item and any
-        // other on the first.
-        const bool aboveFirst = unit != PlainNumber && value > comboBox->itemText(0).toInt();
-        index = aboveFirst ? comboBox->count() - 1 : 0;
-    }
-    comboBox->setCurrentIndex(index);
-    comboBox->blockSignals(false);
-}
-
-void MainDialog::setComboByKey(QComboBox *comboBox, const QString &key)
-{
-    const int index = key.isEmpty()
-        ? 0
-        : comboBox->findData(languageTextOrKey(key), Qt::DisplayRole, Qt::MatchCaseSensitive);
-    comboBox->setCurrentIndex(qMax(index, 0));
-}
-
-void MainDialog::setComboItems(QComboBox *comboBox, const QStringList &items, int index)
+void setItems(QComboBox *comboBox, const QStringList &items, int index)
 {
     comboBox->blockSignals(true);
     if (holds(*comboBox, items)) {
@@ -123,16 +41,40 @@ void MainDialog::setComboItems(QComboBox *comboBox, const QStringList &items, in
     comboBox->blockSignals(false);
 }
 
-void MainDialog::refillComboItems(QComboBox *comboBox, const QStringList &items, int index)
+void setRange(QComboBox *comboBox, const Units &units, int lower, int upper, int unit, int step)
 {
-    setComboItems(comboBox, items, index == -1 ? 0 : index);
+    if (lower > upper) {
+        qWarning() << "MainDialog::setRangeValueInComboBox ComboBox:" << comboBox->objectName()
+                   << "lower:" << lower << " > upper:" << upper;
+        return;
+    }
+    setItems(comboBox, units.items(lower, upper, unit, step), -1);
 }
 
-int MainDialog::textWithoutTwoChars(const QString &text) const { return numberBefore(text, 2); }
+void selectValue(QComboBox *comboBox, const Units &units, int value, int unit)
+{
+    comboBox->blockSignals(true);
+    const QString text = units.item(value, unit);
+    int index = comboBox->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
+    if (index < 0) {
+        qDebug() << "# Error index setting" << comboBox->objectName() << " #";
+        qDebug() << value << text;
+        // Oddity 33: an item with a suffix reads as 0, so a positive value lands on the last item and any
+        // other on the first.
+        const bool aboveFirst = unit != Units::PlainNumber && value > comboBox->itemText(0).toInt();
+        index = aboveFirst ? comboBox->count() - 1 : 0;
+    }
+    comboBox->setCurrentIndex(index);
+    comboBox->blockSignals(false);
+}
 
-int MainDialog::textWithoutOneChar(const QString &text) const { return numberBefore(text, 1); }
+void selectText(QComboBox *comboBox, const QString &text)
+{
+    const int index = text.isEmpty() ? 0 : comboBox->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
+    comboBox->setCurrentIndex(qMax(index, 0));
+}
 
-bool MainDialog::checkValidationComboBox(const QComboBox *comboBox) const
+bool isChosen(const QComboBox *comboBox)
 {
     if (!comboBox->isVisible() || !comboBox->isEnabled() || comboBox->currentIndex() != 0) {
         return true;
@@ -142,8 +84,7 @@ bool MainDialog::checkValidationComboBox(const QComboBox *comboBox) const
     return false;
 }
 
-bool MainDialog::checkValidationRadio(const QRadioButton *first, const QRadioButton *second,
-                                      const QRadioButton *third) const
+bool isChosen(const QRadioButton *first, const QRadioButton *second, const QRadioButton *third)
 {
     if (!first->isVisible() || !second->isVisible()) {
         return true;
@@ -160,9 +101,9 @@ bool MainDialog::checkValidationRadio(const QRadioButton *first, const QRadioBut
     return false;
 }
 
-bool MainDialog::checkValidationLineEdit(const QLineEdit *lineEdit) const
+bool isFilled(const QLineEdit *lineEdit)
 {
     return !lineEdit->isVisible() || !lineEdit->isEnabled() || !lineEdit->text().isEmpty();
 }
 
-void MainDialog::changeSelectTextInCombobox() {}
+} // namespace valuelists

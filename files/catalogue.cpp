@@ -1,6 +1,6 @@
 #include "files/catalogue.h"
 
-#include "document/temperature.h"
+#include "document/units.h"
 #include "files/reading.h"
 #include "files/texts.h"
 
@@ -46,7 +46,7 @@ QString word(const Setting &setting, const QJsonValue &value, const Texts &texts
 
 QString temperatureText(int celsius, bool fahrenheit)
 {
-    static const QMap<int, int> table = temperature::makeTable();
+    static const QMap<int, int> table = Units::makeTable();
     if (!fahrenheit) {
         return number(celsius, QStringLiteral("°C"));
     }

@@ -170,7 +170,7 @@ bool Wizard::walk(const QJsonDocument &document)
     for (const WizardPlace &place : places) {
         show(place);
     }
-    const bool complete = dialog->members().dipSwitchDone && dialog->members().settingDone;
+    const bool complete = dialog->members().results.dipSwitchDone && dialog->members().results.settingDone;
     leave();
     return complete;
 }

@@ -1,11 +1,7 @@
 #include "languages/languagebox.h"
 
-#include "app/maindialog.h"
-#include "languages/languagemenu.h"
-
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
 
 namespace {
 
@@ -47,9 +43,5 @@ void LanguageBox::press()
     QMouseEvent press(QEvent::MouseButtonPress, middle, mapTo(window(), middle), mapToGlobal(middle),
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(this, &press);
-    const DialogState &members = mainDialog->members();
-    if (members.languageMenuOpen) {
-        members.languageMenuWidget->takeKeys(
-            findChild<QLabel *>(QStringLiteral("labelCurrentLanguage"))->text());
-    }
+    emit pressedByKey();
 }

@@ -11,6 +11,10 @@ class LanguageBox : public QGroupBox
 public:
     explicit LanguageBox(QWidget *parent = nullptr);
 
+signals:
+    /// A key has had the effect of a press.
+    void pressedByKey();
+
 protected:
     bool event(QEvent *event) override;
 

@@ -1,9 +1,8 @@
 #include "languages/languagemenu.h"
 
-#include "app/maindialog.h"
-#include "document/files.h"
 #include "languages/languagebox.h"
 #include "languages/languageitem.h"
+#include "languages/languages.h"
 #include "languages/userlanguageeditpopup.h"
 #include "ui_languagemenu.h"
 #include "widgets/jsonlist.h"
@@ -93,15 +92,16 @@ void LanguageMenu::keyPressEvent(QKeyEvent *event)
 void LanguageMenu::on_listWidget_itemClicked(QListWidgetItem *item)
 {
     const auto *row = static_cast<LanguageItem *>(ui->listWidget->itemWidget(item));
-    mainDialog->saveLanguageName(row->language());
-    mainDialog->loadLanguageData(mainDialog->languageIniPath());
-    mainDialog->setLanguageMenuOpen(false);
-    close();
+    Languages &languages = Languages::instance();
+    languages.saveName(row->language());
+    languages.load(languages.iniPath);
+    closeMenu();
 }
 
 void LanguageMenu::on_newButton_clicked()
 {
-    mainDialog->setLanguageSnapshot(mainDialog->languageDocument());
+    Languages &languages = Languages::instance();
+    languages.snapshot = languages.inForce;
     closeMenu();
     UserLanguageEditPopup editor;
     editor.setNewLanguage(true);
@@ -113,7 +113,7 @@ void LanguageMenu::on_loadButton_clicked()
 {
     closeMenu();
     const PlainQuestions questions;
-    mainDialog->loadLanguageAnotherPath(QFileDialog::getOpenFileName());
+    Languages::instance().loadAnotherPath(QFileDialog::getOpenFileName());
 }
 
 // Oddity 46: the path isn't that of the row's file: the button reaches only a file put there by hand.
@@ -128,16 +128,13 @@ void LanguageMenu::clickedModifyButton(const QString &language)
 
 void LanguageMenu::loadLanguageJson(const QString &filePath)
 {
-    const auto content = files::read(filePath);
-    if (!content) {
+    if (!Languages::instance().inForce.read(filePath)) {
         qWarning() << "LanguageMenu::loadLanguageJson failed to open file:" << filePath;
-        return;
     }
-    mainDialog->setLanguageDocument(QJsonDocument::fromJson(*content));
 }
 
 void LanguageMenu::closeMenu()
 {
     close();
-    mainDialog->setLanguageMenuOpen(false);
+    emit closed();
 }

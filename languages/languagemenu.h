@@ -30,6 +30,10 @@ public:
     /// choose a row, Return takes it, Esc closes the popup.
     void takeKeys(const QString &language);
 
+signals:
+    /// An action of the popup has closed it.
+    void closed();
+
 protected:
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

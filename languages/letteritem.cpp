@@ -1,6 +1,6 @@
 #include "languages/letteritem.h"
 
-#include "app/maindialog.h"
+#include "languages/languages.h"
 #include "ui_letteritem.h"
 #include "widgets/plaintext.h"
 
@@ -30,5 +30,6 @@ void LetterItem::on_ButtonRemove_clicked() { ui->lineEdit->setText(QString()); }
 // key. A text that the language in force has lost since goes to the empty key.
 void LetterItem::on_lineEdit_textEdited(const QString &arg1)
 {
-    mainDialog->setLanguageSnapshotText(mainDialog->languageKey(ui->labelReference->text()), arg1);
+    Languages &languages = Languages::instance();
+    languages.snapshot.map.insert(languages.inForce.key(ui->labelReference->text()), arg1);
 }

@@ -1,8 +1,7 @@
 #include "languages/userlanguageeditpopup.h"
 
-#include "app/frameless.h"
-#include "app/maindialog.h"
 #include "document/files.h"
+#include "languages/languages.h"
 #include "languages/letteritem.h"
 #include "ui_userlanguageeditpopup.h"
 #include "widgets/jsonlist.h"
@@ -10,7 +9,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
 
 UserLanguageEditPopup::UserLanguageEditPopup(QWidget *parent)
@@ -18,7 +16,7 @@ UserLanguageEditPopup::UserLanguageEditPopup(QWidget *parent)
     , ui(std::make_unique<Ui::UserLanguageEditPopup>())
 {
     ui->setupUi(this);
-    frameLess = std::make_unique<FrameLess>(this, true);
+    emit Languages::instance().editorMade(this);
     new JsonList(this);
     connect(ui->searchLineEdit, &QLineEdit::returnPressed, this, &UserLanguageEditPopup::returnSearchText);
 }
@@ -34,7 +32,7 @@ void UserLanguageEditPopup::initUi()
 {
     ui->listWidget->clear();
     if (isNewLanguage) {
-        mainDialog->loadDefaultLanguageJsonFile();
+        Languages::instance().loadDefault();
     }
 }
 
@@ -51,7 +49,7 @@ void UserLanguageEditPopup::addLanguageData()
     ui->listWidget->hide();
     // The viewport is where a row of a list ends up: moved there later, it would be styled twice.
     QWidget *parent = ui->listWidget->viewport();
-    const QMap<QString, QVariant> texts = mainDialog->languageMap();
+    const QMap<QString, QVariant> texts = Languages::instance().inForce.map;
     for (const QVariant &value : texts) {
         const QString text = value.toString();
         ui->listWidget->addRow(text, new LetterItem(parent), text);
@@ -66,13 +64,11 @@ void UserLanguageEditPopup::addLanguageData()
 // Oddity 45: the message names another class. The snapshot, which Save writes, stays as it is.
 void UserLanguageEditPopup::loadLanguageFile(const QString &filePath)
 {
-    const auto content = files::read(filePath);
-    if (!content) {
+    if (!Languages::instance().inForce.read(filePath)) {
         qWarning() << "LanguageMenu::on_loadButton_clicked failed to open file:" << filePath;
         return;
     }
     languageFilePath = filePath;
-    mainDialog->setLanguageDocument(QJsonDocument::fromJson(*content));
     addLanguageData();
 }
 
@@ -111,14 +107,15 @@ void UserLanguageEditPopup::on_openButton_clicked()
 
 void UserLanguageEditPopup::on_closeButton_clicked()
 {
-    mainDialog->clearLanguageSnapshot();
+    Languages::instance().snapshot.map.clear();
     close();
 }
 
 // The snapshot is in force even if no file gets written.
 void UserLanguageEditPopup::on_saveButton_clicked()
 {
-    mainDialog->setLanguageDocument(QJsonDocument::fromVariant(mainDialog->languageSnapshotMap()));
+    Languages &languages = Languages::instance();
+    languages.inForce.set(QJsonDocument::fromVariant(languages.snapshot.map));
     if (isNewLanguage) {
         if (!saveNewLanguage()) {
             return;
@@ -127,10 +124,7 @@ void UserLanguageEditPopup::on_saveButton_clicked()
                && !writeLanguage(languageFilePath, "UserLanguageEditPopup::on_saveButton_clicked:")) {
         return;
     }
-    mainDialog->rebuildLanguageMenu();
-    mainDialog->changeOwnTexts();
-    mainDialog->loadLanguageData(mainDialog->languageIniPath());
-    mainDialog->setLanguageMenuOpen(false);
+    languages.reload();
     close();
 }
 
@@ -148,11 +142,11 @@ bool UserLanguageEditPopup::saveNewLanguage()
 
 bool UserLanguageEditPopup::writeLanguage(const QString &path, const char *warning) const
 {
-    if (!files::replaceContent(path, mainDialog->languageDocument().toJson())) {
+    if (!files::replaceContent(path, Languages::instance().inForce.document.toJson())) {
         qWarning() << warning << path;
         return false;
     }
-    mainDialog->saveLanguageName(QFileInfo(path).fileName().remove(QStringLiteral(".json")));
+    Languages::instance().saveName(Languages::nameOf(path));
     return true;
 }
 

@@ -4,13 +4,12 @@
 
 #include <memory>
 
-class FrameLess;
 namespace Ui {
 class UserLanguageEditPopup;
 }
 
 /// The language editor: a row per language key, with the text of the language in force and a line for the new
-/// one. What is edited goes to the main dialog's language snapshot; Save makes that snapshot a language file
+/// one. What is edited goes to the snapshot of the languages; Save makes that snapshot a language file
 /// and the language in force.
 class UserLanguageEditPopup : public QDialog
 {
@@ -51,5 +50,4 @@ private:
     bool isNewLanguage = false;
     QString languageFilePath;
     std::unique_ptr<Ui::UserLanguageEditPopup> ui;
-    std::unique_ptr<FrameLess> frameLess;
 };

@@ -260,10 +260,7 @@ void Page::selectTemperature(QComboBox *list, int shown)
     list->setCurrentIndex(list->findText(QString::number(shown) + unit));
 }
 
-int Page::celsius(int shown)
-{
-    return mainDialog->isFahrenheit() ? mainDialog->fahrenheitToCelsius(shown) : shown;
-}
+int Page::celsius(int shown) { return mainDialog->celsius(shown); }
 
 QStringList Page::languageTexts(const std::vector<const char *> &keys)
 {

@@ -147,7 +147,7 @@ void TestAutoLoads::everyShowLoads()
                  (QVariantMap{{root + "autoOp_outtemp.max", 35.0}}));
         QCOMPARE(section->shown("comboHeatingWaterMax"), QString("%1°C").arg(value));
         QCOMPARE(section->items("comboHeatingWaterMin"), range(25, value, "°C"));
-        QVERIFY(section->window.dialog.members().autoSectionValid);
+        QVERIFY(section->window.dialog.members().results.autoSectionValid);
     }
 }
 
@@ -441,7 +441,7 @@ void TestAutoLoads::oddGroupsAreSurvived()
     }
     reload(QJsonDocument::fromJson("[1, \"x\", {}]"));
     turnEveryBox();
-    QVERIFY(section->window.dialog.members().autoSectionValid);
+    QVERIFY(section->window.dialog.members().results.autoSectionValid);
 }
 
 void TestAutoLoads::oddArgumentsAreSurvived()

@@ -81,8 +81,8 @@ private:
 void TestDocumentFiles::startsWithoutADocument()
 {
     QVERIFY(window->dialog.document().isNull());
-    QCOMPARE(window->members().filePath, QString());
-    QVERIFY(window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, QString());
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString());
     QCOMPARE(window->dialog.tempUnit(), QString());
     QCOMPARE(window->step(), 0);
@@ -110,8 +110,8 @@ void TestDocumentFiles::newAsksForTheRefrigerantFirst()
     QCOMPARE(window->step(), 1);
     QVERIFY(Window::visible(&window->dialog, "sideGroupBox"));
     QVERIFY(window->dialog.document().isNull());
-    QCOMPARE(window->members().filePath, QString());
-    QVERIFY(window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, QString());
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString());
     QVERIFY(!messages::contain("Load Json Data!!"));
 }
@@ -123,8 +123,8 @@ void TestDocumentFiles::newKeepsTheDocumentInForce()
     QVERIFY(!Window::enabled(&window->dialog, "productSelectionButton"));
     window->clickNew();
     QCOMPARE(window->dialog.document(), QJsonDocument::fromJson(unsorted));
-    QCOMPARE(window->members().filePath, window->path("a.json"));
-    QVERIFY(!window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, window->path("a.json"));
+    QVERIFY(!window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), window->path("a.json"));
     QVERIFY(Window::enabled(&window->dialog, "productSelectionButton"));
     QCOMPARE(window->step(), 1);
@@ -145,13 +145,13 @@ void TestDocumentFiles::newClearsStepsAndTabs()
         (window->dialog.*setter)(true);
     }
     window->clickNew();
-    QVERIFY(!window->members().productDone && !window->members().dipSwitchDone
-            && !window->members().settingDone);
-    QVERIFY(!window->members().functionValid && !window->members().userValid
-            && !window->members().serviceValid && !window->members().installationValid);
-    QVERIFY(window->members().systemSectionValid && window->members().autoSectionValid
-            && window->members().coolSectionValid && window->members().dwhSectionValid
-            && window->members().heatSectionValid);
+    QVERIFY(!window->members().results.productDone && !window->members().results.dipSwitchDone
+            && !window->members().results.settingDone);
+    QVERIFY(!window->members().results.functionValid && !window->members().results.userValid
+            && !window->members().results.serviceValid && !window->members().results.installationValid);
+    QVERIFY(window->members().results.systemSectionValid && window->members().results.autoSectionValid
+            && window->members().results.coolSectionValid && window->members().results.dwhSectionValid
+            && window->members().results.heatSectionValid);
     for (const char *icon : {"functionValidationIcon", "userValidationIcon", "serviceValidationIcon",
                              "installationValidationIcon"}) {
         QVERIFY2(Window::shownItself(&window->dialog, icon), icon);
@@ -181,8 +181,8 @@ void TestDocumentFiles::refrigerantLoadsItsDefault()
     window->dialog.setTempUnit("FAHRENHEIT");
     QVERIFY(window->dialog.openNewJsonFile(refrigerant));
     QCOMPARE(window->dialog.document(), documents::standard(name));
-    QCOMPARE(window->members().filePath, resource(name));
-    QVERIFY(window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, resource(name));
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), name);
     QCOMPARE(window->dialog.tempUnit(), QString("CENTIGRADE"));
 }
@@ -217,7 +217,7 @@ void TestDocumentFiles::unknownRefrigerantChangesNothing()
              (QStringList{"Load Json Data!!", "MainDialog::loadJsonData failed to open file: \"\"",
                           "MainDialog::openNewJsonFile load json data failed"}));
     QCOMPARE(window->dialog.document(), documents::standard("R32"));
-    QCOMPARE(window->members().filePath, resource("R32"));
+    QCOMPARE(window->members().settings.filePath, resource("R32"));
     QCOMPARE(window->shownPath(), QString("R32"));
 }
 
@@ -233,12 +233,12 @@ void TestDocumentFiles::opensAFile()
     messages::clear();
     filedialogs::answer([&] { Window::click(button); }, window->path("a.json"));
     QCOMPARE(window->dialog.document(), QJsonDocument::fromJson(unsorted));
-    QCOMPARE(window->members().filePath, window->path("a.json"));
-    QVERIFY(!window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, window->path("a.json"));
+    QVERIFY(!window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), window->path("a.json"));
     QVERIFY(Window::visible(&window->dialog, "sideGroupBox"));
     QCOMPARE(window->step(), 2);
-    QVERIFY(window->members().productDone);
+    QVERIFY(window->members().results.productDone);
     auto *step = Window::find(&window->dialog, "productSelectionButton");
     QVERIFY(!step->isEnabled());
     QCOMPARE(step->styleSheet(),
@@ -343,13 +343,13 @@ void TestDocumentFiles::cancelledOpenChangesNothing()
     const auto seen = filedialogs::answer([&] { Window::click(button); }, QString());
     QCOMPARE(seen.title, QString("Json File"));
     QVERIFY(window->dialog.document().isNull());
-    QCOMPARE(window->members().filePath, QString());
-    QVERIFY(window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, QString());
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString());
     QCOMPARE(window->step(), 0);
     QVERIFY(!Window::visible(&window->dialog, "sideGroupBox"));
     QVERIFY(Window::enabled(&window->dialog, "productSelectionButton"));
-    QVERIFY(!window->members().productDone);
+    QVERIFY(!window->members().results.productDone);
     QCOMPARE(DocumentWindow::told().last(),
              toolBar ? QString("MainDialog::on_openButton_clicked open failed")
                      : QString("Select::clickedOpenButton load json file open failed"));
@@ -387,10 +387,10 @@ void TestDocumentFiles::opensWhatIsNoObject()
     QCOMPARE(window->dialog.document().toJson(QJsonDocument::Compact), document);
 
     window->open(window->path("a.json"));
-    QCOMPARE(window->members().filePath, window->path("a.json"));
+    QCOMPARE(window->members().settings.filePath, window->path("a.json"));
     QCOMPARE(window->shownPath(), window->path("a.json"));
     QCOMPARE(window->step(), 2);
-    QVERIFY(window->members().productDone);
+    QVERIFY(window->members().results.productDone);
     QCOMPARE(DocumentWindow::told().filter("failed to open"), QStringList());
     // Into no document nothing is written.
     window->write("a.b", "w");
@@ -437,11 +437,11 @@ void TestDocumentFiles::failedOpenChangesNothing()
                           "MainDialog::openJsonFile load json data failed",
                           "MainDialog::on_openButton_clicked open failed"}));
     QCOMPARE(window->dialog.document(), documents::standard("R32"));
-    QCOMPARE(window->members().filePath, resource("R32"));
-    QVERIFY(window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, resource("R32"));
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString("R32"));
     QCOMPARE(window->step(), 1);
-    QVERIFY(!window->members().productDone);
+    QVERIFY(!window->members().results.productDone);
     QVERIFY(Window::enabled(&window->dialog, "productSelectionButton"));
 }
 

@@ -116,8 +116,8 @@ void TestDocumentSave::firstSaveAsks()
     QCOMPARE(seen.filter, QString("JSON File(*.json;)"));
     QCOMPARE(seen.question, QString());
     QCOMPARE(content(window->path("new.json")), documents::standard("R410").toJson(QJsonDocument::Compact));
-    QCOMPARE(window->members().filePath, window->path("new.json"));
-    QVERIFY(!window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, window->path("new.json"));
+    QVERIFY(!window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString("R410"));
     QCOMPARE(DocumentWindow::told(),
              QStringList{"MainDialog::on_saveButton_clicked save file finished "
@@ -140,8 +140,8 @@ void TestDocumentSave::cancelledSaveAsksAgain()
     messages::clear();
     for (int round = 0; round < 2; ++round) {
         QCOMPARE(window->save(QString()).title, QString("Save"));
-        QCOMPARE(window->members().filePath, resource("R32"));
-        QVERIFY(window->members().isNewFile);
+        QCOMPARE(window->members().settings.filePath, resource("R32"));
+        QVERIFY(window->members().settings.isNewFile);
         QCOMPARE(DocumentWindow::told(), QStringList());
     }
     QCOMPARE(window->save(window->path("new.json")).title, QString("Save"));
@@ -248,8 +248,8 @@ void TestDocumentSave::failedFirstSaveKeepsTheName()
     QCOMPARE(DocumentWindow::told(),
              (QStringList{"MainDialog::saveJsonFile: " + quoted(unwritable),
                           "MainDialog::on_saveButton_clicked save file finished " + quoted(unwritable)}));
-    QVERIFY(!window->members().isNewFile);
-    QCOMPARE(window->members().filePath, unwritable);
+    QVERIFY(!window->members().settings.isNewFile);
+    QCOMPARE(window->members().settings.filePath, unwritable);
     QVERIFY(window->save(window->path("b.json")).title.isEmpty());
     QVERIFY(!QFile::exists(window->path("b.json")));
 }
@@ -264,7 +264,7 @@ void TestDocumentSave::failedLaterSaveKeepsTheName()
     messages::clear();
     window->save(QString());
     QCOMPARE(DocumentWindow::told().first(), "MainDialog::saveJsonFile: " + quoted(window->path("a.json")));
-    QCOMPARE(window->members().filePath, window->path("a.json"));
+    QCOMPARE(window->members().settings.filePath, window->path("a.json"));
     // Once the way is free again, the next Save makes the file anew.
     QVERIFY(QDir().rmdir(window->path("a.json")));
     window->save(QString());

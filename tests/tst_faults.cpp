@@ -57,8 +57,8 @@ void TestFaults::saveAndExpectFailure(const QString &path)
              (QStringList{"MainDialog::saveJsonFile: " + quoted(path),
                           "MainDialog::on_saveButton_clicked save file finished " + quoted(path)}));
     QCOMPARE(regularContent(path), before);
-    QCOMPARE(window->members().filePath, path);
-    QVERIFY(!window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, path);
+    QVERIFY(!window->members().settings.isNewFile);
     QCOMPARE(window->dialog.document(), document);
     QCOMPARE(window->step(), step);
     QVERIFY(window->dialog.isVisible());
@@ -172,8 +172,8 @@ void TestFaults::diskFills()
              (QStringList{"MainDialog::saveJsonFile: " + quoted(file()),
                           "MainDialog::on_saveButton_clicked save file finished " + quoted(file())}));
     QCOMPARE(content(file()), whole.left(written));
-    QCOMPARE(window->members().filePath, file());
-    QVERIFY(!window->members().isNewFile);
+    QCOMPARE(window->members().settings.filePath, file());
+    QVERIFY(!window->members().settings.isNewFile);
     QCOMPARE(window->dialog.document(), documents::standard("R32"));
 
     QFile::remove(folder() + "/filler");
@@ -224,7 +224,7 @@ void TestFaults::savesWhereTheLinkLeads()
     window->save(window->path(path));
     QCOMPARE(content(window->path(written)), compact(documents::standard("R410")));
     QVERIFY(QFileInfo(window->path(link)).isSymLink());
-    QCOMPARE(window->members().filePath, window->path(path));
+    QCOMPARE(window->members().settings.filePath, window->path(path));
     window->open(window->path(path));
     QCOMPARE(window->shownPath(), window->path(path));
 }
@@ -300,7 +300,7 @@ void TestFaults::longNames()
     QCOMPARE(content(path), compact(documents::standard("R32")));
     window->open(path);
     QCOMPARE(window->shownPath(), path);
-    QCOMPARE(window->members().filePath, path);
+    QCOMPARE(window->members().settings.filePath, path);
     // The path is cut off at the end of its bar, and moves nothing.
     QTest::qWait(0);
     QCOMPARE(window->dialog.size(), size);

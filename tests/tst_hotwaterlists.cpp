@@ -238,7 +238,7 @@ void TestHotWaterLists::defaultDocumentsShowNothing()
                               "groupBoxHeatingOperationTimer", "groupBoxHeatPump", "groupBoxDisinfection"}) {
         QVERIFY2(!section->offered(group), group);
     }
-    QVERIFY(section->window.dialog.members().dwhSectionValid);
+    QVERIFY(section->window.dialog.members().results.dwhSectionValid);
 }
 
 void TestHotWaterLists::groupsFollowTheFlags_data()

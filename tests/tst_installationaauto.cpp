@@ -264,7 +264,7 @@ void TestInstallationaAuto::boxesWrite()
     auto *combo = Window::find<QComboBox>(section->page, qPrintable(box));
     QCOMPARE(section->window.changes([&] { Window::choose(combo, item); }), written);
     QCOMPARE(combo->currentText(), item);
-    QVERIFY(section->window.dialog.members().autoSectionValid);
+    QVERIFY(section->window.dialog.members().results.autoSectionValid);
 }
 
 void TestInstallationaAuto::closedSectionWritesNothing()
@@ -316,7 +316,7 @@ void TestInstallationaAuto::modeIsWritten()
     const QStringList lists = section->allLists();
     QCOMPARE(section->window.changes([this] { Window::click(section->page, QTest::currentDataTag()); }),
              (QVariantMap{{path, word}}));
-    QVERIFY(section->window.dialog.members().autoSectionValid);
+    QVERIFY(section->window.dialog.members().results.autoSectionValid);
     QCOMPARE(section->allLists(), lists);
     for (const char *row : {"groupBoxHeatOutTemp", "groupBoxCoolOutTemp", "groupBoxHeatWaterTemp",
                             "groupBoxCoolWaterTemp", "groupBoxMainZoneIndoor"}) {
@@ -506,12 +506,12 @@ void TestInstallationaAuto::alwaysValid()
     section->window.dialog.setHeatSectionValid(true);
     section->window.dialog.setDwhSectionValid(true);
     section->window.dialog.updateInstallationValid();
-    QVERIFY(!section->window.dialog.members().installationValid);
+    QVERIFY(!section->window.dialog.members().results.installationValid);
     messages::clear();
     Window::invoke(section->page, "validationCheck");
     QVERIFY(messages::contain("InstallationaAuto::validationCheck :  true"));
-    QVERIFY(section->window.dialog.members().autoSectionValid);
-    QVERIFY(section->window.dialog.members().installationValid);
+    QVERIFY(section->window.dialog.members().results.autoSectionValid);
+    QVERIFY(section->window.dialog.members().results.installationValid);
 }
 
 CALORA_TEST_MAIN(TestInstallationaAuto)

@@ -322,9 +322,9 @@ void TestInstallationAquabox::hsModeWithoutItsFlagNeedsAClick()
     load(aquabox({{flag("isHsModel"), "CLR"}, {hsMode, "SET"}}));
     open();
     QVERIFY(!checked("radioHsmodeNotuse") && !checked("radioHsmodeUse"));
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     Window::click(module, "radioHsmodeNotuse");
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAquabox::oilRecoveryFollowsTheCombination()
@@ -355,12 +355,12 @@ void TestInstallationAquabox::leavingTheCombinationClearsItsOptions()
     open();
     Window::click(module, "radioCombinationNotuse");
     QCOMPARE(checkedOptions(), QStringList());
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     Window::click(module, "radioCombinationUse");
     QCOMPARE(checkedOptions(), QStringList());
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     Window::click(module, "radioOpt1");
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAquabox::storedOilRecoveryHasToBeChosenAgain()
@@ -370,9 +370,9 @@ void TestInstallationAquabox::storedOilRecoveryHasToBeChosenAgain()
     load(stored);
     QCOMPARE(checkedOptions(), QStringList());
     open();
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     QCOMPARE(section->window.changes([this] { Window::click(module, "radioOpt2"); }), QVariantMap());
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     // The next load asks again.
     load(stored);
     QVERIFY(!checked("radioOpt2"));
@@ -393,7 +393,7 @@ void TestInstallationAquabox::withoutCombinationBothOptionsAreEmpty()
     QCOMPARE(checkedOptions(), QStringList());
     QVERIFY(!enabled("radioOpt1") && !enabled("radioOpt2"));
     open();
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAquabox::flowRateOutsideTheListIsKept()
@@ -467,11 +467,11 @@ void TestInstallationAquabox::requiresARadioOfEachPair()
     load(aquabox());
     load(aquabox({{path, "x"}}));
     open();
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     QVERIFY(messages::contain("InstallationSystemAquabox::validationCheck failed!!"));
     messages::clear();
     Window::click(module, QTest::currentDataTag());
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     QVERIFY(messages::contain("InstallationSystemAquabox::validationCheck succeed!!"));
 }
 
@@ -488,7 +488,7 @@ void TestInstallationAquabox::checksItsPairsInOrder()
              {"radioHsmodeNotuse", "radioHsmodeUse"},
              {"radioOpt1", "radioOpt2"},
              {"radioRefrigerantNotuse", "radioRefrigerantUse"}}) {
-        QVERIFY2(!section->members().systemSectionValid, first);
+        QVERIFY2(!section->members().results.systemSectionValid, first);
         messages::clear();
         Window::invoke(module, "validationCheck");
         const QStringList failures = messages::all().filter("checkValidationRadio");
@@ -497,7 +497,7 @@ void TestInstallationAquabox::checksItsPairsInOrder()
                  qPrintable(failures.first()));
         Window::click(module, second);
     }
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAquabox::comesUpThroughItsOwnShowEvent()
@@ -505,10 +505,10 @@ void TestInstallationAquabox::comesUpThroughItsOwnShowEvent()
     renew();
     section->load(aquabox({{standby, "SET"}}));
     QVERIFY(!checked("radioStandbyUse"));
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     open();
     QVERIFY(checked("radioStandbyUse"));
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 CALORA_TEST_MAIN(TestInstallationAquabox)

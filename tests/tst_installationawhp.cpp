@@ -350,12 +350,12 @@ void TestInstallationAwhp::requiresARadioOfEachPair()
     QFETCH(QVariantMap, values);
     QFETCH(QByteArray, radio);
     load(documents::joined(heatPumpGroups(), values));
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     open();
-    QVERIFY(!section->members().systemSectionValid);
+    QVERIFY(!section->members().results.systemSectionValid);
     QVERIFY(messages::contain("InstallationSystemSetting::validationCheck failed"));
     Window::click(awhp, radio.constData());
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     // A pair that is hidden isn't asked for.
     if (!values.contains(secondCircuit)) {
         QVariantMap hidden = values;
@@ -364,7 +364,7 @@ void TestInstallationAwhp::requiresARadioOfEachPair()
         }
         load(hidden);
         open();
-        QVERIFY(section->members().systemSectionValid);
+        QVERIFY(section->members().results.systemSectionValid);
     }
 }
 
@@ -388,7 +388,7 @@ void TestInstallationAwhp::checksItsPairsInOrder()
              {"radioHeaterPriorityNotuse", "radioHeaterPriorityUse"},
              {"radioSgNotuse", "radioSgUse"},
              {"radioWaterTankHeaterMode", "radioWaterTankHeaterNotuse"}}) {
-        QVERIFY2(!section->members().systemSectionValid, first);
+        QVERIFY2(!section->members().results.systemSectionValid, first);
         messages::clear();
         Window::invoke(awhp, "validataionCheck");
         const QStringList failures = messages::all().filter("checkValidationRadio");
@@ -397,7 +397,7 @@ void TestInstallationAwhp::checksItsPairsInOrder()
                  qPrintable(failures.first()));
         Window::click(awhp, second);
     }
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAwhp::emitsWhatItsSlotsSay()

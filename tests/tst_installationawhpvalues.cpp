@@ -259,7 +259,7 @@ void TestInstallationAwhpValues::writes()
     }),
              after);
     QVERIFY(messages::contain("InstallationSystemSetting::validationCheck succeed"));
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
 }
 
 void TestInstallationAwhpValues::writesInFahrenheit_data()

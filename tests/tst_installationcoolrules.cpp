@@ -63,7 +63,7 @@ void TestInstallationCoolRules::defaultDocuments()
         QCOMPARE(driver->items("comboTemperatureWaterMax"), range(22, 27, "°C"));
         QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("18°C"));
         QCOMPARE(driver->shown("comboTemperatureWaterMax"), QStringLiteral("24°C"));
-        QVERIFY(driver->window.dialog.members().coolSectionValid);
+        QVERIFY(driver->window.dialog.members().results.coolSectionValid);
     }
 }
 
@@ -260,7 +260,7 @@ void TestInstallationCoolRules::validationNeedsThreePairs()
     const auto valid = [this] {
         messages::clear();
         Window::invoke(driver->page, "validationCheck");
-        return driver->window.dialog.members().coolSectionValid;
+        return driver->window.dialog.members().results.coolSectionValid;
     };
     for (const auto &pair : {std::make_pair("radioControlTypeAuto", "radioControlTypeManual"),
                              std::make_pair("radioFanCoilNotuse", "radioFanCoilUse"),

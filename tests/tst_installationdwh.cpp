@@ -456,16 +456,16 @@ void TestInstallationDwh::reportsItsResult()
 {
     section->window.dialog.setDwhSectionValid(false);
     section->load(everything);
-    QVERIFY(section->window.dialog.members().dwhSectionValid);
+    QVERIFY(section->window.dialog.members().results.dwhSectionValid);
     for (const auto set : {&MainDialog::setSystemSectionValid, &MainDialog::setAutoSectionValid,
                            &MainDialog::setCoolSectionValid, &MainDialog::setHeatSectionValid}) {
         (section->window.dialog.*set)(true);
     }
     QVERIFY(Window::invoke(section->page, "validationCheck"));
-    QVERIFY(section->window.dialog.members().installationValid);
+    QVERIFY(section->window.dialog.members().results.installationValid);
     uncheck("radioUnderFloorNotUse", "radioUnderFloorUse");
     QVERIFY(Window::invoke(section->page, "validationCheck"));
-    QVERIFY(!section->window.dialog.members().installationValid);
+    QVERIFY(!section->window.dialog.members().results.installationValid);
 }
 
 void TestInstallationDwh::pairWithNothingChosenFails_data()
@@ -489,7 +489,7 @@ void TestInstallationDwh::pairWithNothingChosenFails()
         uncheck("radioDisinfectionNotUse", "radioDisinfectionUse");
     }
     QVERIFY(Window::invoke(section->page, "validationCheck"));
-    QVERIFY(!section->window.dialog.members().dwhSectionValid);
+    QVERIFY(!section->window.dialog.members().results.dwhSectionValid);
     QVERIFY(messages::contain("InstallationCool::validationCheck validation check failed!!"));
     QCOMPARE(messages::contain("radioUnderFloorNotUse"), floor);
     // The second pair isn't tried once the first has failed.
@@ -504,7 +504,7 @@ void TestInstallationDwh::hiddenPairPasses()
     Window::click(section->page, "hideButton");
     QVERIFY(Window::invoke(section->page, "validationCheck"));
     QVERIFY(messages::contain("InstallationDWH::SettingUser validation succeed!"));
-    QVERIFY(section->window.dialog.members().dwhSectionValid);
+    QVERIFY(section->window.dialog.members().results.dwhSectionValid);
 }
 
 CALORA_TEST_MAIN(TestInstallationDwh)

@@ -169,7 +169,7 @@ void TestInstallationHeatRules::validationNeedsTwoPairs()
     const auto valid = [this] {
         messages::clear();
         Window::invoke(driver->page, "validationCheck");
-        return driver->window.dialog.members().heatSectionValid;
+        return driver->window.dialog.members().results.heatSectionValid;
     };
     for (const auto &[first, second] : {std::make_pair("radioControlTypeAuto", "radioControlTypeManual"),
                                         std::make_pair("radioWaterPumpNotuse", "radioWaterPumpUse")}) {

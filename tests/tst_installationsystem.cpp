@@ -299,7 +299,7 @@ void TestInstallationSystem::firstLoadRefreshesTheHeatPumpOnce()
     QSignalSpy refreshed(section->page, &InstallationSystemSetting::refreshAwhpCategory);
     section->load();
     QCOMPARE(refreshed.size(), 1);
-    QVERIFY(section->members().systemSectionValid);
+    QVERIFY(section->members().results.systemSectionValid);
     section->load();
     QCOMPARE(refreshed.size(), 1);
 }
@@ -350,7 +350,7 @@ void TestInstallationSystem::passesOnWhatProductsAskFor()
 
 void TestInstallationSystem::validOnlyWithBothRadioPairs()
 {
-    const auto valid = [this] { return section->members().systemSectionValid; };
+    const auto valid = [this] { return section->members().results.systemSectionValid; };
     for (const QString &path : {installation("drycontactAuto"), use()}) {
         section->load({{path, "x"}});
         // Nothing of a closed section is visible, so nothing is required.
@@ -405,18 +405,18 @@ void TestInstallationSystem::joinsTheProductsResult()
     };
     report(true, product);
     const DialogState &state = section->members();
-    QVERIFY(state.systemSectionValid);
+    QVERIFY(state.results.systemSectionValid);
     section->window.dialog.setSystemSectionValid(false);
     section->window.dialog.updateInstallationValid();
     messages::clear();
     report(false, type);
-    QCOMPARE(state.systemSectionValid, !counts);
+    QCOMPARE(state.results.systemSectionValid, !counts);
     QVERIFY(messages::contain("InstallationSystemSetting::validationCheck succeed!!"));
     // A failed product ends the check before its last message and before the tab's result is joined.
     QCOMPARE(messages::contain("InstallationSystemSetting::validationCheck true"), !counts);
     QVERIFY(!messages::contain("InstallationSystemSetting::validationCheck false"));
     report(true, type);
-    QVERIFY(state.systemSectionValid);
+    QVERIFY(state.results.systemSectionValid);
     QVERIFY(messages::contain("InstallationSystemSetting::validationCheck true"));
 }
 
@@ -431,11 +431,11 @@ void TestInstallationSystem::withoutProductItsOwnResultCounts()
         (dialog.*set)(true);
     }
     Window::invoke(section->page, "validationCheck");
-    QVERIFY(dialog.members().installationValid);
+    QVERIFY(dialog.members().results.installationValid);
     Window::find(section->page, "widgetAwhp")->show();
     Window::invoke(section->page, "validationCheck");
-    QVERIFY(!dialog.members().systemSectionValid);
-    QVERIFY(dialog.members().installationValid);
+    QVERIFY(!dialog.members().results.systemSectionValid);
+    QVERIFY(dialog.members().results.installationValid);
     Window::find(section->page, "widgetAwhp")->hide();
     section->window.use(documents::with(section->document(), {{installation("drycontactAuto"), "x"}}));
     Window::invoke(section->page, "loadJsonData");
@@ -443,7 +443,7 @@ void TestInstallationSystem::withoutProductItsOwnResultCounts()
     messages::clear();
     Window::invoke(section->page, "validationCheck");
     QVERIFY(messages::contain("InstallationSystemSetting::validationCheck false"));
-    QVERIFY(!dialog.members().installationValid);
+    QVERIFY(!dialog.members().results.installationValid);
 }
 
 void TestInstallationSystem::blocksItsThirteenLists()

@@ -423,7 +423,7 @@ void TestLanguageMenu::newOpensTheEditor()
         verifyClosed();
         QVERIFY(editor->isModal());
         QCOMPARE(editor->parentWidget(), nullptr);
-        QCOMPARE(dialog().members().languageSnapshot, english);
+        QCOMPARE(dialog().members().languages.snapshot.document, english);
         QCOMPARE(dialog().languageSnapshotMap(), dialog().languageMap());
         QCOMPARE(dialog().languageDocument(), english);
         // A new language: Save asks for a name.

@@ -446,7 +446,7 @@ void TestLookup::snapshotIsApart()
     const QVariantMap inForce = dialog().languageMap();
     dialog().setLanguageSnapshot(dialog().languageDocument());
     QCOMPARE(dialog().languageSnapshotMap(), inForce);
-    QCOMPARE(dialog().members().languageSnapshot, dialog().languageDocument());
+    QCOMPARE(dialog().members().languages.snapshot.document, dialog().languageDocument());
     const QVariantMap taken = dialog().languageSnapshotMap();
     dialog().setLanguageSnapshotText("New", "Neu");
     dialog().setLanguageSnapshotText("Added", "x");

@@ -237,16 +237,19 @@ void TestMainDialog::startsWithNothingDone()
     QCOMPARE(find<QStackedWidget>("settingStackedWidget")->currentIndex(), 0);
     QVERIFY(!Window::visible(&dialog(), "sideGroupBox"));
     QCOMPARE(find<QLabel>("pathLabel")->text(), QString());
-    QVERIFY(!members().productDone && !members().dipSwitchDone && !members().settingDone);
-    QVERIFY(members().functionValid);
-    QVERIFY(!members().userValid && !members().serviceValid && !members().installationValid);
-    QVERIFY(!members().systemSectionValid && !members().autoSectionValid && !members().coolSectionValid
-            && !members().dwhSectionValid && !members().heatSectionValid);
-    QVERIFY(members().isNewFile && !members().languageMenuOpen && !members().saveValidated);
-    QCOMPARE(members().filePath, QString());
-    QCOMPARE(members().tempUnit, QString());
+    QVERIFY(!members().results.productDone && !members().results.dipSwitchDone
+            && !members().results.settingDone);
+    QVERIFY(members().results.functionValid);
+    QVERIFY(!members().results.userValid && !members().results.serviceValid
+            && !members().results.installationValid);
+    QVERIFY(!members().results.systemSectionValid && !members().results.autoSectionValid
+            && !members().results.coolSectionValid && !members().results.dwhSectionValid
+            && !members().results.heatSectionValid);
+    QVERIFY(members().settings.isNewFile && !members().languageMenuOpen && !members().settings.saveValidated);
+    QCOMPARE(members().settings.filePath, QString());
+    QCOMPARE(members().units.tempUnit, QString());
     QCOMPARE(members().refrigerant, QString("None"));
-    QVERIFY(members().document.isNull() && members().languageSnapshot.isNull());
+    QVERIFY(members().settings.document.isNull() && members().languages.snapshot.document.isNull());
     QVERIFY(members().menu.isHidden() && members().menu.parent() == nullptr);
     QVERIFY(!popup()->isVisible());
 }

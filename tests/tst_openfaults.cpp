@@ -72,8 +72,8 @@ void TestOpenFaults::cantBeOpened()
     window->open(file());
     QCOMPARE(DocumentWindow::told().last(), QString("MainDialog::on_openButton_clicked open failed"));
     QCOMPARE(window->dialog.document(), document);
-    QVERIFY(window->members().filePath.startsWith(":/"));
-    QVERIFY(window->members().isNewFile);
+    QVERIFY(window->members().settings.filePath.startsWith(":/"));
+    QVERIFY(window->members().settings.isNewFile);
     QCOMPARE(window->shownPath(), QString("R32"));
     QCOMPARE(window->step(), 1);
     QVERIFY(Window::enabled(&window->dialog, "productSelectionButton"));
@@ -91,7 +91,7 @@ void TestOpenFaults::opensWhatCantBeRead()
 #endif
     window->open(memory);
     QVERIFY(window->dialog.document().isNull());
-    QCOMPARE(window->members().filePath, memory);
+    QCOMPARE(window->members().settings.filePath, memory);
     QCOMPARE(window->step(), 2);
     walk();
 }
@@ -129,7 +129,7 @@ void TestOpenFaults::deepNesting()
     const QByteArray written = small().chopped(1) + ",\"zzz\":" + deep + '}';
     put(file(), written);
     window->open(file());
-    QCOMPARE(window->members().filePath, file());
+    QCOMPARE(window->members().settings.filePath, file());
     QCOMPARE(window->step(), 2);
     QCOMPARE(window->dialog.document().isNull(), levels > 1000);
     window->completeSteps();

@@ -58,7 +58,7 @@ private:
     /// Checks the radio that the page withdraws, without a click.
     void makeAquabox() const { Window::find<QRadioButton>(page, "radioButtonAquabox")->setChecked(true); }
     bool checked(const char *name) const { return Window::checked(page, name); }
-    bool productDone() const { return window->dialog.members().productDone; }
+    bool productDone() const { return window->dialog.members().results.productDone; }
 
     std::unique_ptr<Window> window;
     ProductSelection *page = nullptr;
@@ -255,7 +255,7 @@ void TestProductSelection::refrigerantStartsTheDocumentOver()
         QVERIFY2(Window::shownItself(&window->dialog, icon), icon);
     }
     QVERIFY(Window::shownItself(&window->dialog, "labelErrorSetting"));
-    QVERIFY(!window->dialog.members().settingDone);
+    QVERIFY(!window->dialog.members().results.settingDone);
 }
 
 void TestProductSelection::refrigerantIsToldLast()
@@ -275,8 +275,9 @@ void TestProductSelection::refrigerantIsToldLast()
     Window::click(page, "radioButtonR410");
     QCOMPARE(told, 1);
     const DialogState &state = window->dialog.members();
-    QVERIFY(!state.functionValid && !state.userValid && !state.serviceValid && !state.installationValid);
-    QVERIFY(!state.settingDone);
+    QVERIFY(!state.results.functionValid && !state.results.userValid && !state.results.serviceValid
+            && !state.results.installationValid);
+    QVERIFY(!state.results.settingDone);
 }
 
 void TestProductSelection::sameRefrigerantTwiceStartsOver()
@@ -377,8 +378,8 @@ void TestProductSelection::newShowsThePageBeforeItClears()
         QVERIFY2(!checked(name), name);
     }
     const DialogState &state = window->dialog.members();
-    QVERIFY(!state.dipSwitchDone && !state.settingDone && !state.functionValid && !state.userValid
-            && !state.serviceValid && !state.installationValid);
+    QVERIFY(!state.results.dipSwitchDone && !state.results.settingDone && !state.results.functionValid
+            && !state.results.userValid && !state.results.serviceValid && !state.results.installationValid);
     QCOMPARE(window->dialog.document(), worked);
 }
 
@@ -515,7 +516,8 @@ void TestProductSelection::missingDefaultsChangeNothing()
     QVERIFY(checked("radioButtonR410"));
     QCOMPARE(window->dialog.document(), before);
     const DialogState &state = window->dialog.members();
-    QVERIFY(state.functionValid && state.userValid && state.serviceValid && state.installationValid);
+    QVERIFY(state.results.functionValid && state.results.userValid && state.results.serviceValid
+            && state.results.installationValid);
     QVERIFY(!productDone());
     QCOMPARE(state.refrigerant, QStringLiteral("R32"));
     QCOMPARE(told.size(), 0);

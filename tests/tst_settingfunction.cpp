@@ -56,7 +56,7 @@ private:
     {
         return window->changes([&] { Window::choose(page, combo, item); });
     }
-    bool valid() const { return window->dialog.members().functionValid; }
+    bool valid() const { return window->dialog.members().results.functionValid; }
 
     std::unique_ptr<Window> window;
     SettingFunction *page = nullptr;

@@ -46,7 +46,7 @@ private slots:
 private:
     void show(const QVariantMap &values = {});
     QString style(const char *name) const { return Window::find(page, name)->styleSheet(); }
-    bool valid() const { return window->dialog.members().functionValid; }
+    bool valid() const { return window->dialog.members().results.functionValid; }
 
     std::unique_ptr<Window> window;
     SettingFunction *page = nullptr;

@@ -173,7 +173,7 @@ void TestSettingService::typingWritesAtOnce()
     // Writing checks nothing.
     window->dialog.setSettingTabValid(false, MainDialog::ServiceTab);
     Window::type(field, "4");
-    QVERIFY(!window->dialog.members().serviceValid);
+    QVERIFY(!window->dialog.members().results.serviceValid);
 }
 
 void TestSettingService::emptyingDiffers_data()
@@ -306,17 +306,17 @@ void TestSettingService::sixteenthCharacterIsRefused()
 void TestSettingService::isCompleteOnceShown()
 {
     Window::click(&window->dialog, "newButton");
-    QVERIFY(!window->dialog.members().serviceValid);
+    QVERIFY(!window->dialog.members().results.serviceValid);
     show({});
-    QVERIFY(window->dialog.members().serviceValid);
+    QVERIFY(window->dialog.members().results.serviceValid);
     QVERIFY(!Window::shownItself(&window->dialog, "serviceValidationIcon"));
 }
 
 void TestSettingService::checkReportsWithoutChecking()
 {
-    QVERIFY(!window->dialog.members().serviceValid);
+    QVERIFY(!window->dialog.members().results.serviceValid);
     Window::invoke(page, "validataionCheck");
-    QVERIFY(window->dialog.members().serviceValid);
+    QVERIFY(window->dialog.members().results.serviceValid);
 }
 
 void TestSettingService::readsByPath()

@@ -52,7 +52,7 @@ private:
         return window->changes([&] { Window::choose(page, combo, item); });
     }
     QString style(const char *name) const { return Window::find(page, name)->styleSheet(); }
-    bool valid() const { return window->dialog.members().functionValid; }
+    bool valid() const { return window->dialog.members().results.functionValid; }
 
     std::unique_ptr<Window> window;
     SettingFunction *page = nullptr;

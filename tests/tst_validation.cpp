@@ -233,7 +233,7 @@ void TestValidation::savesNothing()
     const auto seen = filedialogs::answer([this] { Window::click(&dialog(), "validationButton"); },
                                           QString());
     QVERIFY(seen.title.isEmpty());
-    QVERIFY(dialog().members().isNewFile);
+    QVERIFY(dialog().members().settings.isNewFile);
     QCOMPARE(dialog().document(), documents::standard("R32"));
     QVERIFY(messages::all().isEmpty());
 }
@@ -319,8 +319,8 @@ void TestValidation::dataSaveChoicesDoNothing()
     QVERIFY(messages::all().isEmpty());
     QVERIFY(choices->isVisible());
     QCOMPARE(dialog().document(), documents::standard("R32"));
-    QVERIFY(!dialog().members().productDone && !dialog().members().settingDone);
-    QVERIFY(dialog().members().isNewFile);
+    QVERIFY(!dialog().members().results.productDone && !dialog().members().results.settingDone);
+    QVERIFY(dialog().members().settings.isNewFile);
 }
 
 void TestValidation::dataSaveIsNeverShown()

@@ -1,4 +1,4 @@
-#include "document/temperature.h"
+#include "document/units.h"
 #include "pages/page.h"
 #include "support/window.h"
 
@@ -95,7 +95,7 @@ void TestValueLists::init()
 
 void TestValueLists::tableHoldsEvenFahrenheit()
 {
-    const QMap<int, int> table = temperature::makeTable();
+    const QMap<int, int> table = Units::makeTable();
     QCOMPARE(table.size(), 171);
     QCOMPARE(table.firstKey(), -50);
     QCOMPARE(table.lastKey(), 120);
@@ -107,7 +107,7 @@ void TestValueLists::tableHoldsEvenFahrenheit()
 void TestValueLists::tableDoublesEighteenValues()
 {
     const QVector<int> doubled{-47, -32, -27, -19, -16, -6, 4, 14, 24, 34, 44, 54, 64, 74, 84, 94, 104, 114};
-    const QMap<int, int> table = temperature::makeTable();
+    const QMap<int, int> table = Units::makeTable();
     int before = 0;
     for (int celsius = -50; celsius <= 120; ++celsius) {
         // Two degrees for each °C from -50, less two for each value that came twice on the way.
@@ -150,10 +150,10 @@ void TestValueLists::tableStaysNearTheFormula()
 
 void TestValueLists::tableIsFilledAnew()
 {
-    const QMap<int, int> before = dialog().members().cfTable;
+    const QMap<int, int> before = dialog().members().units.cfTable;
     QVERIFY(Window::invoke(&dialog(), "initCFTable"));
-    QCOMPARE(dialog().members().cfTable, before);
-    QCOMPARE(before, temperature::makeTable());
+    QCOMPARE(dialog().members().units.cfTable, before);
+    QCOMPARE(before, Units::makeTable());
 }
 
 void TestValueLists::backToTheLowestCelsius()

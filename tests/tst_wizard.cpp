@@ -178,7 +178,8 @@ void TestWizard::otherStepsAreIgnored()
     dialog().setCurrentStep(step);
     dialog().setStepCompleted(true, step == 1000 ? 4 : step);
     QCOMPARE(stepStyles(), before);
-    QVERIFY(!members().productDone && !members().dipSwitchDone && !members().settingDone);
+    QVERIFY(!members().results.productDone && !members().results.dipSwitchDone
+            && !members().results.settingDone);
 }
 
 void TestWizard::stepResult_data()
@@ -193,7 +194,8 @@ void TestWizard::stepResult()
 {
     QFETCH(int, step);
     const auto done = [&] {
-        return QVector<bool>{members().productDone, members().dipSwitchDone, members().settingDone};
+        return QVector<bool>{members().results.productDone, members().results.dipSwitchDone,
+                             members().results.settingDone};
     };
     dialog().setCurrentStep(4);
     QStringList styles = stepStyles();
@@ -232,18 +234,18 @@ void TestWizard::tabResultsJoin()
         for (int each = 0; each < 4; ++each) {
             dialog().setSettingTabValid(valid.at(each), each);
         }
-        QCOMPARE((QVector<bool>{members().functionValid, members().userValid, members().serviceValid,
-                                members().installationValid}),
+        QCOMPARE((QVector<bool>{members().results.functionValid, members().results.userValid,
+                                members().results.serviceValid, members().results.installationValid}),
                  valid);
         for (int each = 0; each < 4; ++each) {
             QCOMPARE(shown(tabIcons.at(each)), !valid.at(each));
         }
         // Service, the third, takes no part.
         const bool done = valid.at(0) && valid.at(1) && valid.at(3);
-        QCOMPARE(members().settingDone, done);
+        QCOMPARE(members().results.settingDone, done);
         QCOMPARE(shown("labelErrorSetting"), !done);
         QCOMPARE(find("settingButton")->styleSheet(), style(3, done ? "completed" : "focus"));
-        QVERIFY(!members().productDone && !members().dipSwitchDone);
+        QVERIFY(!members().results.productDone && !members().results.dipSwitchDone);
     }
 }
 
@@ -255,8 +257,9 @@ void TestWizard::unknownTabJoinsAllTheSame()
     for (const int unknown : {4, -1}) {
         dialog().setStepCompleted(false, 3);
         dialog().setSettingTabValid(false, unknown);
-        QVERIFY(members().functionValid && members().userValid && members().installationValid);
-        QVERIFY(members().settingDone);
+        QVERIFY(members().results.functionValid && members().results.userValid
+                && members().results.installationValid);
+        QVERIFY(members().results.settingDone);
         QVERIFY(!shown("labelErrorSetting"));
     }
 }
@@ -271,18 +274,18 @@ void TestWizard::sectionResultsJoin()
         dialog().setCoolSectionValid((bits & 4) != 0);
         dialog().setDwhSectionValid((bits & 8) != 0);
         dialog().setHeatSectionValid((bits & 16) != 0);
-        QCOMPARE((QVector<bool>{members().systemSectionValid, members().autoSectionValid,
-                                members().coolSectionValid, members().dwhSectionValid,
-                                members().heatSectionValid}),
+        QCOMPARE((QVector<bool>{members().results.systemSectionValid, members().results.autoSectionValid,
+                                members().results.coolSectionValid, members().results.dwhSectionValid,
+                                members().results.heatSectionValid}),
                  (QVector<bool>{(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0,
                                 (bits & 16) != 0}));
         for (const bool before : {true, false}) {
             dialog().setSettingTabValid(before, 3);
             dialog().updateInstallationValid();
             const bool all = bits == 31;
-            QCOMPARE(members().installationValid, all);
+            QCOMPARE(members().results.installationValid, all);
             QCOMPARE(shown("installationValidationIcon"), !all);
-            QCOMPARE(members().settingDone, all);
+            QCOMPARE(members().results.settingDone, all);
             QCOMPARE(shown("labelErrorSetting"), !all);
             QCOMPARE(find("settingButton")->styleSheet(), style(3, all ? "completed" : "focus"));
         }
@@ -290,7 +293,7 @@ void TestWizard::sectionResultsJoin()
     // The other tabs still count.
     dialog().setSettingTabValid(false, 1);
     dialog().updateInstallationValid();
-    QVERIFY(members().installationValid && !members().settingDone);
+    QVERIFY(members().results.installationValid && !members().results.settingDone);
 }
 
 void TestWizard::sectionSettersOnlySet()
@@ -301,7 +304,7 @@ void TestWizard::sectionSettersOnlySet()
                               &MainDialog::setCoolSectionValid, &MainDialog::setDwhSectionValid,
                               &MainDialog::setHeatSectionValid}) {
         (dialog().*setter)(false);
-        QVERIFY(members().installationValid);
+        QVERIFY(members().results.installationValid);
         QVERIFY(!shown("installationValidationIcon"));
         QCOMPARE(stepStyles(), before);
     }

@@ -83,7 +83,7 @@ void Pages::open(const QString &path)
 {
     standins::chosenFile = path;
     QMetaObject::invokeMethod(&window.dialog, "on_openButton_clicked");
-    if (window.dialog.members().filePath != path) {
+    if (window.dialog.members().settings.filePath != path) {
         fail("not opened", path.toUtf8());
     }
 }

@@ -143,7 +143,7 @@ void TestInjection::init()
     window->dialog.openNewJsonFile("R32");
     window->completeSteps();
     document = window->dialog.document();
-    path = window->members().filePath;
+    path = window->members().settings.filePath;
     if (QTest::currentDataTag() != nullptr) {
         fault = *static_cast<Fault *>(QTest::qData("fault", qMetaTypeId<Fault>()));
     }
@@ -199,7 +199,7 @@ void TestInjection::eachCallFails(const Steps &steps)
 void TestInjection::verifyDocument() const
 {
     QCOMPARE(window->dialog.document(), document);
-    QCOMPARE(window->members().filePath, path);
+    QCOMPARE(window->members().settings.filePath, path);
     QVERIFY(window->dialog.isVisible());
 }
 
@@ -213,7 +213,7 @@ void TestInjection::verifySave(const QString &failed, const QByteArray &before)
              isWritten ? QStringList{finished} : (QStringList{warning, finished}));
     QCOMPARE(DocumentWindow::told().count(warning), isWritten ? 0 : 1);
     QCOMPARE(content(file()), left(failed, fault, before, compact(document)));
-    QVERIFY(!window->members().isNewFile);
+    QVERIFY(!window->members().settings.isNewFile);
     path = file();
     verifyDocument();
     QVERIFY(window->save(QString()).title.isEmpty());
@@ -241,11 +241,11 @@ void TestInjection::openAndSave()
         put(file(), before);
         window->dialog.openNewJsonFile("R32");
         window->completeSteps();
-        path = window->members().filePath;
+        path = window->members().settings.filePath;
     };
     const auto openAndSave = [this] {
         window->open(file());
-        if (window->members().filePath == file()) {
+        if (window->members().settings.filePath == file()) {
             window->completeSteps();
             window->save(QString());
         }
@@ -254,7 +254,7 @@ void TestInjection::openAndSave()
         if (failed.startsWith("open to read")) {
             document = former;
             verifyDocument();
-            QVERIFY(window->members().isNewFile);
+            QVERIFY(window->members().settings.isNewFile);
             QVERIFY(messages::contain("MainDialog::loadJsonData failed to open file: " + quoted(file())));
             QCOMPARE(content(file()), before);
             return;

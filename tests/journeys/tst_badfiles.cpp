@@ -70,7 +70,7 @@ void TestBadFiles::open(const QByteArray &content)
     file.write(content);
     file.close();
     filedialogs::answer([this] { installer->press("openButton"); }, path);
-    QCOMPARE(installer->window.dialog.members().filePath, path);
+    QCOMPARE(installer->window.dialog.members().settings.filePath, path);
 }
 
 void TestBadFiles::setSectionsOpen(bool isOpen)

@@ -298,7 +298,7 @@ void TestJourneys::incompleteSetupIsNotSaved()
     QVERIFY(!installer.save(path));
     QVERIFY(!QFile::exists(path));
     QVERIFY(messages::contain("MainDialog::on_saveButton_clicked save is failed validation :"));
-    QVERIFY(window.dialog.members().isNewFile);
+    QVERIFY(window.dialog.members().settings.isNewFile);
 
     // The date is what is missing; with it, and the Installation tab seen, Save asks for a name.
     installer.goToSettings();
@@ -360,7 +360,7 @@ void TestJourneys::openedAquabox()
     Window::click(aquabox, "radioHsmodeUse");
     Window::click(aquabox, "radioCombinationUse");
     // The oil recovery is open; the tab's mark follows at the next check of another section.
-    QVERIFY(!window.dialog.members().systemSectionValid);
+    QVERIFY(!window.dialog.members().results.systemSectionValid);
     QVERIFY(!Window::shownItself(&window.dialog, "installationValidationIcon"));
     Window::click(aquabox, "radioOpt2");
     Window::choose(aquabox, "comboWater", "60");

@@ -105,7 +105,7 @@ protected:
     }
 
     bool checked(const char *name) const { return Window::checked(page, name); }
-    bool done() const { return window->dialog.members().dipSwitchDone; }
+    bool done() const { return window->dialog.members().results.dipSwitchDone; }
     QString style(const char *name) const { return Window::find(page, name)->styleSheet(); }
 
     /// The positions of a bank's switches, "0" and "1"; "?" where text and picture disagree.

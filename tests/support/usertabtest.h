@@ -50,7 +50,7 @@ protected:
                                   Q_ARG(QString, path));
         return value.toVariant();
     }
-    bool valid() const { return window->dialog.members().userValid; }
+    bool valid() const { return window->dialog.members().results.userValid; }
 
     std::unique_ptr<Window> window;
     SettingUser *page = nullptr;

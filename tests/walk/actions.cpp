@@ -230,11 +230,11 @@ Walker::Action Walker::open()
 Walker::Action Walker::save()
 {
     const MainDialog &dialog = installer.window.dialog;
-    const bool allowed = dialog.stepsDone() && !dialog.members().filePath.isEmpty();
-    const bool asks = allowed && dialog.members().isNewFile;
+    const bool allowed = dialog.stepsDone() && !dialog.members().settings.filePath.isEmpty();
+    const bool asks = allowed && dialog.members().settings.isNewFile;
     const bool cancelled = asks && dice(3) == 0;
     const QString path = asks ? installer.folder.filePath(QStringLiteral("saved-%1.json").arg(savedFiles++))
-                              : dialog.members().filePath;
+                              : dialog.members().settings.filePath;
     const QByteArray before = testfiles::content(path);
     const bool asked = installer.save(cancelled ? QString() : path);
     Action action{QStringLiteral("save ") + (cancelled ? "cancelled" : allowed ? "done" : "refused"), {}};

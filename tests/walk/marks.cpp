@@ -47,10 +47,11 @@ Marks::Marks(const MainDialog &window, const Scene &now)
 Marks::Flags Marks::flags() const
 {
     const DialogState &state = dialog.members();
-    return {{state.productDone, state.dipSwitchDone, state.settingDone},
-            {state.functionValid, state.userValid, state.serviceValid, state.installationValid},
-            {state.systemSectionValid, state.coolSectionValid, state.heatSectionValid, state.autoSectionValid,
-             state.dwhSectionValid}};
+    return {{state.results.productDone, state.results.dipSwitchDone, state.results.settingDone},
+            {state.results.functionValid, state.results.userValid, state.results.serviceValid,
+             state.results.installationValid},
+            {state.results.systemSectionValid, state.results.coolSectionValid, state.results.heatSectionValid,
+             state.results.autoSectionValid, state.results.dwhSectionValid}};
 }
 
 void Marks::before()
@@ -118,7 +119,7 @@ void Marks::after(const Happening &happening)
 void Marks::pressStep(int number)
 {
     const DialogState &state = dialog.members();
-    const bool hasFile = !state.filePath.isEmpty();
+    const bool hasFile = !state.settings.filePath.isEmpty();
     const bool open[] = {hasFile, hasFile && old.steps.at(0), hasFile && old.steps.at(0) && old.steps.at(1),
                          true};
     if (!open[number]) {

@@ -122,7 +122,7 @@ void TestWindows::pathsHaveSlashes()
     put(path, R"({"product":"awhp"})");
     window->open(native ? QDir::toNativeSeparators(path) : path);
     QCOMPARE(window->shownPath(), path);
-    QCOMPARE(window->members().filePath, path);
+    QCOMPARE(window->members().settings.filePath, path);
     QCOMPARE(DocumentWindow::told().value(0), "MainDialog::openJsonFile  selectedFile: " + quoted(path));
     window->use(documents::standard("R32"));
     window->completeSteps();
@@ -192,7 +192,7 @@ void TestWindows::savesIntoAHeldFile()
     const QByteArray whole = compact(documents::standard("R410"));
     QCOMPARE(content(path), saved ? whole : QByteArray(R"({"product":"awhp"})"));
     QCOMPARE(DocumentWindow::told().contains("MainDialog::saveJsonFile: " + quoted(path)), !saved);
-    QCOMPARE(window->members().filePath, path);
+    QCOMPARE(window->members().settings.filePath, path);
     window->save(QString());
     QCOMPARE(content(path), whole);
 }
