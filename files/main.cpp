@@ -4,6 +4,7 @@
 #include "files/diff.h"
 #include "files/options.h"
 #include "files/printing.h"
+#include "files/report.h"
 
 #include <QApplication>
 
@@ -50,6 +51,8 @@ int run(const Options &options)
         return check::run(options);
     case Options::Diff:
         return diff::run(options);
+    case Options::Report:
+        return report::run(options);
     case Options::Help:
     case Options::Version:
         printing::say(options.message);

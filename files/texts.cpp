@@ -10,14 +10,7 @@
 
 namespace {
 
-/// Beside the program, or where the Debian package keeps the configurator's.
-QString folder()
-{
-    const QDir here(QCoreApplication::applicationDirPath());
-    return here.filePath(here.exists(QStringLiteral("language"))
-                             ? QStringLiteral("language")
-                             : QStringLiteral("../lib/calora-configurator/language"));
-}
+QString languages() { return Texts::folder() + QStringLiteral("/language"); }
 
 /// The same letters in one way of writing them; a shell may give another than the disk.
 QString composed(const QString &name) { return name.normalized(QString::NormalizationForm_C); }
@@ -36,7 +29,7 @@ std::optional<Texts> Texts::load(const QString &name)
     }
     const auto content = files::read(found == names.end()
                                          ? QStringLiteral(":/language/English.json")
-                                         : folder() + QLatin1Char('/') + *found + QStringLiteral(".json"));
+                                         : languages() + QLatin1Char('/') + *found + QStringLiteral(".json"));
     static const QRegularExpression brokenWord(QStringLiteral("-\\n(?=\\p{Ll})"));
     const QJsonObject map = QJsonDocument::fromJson(content.value_or(QByteArray())).object();
     Texts texts;
@@ -52,7 +45,15 @@ std::optional<Texts> Texts::load(const QString &name)
 
 QStringList Texts::delivered()
 {
-    QStringList names = QDir(folder()).entryList({QStringLiteral("*.json")}, QDir::Files);
+    QStringList names = QDir(languages()).entryList({QStringLiteral("*.json")}, QDir::Files);
     names.replaceInStrings(QStringLiteral(".json"), QString());
     return names;
+}
+
+QString Texts::folder()
+{
+    const QString here = QCoreApplication::applicationDirPath();
+    return QDir(here).exists(QStringLiteral("language"))
+        ? here
+        : here + QStringLiteral("/../lib/calora-configurator");
 }

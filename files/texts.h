@@ -15,7 +15,10 @@ public:
     static std::optional<Texts> load(const QString &name);
     /// Each key is its own text: no two texts are the same.
     static Texts keys() { return {}; }
-    /// The names of the languages beside the program.
+    /// Where languages and fonts lie: beside the program, or where the Debian package keeps the
+    /// configurator's.
+    static QString folder();
+    /// The names of the languages there.
     static QStringList delivered();
 
     /// The text on one line; the key where there is none.

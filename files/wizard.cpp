@@ -206,24 +206,23 @@ Wizard::Answer Wizard::ask(const QJsonObject &document)
             QShowEvent event;
             QCoreApplication::sendEvent(page, &event);
             judge(QLatin1String(place.page), document, &answer);
+            answer.switches = place.step == MainDialog::DipSwitchPage ? switches() : answer.switches;
         }
     }
-    answer.switches = switchesOn();
     leave();
     return answer;
 }
 
-QStringList Wizard::switchesOn() const
+QMap<QString, bool> Wizard::switches() const
 {
-    QStringList on;
+    QMap<QString, bool> shown;
     const QWidget *page = pages.value(QStringLiteral("DipSwitchSettingStatus"));
     for (const auto *drawn : page->findChildren<QAbstractButton *>()) {
-        if (drawn->objectName().startsWith(QLatin1String("DipSwitch"))
-            && drawn->text() == QLatin1String("true")) {
-            on.append(drawn->objectName());
+        if (drawn->objectName().startsWith(QLatin1String("DipSwitch")) && drawn->isVisible()) {
+            shown.insert(drawn->objectName(), drawn->text() == QLatin1String("true"));
         }
     }
-    return on;
+    return shown;
 }
 
 void Wizard::judge(const QString &page, const QJsonObject &document, Answer *answer) const
@@ -232,7 +231,9 @@ void Wizard::judge(const QString &page, const QJsonObject &document, Answer *ans
         if (!control.widget->isVisible()) {
             continue;
         }
-        answer->offered.push_back(control.setting);
+        if (control.widget->isEnabled()) {
+            answer->offered.push_back(control.setting);
+        }
         if (control.list != nullptr && control.setting->form != Form::PartOfWord) {
             judgeList(control, document, &answer->findings);
         }

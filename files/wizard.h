@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QMap>
 #include <QStringList>
 
 #include <memory>
@@ -33,10 +34,10 @@ public:
         Findings findings;
         /// Whether the wizard's own marks call steps 2 and 3 complete.
         bool complete = false;
-        /// The settings whose controls are shown.
+        /// The settings that can be changed: their controls are shown and enabled.
         std::vector<const Setting *> offered;
-        /// The drawn switches that are on: "DipSwitch11".
-        QStringList switches;
+        /// The drawn switches that are shown, "DipSwitch11", and whether they are on.
+        QMap<QString, bool> switches;
     };
 
     Wizard();
@@ -65,7 +66,7 @@ private:
     bool walk(const QJsonDocument &document);
     void show(const WizardPlace &place);
     void leave();
-    QStringList switchesOn() const;
+    QMap<QString, bool> switches() const;
     void judge(const QString &page, const QJsonObject &document, Answer *answer) const;
     void judgeList(const Control &control, const QJsonObject &document, Findings *findings) const;
 
