@@ -12,13 +12,13 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_SOURCE_DIR}/cmake/PackagingKinds.cmake)
 
 # The programs that every package brings. Each has its manual page packaging/linux/NAME.1.
-set(programs calora-configurator)
+set(programs calora-configurator calora-files)
 
 # The folder as it is carried away, from the lists of RunnableFolder.cmake: what a run left in it isn't delivered.
 function(install_runnable_folder component destination)
     set(delivered ${languages} ${language_files})
     list(REMOVE_DUPLICATES delivered)
-    install(TARGETS ${programs} RUNTIME DESTINATION ${destination} COMPONENT ${component})
+    install(TARGETS calora-configurator RUNTIME DESTINATION ${destination} COMPONENT ${component})
     install(FILES ${font_files} DESTINATION ${destination} COMPONENT ${component})
     install(FILES ${delivered} DESTINATION ${destination}/language COMPONENT ${component})
 endfunction()

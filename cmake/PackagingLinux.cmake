@@ -24,6 +24,7 @@ endforeach()
 # The portable archive: the runnable folder, Qt's plugins, the libraries of both, and the licences of all that.
 set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 install_runnable_folder(portable .)
+install(TARGETS calora-files RUNTIME DESTINATION . COMPONENT portable)
 install_guide(portable .)
 install(FILES ${linux}/qt.conf ${generated}/README.txt DESTINATION . COMPONENT portable)
 install(PROGRAMS ${linux}/add-to-menu DESTINATION . COMPONENT portable)
@@ -31,7 +32,7 @@ install(FILES ${icon} RENAME ${app_id}.svg DESTINATION . COMPONENT portable)
 install(CODE "set(entry_folder .)" COMPONENT portable)
 install(SCRIPT cmake/MenuFiles.cmake COMPONENT portable)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright DESTINATION licences COMPONENT portable)
-foreach(plugin platforms/QXcbIntegration imageformats/QICO platforminputcontexts/QComposePlatformInputContext
+foreach(plugin platforms/QXcbIntegration platforms/QOffscreenIntegration imageformats/QICO platforminputcontexts/QComposePlatformInputContext
                platforminputcontexts/QIbusPlatformInputContext)
     get_filename_component(kind ${plugin} DIRECTORY)
     get_filename_component(name ${plugin} NAME)
@@ -52,6 +53,9 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "An installer walks four steps (product sel
 settings, validation) and saves one JSON settings file for the heat pump's
 wall remote controller. Works without a network.")
 install_runnable_folder(debian lib/${PROJECT_NAME})
+# Needs no copy for each user: it writes nothing, and finds the languages in lib/.
+install(TARGETS calora-files RUNTIME DESTINATION bin COMPONENT debian)
+install(FILES ${linux}/calora-files.bash RENAME calora-files DESTINATION share/bash-completion/completions COMPONENT debian)
 install_guide(debian share/doc/${PROJECT_NAME})
 install(PROGRAMS ${linux}/calora-configurator DESTINATION bin COMPONENT debian)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/${PROJECT_NAME} COMPONENT debian)

@@ -2,6 +2,7 @@
 set(windows ${CMAKE_SOURCE_DIR}/packaging/windows)
 set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-windows-x86_64)
 install_runnable_folder(windows .)
+install(TARGETS calora-files RUNTIME DESTINATION . COMPONENT windows)
 install_guide(windows .)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright DESTINATION licences COMPONENT windows)
 
