@@ -129,8 +129,10 @@ class Documents(unittest.TestCase):
             self.assertIn(path, WRITTEN)
             for value in each:
                 self.good(edited(DEFAULTS["R32"], path, value), path)
-        # One list of words or numbers is there for each way in which a page works out what it writes.
-        numbers = {path for path in WRITTEN if "minimum" in str(USED[path])}
+        # One list of words or numbers is there for each way in which a page works out what it writes. What has come since the
+        # table of default documents has its page's test.
+        table = (ROOT / "tests/data/default_document.tsv").read_text(encoding="utf-8").splitlines()
+        numbers = {path for path in WRITTEN & {row.split("\t")[0] for row in table} if "minimum" in str(USED[path])}
         alike = re.compile(r"seasonalAutoOption|interface[23]$|start.min$")
         self.assertEqual({path for path in numbers - values.keys() if not alike.search(path)}, set())
 

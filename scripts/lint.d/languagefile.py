@@ -57,9 +57,13 @@ def english():
 
 @cache
 def places():
-    """Key -> kind of place."""
+    """Key -> kind of place: that of its line, or the narrowest of the kinds that its widget in a form may be of."""
+    forms = "".join(path.read_text(encoding="utf-8") for path in sorted((ROOT / "forms").glob("*.ui")))
+    widgets = re.findall(r'<widget class="Plain(Label|RadioButton)"[^>]*>(?:(?!<widget).)*?<string comment="([^"]+)"', forms, re.S)
+    found = {key: {"Label": "sub", "RadioButton": "radio3"}[widget] for widget, key in widgets}
     lines = PLACES.read_text(encoding="utf-8").splitlines()
-    return {key: kind for key, kind, _ in (line.split("\t") for line in lines if not line.startswith("#"))}
+    told = {key: kind for key, kind, _ in (line.split("\t") for line in lines if not line.startswith("#"))}
+    return {key: kind for key, kind in found.items() if key in english()} | told
 
 
 def findings_in(path, delivered=False):

@@ -44,7 +44,7 @@ def main():
     findings += [f"nobody asks for the key {key!r} of {ENGLISH.name}" for key in sorted(keys - mentioned - reserved)]
     findings += [f"{RESERVED.name}: {key!r} is not a key" for key in sorted(reserved - keys)]
     findings += [f"{UNANSWERED.name}: {key!r} is a key by now" for key in sorted(unanswered & keys)]
-    findings += [f"{PLACES.name}: {key!r} is there or in {ENGLISH.name}, not in both" for key in sorted(keys ^ set(places()))]
+    findings += [f"{PLACES.name}: {key!r} is neither there nor in a form, or not in {ENGLISH.name}" for key in sorted(keys ^ set(places()))]
     if set(places()) == keys:
         findings += [f"{path.name}: {finding}" for path in sorted(FOLDER.glob("*.json"))
                      for finding in findings_in(path, delivered=True)]

@@ -1,5 +1,6 @@
 #include "walk/effects.h"
 
+#include "support/schema.h"
 #include "walk/controlrows.h"
 #include "walk/scene.h"
 
@@ -204,4 +205,23 @@ QStringList effects::all()
     return paths;
 }
 
+QStringList effects::untold()
+{
+    QStringList paths = schema::written();
+    for (const QString &path : all()) {
+        paths.removeOne(path);
+    }
+    return paths;
+}
+
 bool effects::knows(const QString &name) { return controlRow(name) != nullptr; }
+
+// Refrigerants replace the document, and the other two are hidden for good.
+bool effects::needsNoRow(const QString &name)
+{
+    static const QStringList names{QStringLiteral("ProductSelection/radioButtonR32"),
+                                   QStringLiteral("ProductSelection/radioButtonR410"),
+                                   QStringLiteral("ProductSelection/radioButtonHighTemp"),
+                                   QStringLiteral("ProductSelection/radioButtonAquabox")};
+    return names.contains(name);
+}

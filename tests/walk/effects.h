@@ -17,7 +17,11 @@ QStringList loadsBy(const QString &name);
 QStringList ofLoads(const QStringList &pages, const Scene &scene);
 /// Every path that a control or a load may write.
 QStringList all();
+/// The paths that pages write by the schema and no row tells of.
+QStringList untold();
 /// Whether there is a row for the control.
 bool knows(const QString &name);
+/// Whether there can't be one.
+bool needsNoRow(const QString &name);
 
 } // namespace effects

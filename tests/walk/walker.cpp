@@ -70,6 +70,7 @@ Walker::Walker(quint32 seed, Opens whatOpens)
                     && !widget->objectName().startsWith(QLatin1String("qt_")))
                 || (isDrawn && qobject_cast<QPushButton *>(widget) != nullptr))) {
             controls.append({name, widget});
+            hasUntold |= !effects::knows(name) && !effects::needsNoRow(name);
         }
     }
 }
@@ -114,6 +115,9 @@ QStringList Walker::step()
     if (!loaded.isEmpty()) {
         mayWrite += effects::ofLoads(loaded, scene);
         selections.loaded(loaded);
+    }
+    if (hasUntold) {
+        mayWrite += effects::untold();
     }
     selections.touched(touched, action.happening.loaded);
     messages::clear();

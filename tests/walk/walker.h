@@ -93,6 +93,8 @@ private:
     Marks marks;
     Selections selections;
     QVector<QPair<QString, QWidget *>> controls;
+    /// Whether there is a control whose rules are in the test of its page alone.
+    bool hasUntold = false;
     QStringList lastSteps;
     QMap<QString, int> tally;
     ShowCounter displayShows;
