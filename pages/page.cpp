@@ -2,6 +2,7 @@
 
 #include "app/maindialog.h"
 #include "document/util.h"
+#include "pages/style.h"
 #include "widgets/plaintext.h"
 
 #include <QComboBox>
@@ -49,23 +50,6 @@ QString Page::word(const char *path) { return text(path).toUpper(); }
 int Page::number(const char *path) { return read(path).toInt(); }
 
 bool Page::isSet(const char *path) { return word(path) == QLatin1String("SET"); }
-
-QString Page::text(const QString &path) { return read(path).toString(); }
-
-QString Page::word(const QString &path) { return text(path).toUpper(); }
-
-int Page::number(const QString &path) { return read(path).toInt(); }
-
-bool Page::isSet(const QString &path) { return word(path) == QLatin1String("SET"); }
-
-bool Page::flag(const char *name) { return isSet(flagPath(name)); }
-
-QString Page::flagPath(const char *name) { return QStringLiteral("IduFuncList.") + QLatin1String(name); }
-
-QString Page::installation(const char *key)
-{
-    return QStringLiteral("SettingInfo.installation.") + QLatin1String(key);
-}
 
 void Page::write(const QString &path, const QJsonValue &value)
 {
@@ -115,6 +99,15 @@ void Page::loadChoice(const QRadioButton *radio) const
     }
 }
 
+void Page::loadOffered(QWidget *group, const char *flag, const QRadioButton *radio) const
+{
+    const bool offered = isSet(flag);
+    group->setVisible(offered);
+    if (offered) {
+        loadChoice(radio);
+    }
+}
+
 bool Page::choicesMade() const
 {
     return std::all_of(choices.begin(), choices.end(), [](const Choice &choice) {
@@ -134,6 +127,12 @@ void Page::loadLists(const std::vector<ValueRow> &rows)
     for (const ValueRow &row : rows) {
         select(row, *value++);
     }
+}
+
+void Page::loadList(const QComboBox *list) const
+{
+    const ValueRow &row = listOf(list);
+    select(row, read(row.path));
 }
 
 void Page::select(const ValueRow &list, const QJsonValue &value)
@@ -191,15 +190,6 @@ void Page::setCaptions(const std::vector<CaptionRow> &rows)
     }
 }
 
-void Page::saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton *button)
-{
-    const auto row = std::find_if(rows.begin(), rows.end(),
-                                  [button](const ChoiceRow &each) { return each.button == button; });
-    if (row != rows.end()) {
-        saveJsonData(QLatin1String(row->path), QLatin1String(row->word));
-    }
-}
-
 QJsonValue Page::shownValue(Shown shown, const QString &item)
 {
     switch (shown) {
@@ -217,6 +207,23 @@ QJsonValue Page::shownValue(Shown shown, const QString &item)
     return {};
 }
 
+void Page::offerGroup(QWidget *group, bool offered)
+{
+    group->setEnabled(offered);
+    group->setVisible(offered);
+}
+
+void Page::enable(bool enabled, std::initializer_list<QWidget *> captions,
+                  std::initializer_list<QWidget *> widgets)
+{
+    for (QWidget *caption : captions) {
+        style::apply(caption, style::labelText(enabled));
+    }
+    for (QWidget *widget : widgets) {
+        widget->setEnabled(enabled);
+    }
+}
+
 void Page::uncheck(const std::vector<QRadioButton *> &radios)
 {
     for (QRadioButton *radio : radios) {
@@ -227,17 +234,6 @@ void Page::uncheck(const std::vector<QRadioButton *> &radios)
     }
     for (QRadioButton *radio : radios) {
         radio->setAutoExclusive(true);
-    }
-}
-
-void Page::checkPair(const QString &value, const PairRow &pair)
-{
-    if (value == QLatin1String(pair.firstWord)) {
-        pair.first->setChecked(true);
-    } else if (value == QLatin1String(pair.secondWord)) {
-        pair.second->setChecked(true);
-    } else {
-        uncheck({pair.first, pair.second});
     }
 }
 

@@ -30,17 +30,6 @@ protected:
     static int number(const char *path);
     /// Whether the text at `path` reads "SET", in any case.
     static bool isSet(const char *path);
-    static QString text(const QString &path);
-    /// The text at `path`, upper-cased; empty when it is missing or no text.
-    static QString word(const QString &path);
-    static int number(const QString &path);
-    /// Whether the text at `path` reads "SET", in any case.
-    static bool isSet(const QString &path);
-    /// Whether the indoor unit's flag of that name reads "SET", in any case.
-    static bool flag(const char *name);
-    /// The path of a flag of the indoor unit, and of a key of the installation settings.
-    static QString flagPath(const char *name);
-    static QString installation(const char *key);
 
     // Writing. A page's saveJsonData is its one way into the document and holds its guard.
     static void write(const QString &path, const QJsonValue &value);
@@ -72,10 +61,13 @@ protected:
     /// word, the first leaves the radios as they are and returns false; the second unchecks them.
     bool checkStored(const QRadioButton *radio) const;
     void loadChoice(const QRadioButton *radio) const;
+    /// Shows the group of a choice where its flag is set, and loads the choice only then.
+    void loadOffered(QWidget *group, const char *flag, const QRadioButton *radio) const;
     /// Whether each choice is made, hidden or disabled; the first that isn't ends the check.
     bool choicesMade() const;
     /// Reads the values of lists, then selects them in order: with its signals live, a list runs its slot.
     static void loadLists(const std::vector<ValueRow> &rows);
+    void loadList(const QComboBox *list) const;
     /// Selects the item of a document value.
     static void select(const ValueRow &list, const QJsonValue &value);
     /// Saves a value, the word of a radio, or what an item of a list stands for.
@@ -90,17 +82,17 @@ protected:
         save(what...);
         validationCheck();
     }
-    /// Saves the word of the row that `button` stands in.
-    void saveChoice(const std::vector<ChoiceRow> &rows, const QAbstractButton *button);
     /// The document value of an item's text; null where the index tells it.
     static QJsonValue shownValue(Shown shown, const QString &item);
 
-    // Radios and labels
+    // Radios, labels and lists
+    /// A group that the product doesn't have is neither shown nor enabled.
+    static void offerGroup(QWidget *group, bool offered);
+    /// Enables widgets, or not, and gives captions the look of it.
+    static void enable(bool enabled, std::initializer_list<QWidget *> captions,
+                       std::initializer_list<QWidget *> widgets);
     /// Unchecks radios of an auto-exclusive group, which stay unchecked.
     static void uncheck(const std::vector<QRadioButton *> &radios);
-    /// Checks `first` when the word at `path` is `firstWord`, `second` when it is `secondWord`, otherwise
-    /// neither.
-    static void checkPair(const QString &value, const PairRow &pair);
     /// Replaces the items without running a slot; the first is selected, or the index stays.
     static void fill(QComboBox *list, const QStringList &items);
     static void refill(QComboBox *list, const QStringList &items);

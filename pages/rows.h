@@ -2,7 +2,6 @@
 
 #include <vector>
 
-class QAbstractButton;
 class QComboBox;
 class QRadioButton;
 class QWidget;
@@ -16,21 +15,15 @@ struct CaptionRow {
     const char *key;
 };
 
-/// A radio that saves a word at a path.
-struct ChoiceRow {
-    const QAbstractButton *button;
-    const char *path;
-    const char *word;
-};
-
 /// A radio and the word that it saves.
 struct Option {
     QRadioButton *radio;
-    const char *word;
+    const char *word = nullptr;
 };
 
 /// Two or three radios that stand for the words at a path, in the order in which the check names them.
 struct Choice {
+    /// Null where several paths tell the choice: then the page loads and saves it by itself.
     const char *path;
     std::vector<Option> options;
 };
@@ -50,12 +43,4 @@ struct ValueRow {
     const char *path;
     Shown shown;
     int offset = 0;
-};
-
-/// Two radios that stand for two words.
-struct PairRow {
-    QRadioButton *first;
-    const char *firstWord;
-    QRadioButton *second;
-    const char *secondWord;
 };

@@ -55,6 +55,11 @@ const Row *row(int modelName)
                                                  : &rows.at(static_cast<std::size_t>(modelName - 1));
 }
 
+QString path(const Row &row)
+{
+    return QStringLiteral("SettingInfo.installation.seasonalAutoOption.") + QLatin1String(row.path);
+}
+
 Group group(int type)
 {
     switch (type) {

@@ -2,6 +2,8 @@
 
 #include "rules/autoranges.h"
 
+#include <QString>
+
 #include <array>
 #include <cstddef>
 #include <functional>
@@ -63,6 +65,9 @@ struct Row {
 
 /// The row of a box; null for a number outside 1 to 20.
 const Row *row(int modelName);
+
+/// The path of the box's value.
+QString path(const Row &row);
 
 /// The boxes in the order in which their lists are set, and in which their values are shown.
 extern const std::array<ModelName, boxCount> fillOrder;

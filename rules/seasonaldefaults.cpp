@@ -1,19 +1,21 @@
 #include "rules/seasonaldefaults.h"
 
-namespace seasonal {
+#include "rules/autoengine.h"
 
-void saveWaterDefaults(const WaterDefaults &defaults, const Save &save)
+#include <utility>
+
+void seasonal::saveWaterDefaults(const WaterDefaults &defaults, const Save &save)
 {
-    const std::pair<const char *, Range> ranges[] = {{"coolWaterTemp", defaults.cool},
-                                                     {"coolWaterTempMainZone", defaults.cool},
-                                                     {"heatWaterTemp", defaults.heat},
-                                                     {"heatWaterTempMainZone", defaults.heat}};
-    for (const auto &[key, range] : ranges) {
-        const QString path = QStringLiteral("SettingInfo.installation.seasonalAutoOption.%1.%2")
-                                 .arg(QLatin1String(key));
-        save(path.arg(QStringLiteral("min")), range.low);
-        save(path.arg(QStringLiteral("max")), range.high);
+    const std::pair<autoengine::ModelName, int> values[] = {
+        {autoengine::CoolWaterMin, defaults.cool.low},
+        {autoengine::CoolWaterMax, defaults.cool.high},
+        {autoengine::ZoneCoolWaterMin, defaults.cool.low},
+        {autoengine::ZoneCoolWaterMax, defaults.cool.high},
+        {autoengine::HeatWaterMin, defaults.heat.low},
+        {autoengine::HeatWaterMax, defaults.heat.high},
+        {autoengine::ZoneHeatWaterMin, defaults.heat.low},
+        {autoengine::ZoneHeatWaterMax, defaults.heat.high}};
+    for (const auto &[box, value] : values) {
+        save(autoengine::path(*autoengine::row(box)), value);
     }
 }
-
-} // namespace seasonal

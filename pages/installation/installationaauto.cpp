@@ -1,6 +1,7 @@
 #include "pages/installation/installationaauto.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "rules/autoengine.h"
 #include "ui_installationaauto.h"
 
@@ -11,6 +12,18 @@ InstallationaAuto::InstallationaAuto(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationaAuto>())
 {
     ui->setupUi(this);
+    choices = {{"SettingInfo.installation.seasonalAutoOption.seasonalAutoOpMode",
+                {{ui->radioHeatingOnly, "HEAT_ONLY"},
+                 {ui->radioCoolingOnly, "COOL_ONLY"},
+                 {ui->radioBoth, "HEAT_N_COOL"}}}};
+    lists = {{ui->comboOutdoorOutdoorMax, "SettingInfo.installation.autoOp_outtemp.max", Shown::Temperature},
+             {ui->comboOutdoorOutdoorMin, "SettingInfo.installation.autoOp_outtemp.min", Shown::Temperature},
+             {ui->comboOutdoorIndoorMax, "SettingInfo.installation.autoOp_tempair.max", Shown::Temperature},
+             {ui->comboOutdoorIndoorMin, "SettingInfo.installation.autoOp_tempair.min", Shown::Temperature},
+             {ui->comboOutdoorWaterMax, "SettingInfo.installation.autoOp_tempwater.high_limit",
+              Shown::Temperature},
+             {ui->comboOutdoorWaterMin, "SettingInfo.installation.autoOp_tempwater.low_limit",
+              Shown::Temperature}};
     startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
@@ -48,48 +61,46 @@ void InstallationaAuto::loadJsonData()
     setVisibleMode();
     setVisibleSeasonalAutoView();
     setTempRangeValue();
-    const QString mode = word(installation("seasonalAutoOption.seasonalAutoOpMode"));
-    if (mode == QLatin1String("HEAT_ONLY")) {
-        ui->radioHeatingOnly->setChecked(true);
-    } else if (mode == QLatin1String("COOL_ONLY")) {
-        ui->radioCoolingOnly->setChecked(true);
-    } else if (mode == QLatin1String("HEAT_N_COOL")) {
-        ui->radioBoth->setChecked(true);
-    }
+    checkStored(ui->radioBoth);
     setVisibleSeasonalAutoView();
 }
 
 // The two indoor values are shown as they stand, by setloadJsonValue().
 void InstallationaAuto::initDefaultTempRange()
 {
-    const bool waterExit = word(installation("heatWaterControlBasis")) == QLatin1String("EXIT");
-    const autoranges::OutdoorMode offered = autoranges::outdoorMode(flag("isR32"), waterExit,
-                                                                    flag("is_installed_heater"));
+    const bool waterExit = word(paths::heatWaterControlBasis) == QLatin1String("EXIT");
+    const autoranges::OutdoorMode offered = autoranges::outdoorMode(isSet(flags::r32), waterExit,
+                                                                    isSet(flags::installedHeater));
     offer(ui->comboOutdoorOutdoorMax, offered.outdoorMax);
     offer(ui->comboOutdoorOutdoorMin, offered.outdoorMin);
-    showClamped({ui->comboOutdoorOutdoorMax, "autoOp_outtemp.max", offered.outdoorMax},
-                {ui->comboOutdoorOutdoorMin, "autoOp_outtemp.min", offered.outdoorMin});
+    showClamped(ui->comboOutdoorOutdoorMax, offered.outdoorMax, ui->comboOutdoorOutdoorMin,
+                offered.outdoorMin);
     offer(ui->comboOutdoorIndoorMax, offered.indoorMax);
     offer(ui->comboOutdoorIndoorMin, offered.indoorMin);
     offer(ui->comboOutdoorWaterMax, offered.waterMax);
     offer(ui->comboOutdoorWaterMin, offered.waterMin);
-    showClamped({ui->comboOutdoorWaterMax, "autoOp_tempwater.high_limit", offered.waterMax},
-                {ui->comboOutdoorWaterMin, "autoOp_tempwater.low_limit", offered.waterMin});
+    showClamped(ui->comboOutdoorWaterMax, offered.waterMax, ui->comboOutdoorWaterMin, offered.waterMin);
 }
 
-void InstallationaAuto::showClamped(const Limit &high, const Limit &low)
+void InstallationaAuto::showClamped(const QComboBox *high, Range highRange, const QComboBox *low,
+                                    Range lowRange)
 {
-    const int highest = qBound(high.range.low, number(installation(high.key)), high.range.high);
-    const int lowest = qBound(low.range.low, number(installation(low.key)), low.range.high);
-    mainDialog->setComboByValue(high.combo, highest, MainDialog::Temperature);
-    mainDialog->setComboByValue(low.combo, lowest, MainDialog::Temperature);
-    saveJsonData(installation(low.key), lowest);
-    saveJsonData(installation(high.key), highest);
+    const auto clamped = [](const ValueRow &row, Range range) {
+        return qBound(range.low, number(row.path), range.high);
+    };
+    const ValueRow &highRow = listOf(high);
+    const ValueRow &lowRow = listOf(low);
+    const int highest = clamped(highRow, highRange);
+    const int lowest = clamped(lowRow, lowRange);
+    select(highRow, highest);
+    select(lowRow, lowest);
+    save(lowRow.path, lowest);
+    save(highRow.path, highest);
 }
 
 void InstallationaAuto::setVisibleMode()
 {
-    const bool seasonal = flag("isSeasonalAuto");
+    const bool seasonal = isSet(flags::seasonalAuto);
     ui->groupBoxSeasonalAutoMode->setVisible(seasonal);
     ui->groupBoxOutdoorMode->setVisible(!seasonal);
     setVisibleMainZone();
@@ -97,7 +108,7 @@ void InstallationaAuto::setVisibleMode()
 
 void InstallationaAuto::setVisibleMainZone()
 {
-    if (isSet(installation("circuitMainZone.enableMainZone"))) {
+    if (isSet(paths::enableMainZone)) {
         showControlled(ui->groupBoxMainZoneIndoor, ui->groupBoxMainZoneWater);
     } else {
         ui->groupBoxMainZoneIndoor->hide();
@@ -113,13 +124,13 @@ void InstallationaAuto::setVisibleIndoorWaterView()
 
 void InstallationaAuto::showControlled(QWidget *indoor, QWidget *water)
 {
-    const QString sensed = word(installation("sensorDefine.settemp_select"));
+    const QString sensed = word(paths::settempSelect);
     const bool air = sensed == QLatin1String("AIR");
     if (air || sensed == QLatin1String("WATER")) {
         indoor->setVisible(air);
         water->setVisible(!air);
     }
-    if (isSet(installation("sensorDefine.airAndWaterUse"))) {
+    if (isSet(paths::airAndWaterUse)) {
         indoor->show();
         water->show();
     }
@@ -141,9 +152,9 @@ void InstallationaAuto::setVisibleIndoorWaterView(const QString &value)
 
 void InstallationaAuto::setVisibleSeasonalAutoView()
 {
-    const QString sensed = word(installation("sensorDefine.settemp_select"));
-    const QString both = word(installation("sensorDefine.airAndWaterUse"));
-    const QString mainZone = word(installation("circuitMainZone.enableMainZone"));
+    const QString sensed = word(paths::settempSelect);
+    const QString both = word(paths::airAndWaterUse);
+    const QString mainZone = word(paths::enableMainZone);
     const bool indoor = sensed != QLatin1String("WATER");
     const bool water = sensed != QLatin1String("AIR") || both != QLatin1String("CLR");
     const bool mainZoneWater = water && mainZone != QLatin1String("CLR");
@@ -159,46 +170,40 @@ void InstallationaAuto::setVisibleSeasonalAutoView()
 
 void InstallationaAuto::on_hideButton_clicked() { toggle(ui->hideButton, ui->frame); }
 
-void InstallationaAuto::on_radioHeatingOnly_clicked() { saveMode("HEAT_ONLY"); }
+void InstallationaAuto::on_radioHeatingOnly_clicked() { change(ui->radioHeatingOnly); }
 
-void InstallationaAuto::on_radioCoolingOnly_clicked() { saveMode("COOL_ONLY"); }
+void InstallationaAuto::on_radioCoolingOnly_clicked() { change(ui->radioCoolingOnly); }
 
-void InstallationaAuto::on_radioBoth_clicked() { saveMode("HEAT_N_COOL"); }
-
-void InstallationaAuto::saveMode(const char *word)
-{
-    saveJsonData(installation("seasonalAutoOption.seasonalAutoOpMode"), QLatin1String(word));
-    validationCheck();
-}
+void InstallationaAuto::on_radioBoth_clicked() { change(ui->radioBoth); }
 
 void InstallationaAuto::on_comboOutdoorOutdoorMax_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_outtemp.max", text);
+    change(ui->comboOutdoorOutdoorMax, text);
 }
 
 void InstallationaAuto::on_comboOutdoorOutdoorMin_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_outtemp.min", text);
+    change(ui->comboOutdoorOutdoorMin, text);
 }
 
 void InstallationaAuto::on_comboOutdoorIndoorMax_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_tempair.max", text);
+    change(ui->comboOutdoorIndoorMax, text);
 }
 
 void InstallationaAuto::on_comboOutdoorIndoorMin_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_tempair.min", text);
+    change(ui->comboOutdoorIndoorMin, text);
 }
 
 void InstallationaAuto::on_comboOutdoorWaterMax_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_tempwater.high_limit", text);
+    change(ui->comboOutdoorWaterMax, text);
 }
 
 void InstallationaAuto::on_comboOutdoorWaterMin_currentTextChanged(const QString &text)
 {
-    chooseOutdoor("autoOp_tempwater.low_limit", text);
+    change(ui->comboOutdoorWaterMin, text);
 }
 
 void InstallationaAuto::on_comboHeatingOutdoorMax_currentTextChanged(const QString &text)
@@ -301,12 +306,6 @@ void InstallationaAuto::on_comboMainZoneWaterMin_currentTextChanged(const QStrin
     choose(autoengine::ZoneCoolWaterMin, text);
 }
 
-void InstallationaAuto::chooseOutdoor(const char *key, const QString &text)
-{
-    saveJsonData(installation(key), celsius(mainDialog->textWithoutTwoChars(text)));
-    validationCheck();
-}
-
 // Whatever the section offers is valid, so the check always passes.
 void InstallationaAuto::validationCheck()
 {
@@ -339,7 +338,7 @@ void InstallationaAuto::captionOutdoorMode()
 
 void InstallationaAuto::captionSeasonalMode()
 {
-    const bool circuits = isSet(installation("circuitMainZone.enableMainZone"));
+    const bool circuits = isSet(paths::enableMainZone);
     setCaptions({{ui->labelSeasonalAutoMode, "SeasonalAutoMode"},
                  {ui->radioHeatingOnly, "HeatingOnly"},
                  {ui->radioCoolingOnly, "CoolingOnly"},

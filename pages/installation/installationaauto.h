@@ -92,22 +92,15 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    /// A limit of the outdoor mode.
-    struct Limit {
-        QComboBox *combo;
-        const char *key;
-        Range range;
-    };
-
     static bool mainZoneOff();
     QComboBox *box(int modelName) const;
     int current(int modelName) const;
     /// Shows the one, the other or both by what the unit senses: indoor air or water.
     static void showControlled(QWidget *indoor, QWidget *water);
-    void showClamped(const Limit &high, const Limit &low);
+    /// Brings two stored limits of the outdoor mode into what their lists offer, shows them and writes them
+    /// back.
+    void showClamped(const QComboBox *high, Range highRange, const QComboBox *low, Range lowRange);
     void choose(int modelName, const QString &text);
-    void chooseOutdoor(const char *key, const QString &text);
-    void saveMode(const char *word);
     void captionOutdoorMode();
     void captionSeasonalMode();
     void captionEnds();

@@ -3,17 +3,9 @@
 #include "pages/installation/installationaauto.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "rules/autoengine.h"
 #include "ui_installationaauto.h"
-
-namespace {
-
-QString seasonalPath(const autoengine::Row &row)
-{
-    return QStringLiteral("SettingInfo.installation.seasonalAutoOption.") + QLatin1String(row.path);
-}
-
-} // namespace
 
 QComboBox *InstallationaAuto::box(int modelName) const
 {
@@ -37,39 +29,34 @@ int InstallationaAuto::current(int modelName) const
 }
 
 // Oddity 34: compared as it stands, unlike where it decides what is shown.
-bool InstallationaAuto::mainZoneOff()
-{
-    return text(installation("circuitMainZone.enableMainZone")) == QLatin1String("CLR");
-}
+bool InstallationaAuto::mainZoneOff() { return text(paths::enableMainZone) == QLatin1String("CLR"); }
 
 void InstallationaAuto::setTempValue(QComboBox *comboBox, int value) { selectTemperature(comboBox, value); }
 
 void InstallationaAuto::setloadJsonValue()
 {
-    const auto show = [](QComboBox *combo, const QString &path) {
-        mainDialog->setComboByValue(combo, number(path), MainDialog::Temperature);
-    };
-    show(ui->comboOutdoorIndoorMax, installation("autoOp_tempair.max"));
-    show(ui->comboOutdoorIndoorMin, installation("autoOp_tempair.min"));
+    loadList(ui->comboOutdoorIndoorMax);
+    loadList(ui->comboOutdoorIndoorMin);
     for (const int modelName : autoengine::showOrder) {
-        show(box(modelName), seasonalPath(*autoengine::row(modelName)));
+        const int stored = read(autoengine::path(*autoengine::row(modelName))).toInt();
+        mainDialog->setComboByValue(box(modelName), stored, MainDialog::Temperature);
     }
 }
 
 void InstallationaAuto::setTempRangeValue()
 {
     const auto entrance = [](const char *choosable, const char *basis) {
-        return flag(choosable) && word(installation(basis)) == QLatin1String("ENTRANCE");
+        return isSet(choosable) && word(basis) == QLatin1String("ENTRANCE");
     };
     autoranges::Flags flags{};
-    flags.fanCoilDisabled = isSet(installation("UFH_stop.FCU_disable"));
-    flags.installedHeater = flag("is_installed_heater");
-    flags.coolTempMin5 = flag("isCoolTempMin5");
-    flags.r32 = flag("isR32");
-    flags.r410CoolExpand = flag("isR410CoolExpand");
-    flags.coolAir16 = flag("isCoolAir16");
-    flags.heatingEntrance = entrance("is_heatwatercontrolbasis", "heatWaterControlBasis");
-    flags.coolingEntrance = entrance("is_coolwatercontrolbasis", "coolWaterControlBasis");
+    flags.fanCoilDisabled = isSet(paths::fcuDisable);
+    flags.installedHeater = isSet(flags::installedHeater);
+    flags.coolTempMin5 = isSet(flags::coolTempMin5);
+    flags.r32 = isSet(flags::r32);
+    flags.r410CoolExpand = isSet(flags::r410CoolExpand);
+    flags.coolAir16 = isSet(flags::coolAir16);
+    flags.heatingEntrance = entrance(flags::heatWaterControlBasis, paths::heatWaterControlBasis);
+    flags.coolingEntrance = entrance(flags::coolWaterControlBasis, paths::coolWaterControlBasis);
     tempRange = autoranges::seasonalMode(flags);
     for (const int modelName : autoengine::fillOrder) {
         offer(box(modelName), tempRange.at(autoengine::row(modelName)->slot));
@@ -111,9 +98,9 @@ void InstallationaAuto::choose(int modelName, const QString &text)
     const bool leads = row->mainZone != autoengine::none && mainZoneOff();
     const int shown = mainDialog->textWithoutTwoChars(text);
     valueChanged(modelName, shown, true);
-    saveJsonData(seasonalPath(*row), celsius(shown));
+    saveJsonData(autoengine::path(*row), celsius(shown));
     if (leads) {
-        saveJsonData(seasonalPath(*autoengine::row(row->mainZone)), celsius(shown));
+        saveJsonData(autoengine::path(*autoengine::row(row->mainZone)), celsius(shown));
     }
     validationCheck();
 }

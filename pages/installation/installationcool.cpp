@@ -1,6 +1,7 @@
 #include "pages/installation/installationcool.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_installationcool.h"
 
@@ -8,30 +9,26 @@
 
 namespace {
 
-// Oddity 1: the sense is inverted: "SET" is no fan coil unit.
-const char *const fanCoilPath = "UFH_stop.FCU_disable";
-const char *const cutOffPath = "UFH_stop.watertemp";
-
 WaterRules coolRules()
 {
     WaterRules rules;
-    rules.basisFlag = QStringLiteral("IduFuncList.is_coolwatercontrolbasis");
-    rules.controlBasis = QStringLiteral("SettingInfo.installation.coolWaterControlBasis");
-    rules.airLow = QStringLiteral("SettingInfo.installation.settempLimit.coolAir.low_limit");
-    rules.airHigh = QStringLiteral("SettingInfo.installation.settempLimit.coolAir.high_limit");
-    rules.waterLow = QStringLiteral("SettingInfo.installation.settempLimit.coolWater.low_limit");
-    rules.waterHigh = QStringLiteral("SettingInfo.installation.settempLimit.coolWater.high_limit");
-    rules.controlType = QStringLiteral("SettingInfo.func.waterCtrBasisAirCool.ctrType");
-    rules.constant = QStringLiteral("SettingInfo.func.waterCtrBasisAirCool.ctrTemp");
-    rules.constantMainZone = QStringLiteral("SettingInfo.func.waterCtrBasisAirCool.ctrTempMainZone");
-    rules.thermoFlag = QStringLiteral("IduFuncList.is_coolThermoOnOff");
-    rules.airThermo = QStringLiteral("SettingInfo.installation.coolAirThermoOnOff");
-    rules.waterThermo = QStringLiteral("SettingInfo.installation.coolWaterThermoOnOff");
-    rules.pumpFlag = QStringLiteral("IduFuncList.is_PumpOperationSettingInCool");
-    rules.pumpOnFlag = QStringLiteral("IduFuncList.is_PumpOperationSettingInCoolOn");
-    rules.pumpOption = QStringLiteral("SettingInfo.installation.pumpOperOptionInCool.option");
-    rules.pumpOnTime = QStringLiteral("SettingInfo.installation.pumpOperOptionInCool.timeOn");
-    rules.pumpOffTime = QStringLiteral("SettingInfo.installation.pumpOperOptionInCool.time");
+    rules.basisFlag = flags::coolWaterControlBasis;
+    rules.controlBasis = paths::coolWaterControlBasis;
+    rules.airLow = "SettingInfo.installation.settempLimit.coolAir.low_limit";
+    rules.airHigh = "SettingInfo.installation.settempLimit.coolAir.high_limit";
+    rules.waterLow = "SettingInfo.installation.settempLimit.coolWater.low_limit";
+    rules.waterHigh = "SettingInfo.installation.settempLimit.coolWater.high_limit";
+    rules.controlType = "SettingInfo.func.waterCtrBasisAirCool.ctrType";
+    rules.constant = "SettingInfo.func.waterCtrBasisAirCool.ctrTemp";
+    rules.constantMainZone = "SettingInfo.func.waterCtrBasisAirCool.ctrTempMainZone";
+    rules.thermoFlag = "IduFuncList.is_coolThermoOnOff";
+    rules.airThermo = "SettingInfo.installation.coolAirThermoOnOff";
+    rules.waterThermo = "SettingInfo.installation.coolWaterThermoOnOff";
+    rules.pumpFlag = "IduFuncList.is_PumpOperationSettingInCool";
+    rules.pumpOnFlag = "IduFuncList.is_PumpOperationSettingInCoolOn";
+    rules.pumpOption = "SettingInfo.installation.pumpOperOptionInCool.option";
+    rules.pumpOnTime = "SettingInfo.installation.pumpOperOptionInCool.timeOn";
+    rules.pumpOffTime = "SettingInfo.installation.pumpOperOptionInCool.time";
     rules.circuits = waterranges::Circuits::MainZoneAbove;
     return rules;
 }
@@ -43,7 +40,12 @@ InstallationCool::InstallationCool(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationCool>())
 {
     ui->setupUi(this);
-    controls = waterControls(*ui);
+    adopt(waterControls(*ui));
+    // Oddity 1: the sense is inverted: "SET" is no fan coil unit. It is checked before the pump.
+    choices.insert(choices.begin() + 1,
+                   {paths::fcuDisable, {{ui->radioFanCoilNotuse, "SET"}, {ui->radioFanCoilUse, "CLR"}}});
+    lists.push_back(
+        {ui->comboForcerWater, "SettingInfo.installation.UFH_stop.watertemp", Shown::Temperature});
     startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
@@ -80,7 +82,7 @@ QJsonValue InstallationCool::parseJsonData(const QString &path) { return read(pa
 
 void InstallationCool::initDefaultTempRange()
 {
-    offer(ui->comboTemperatureIndoorMin, {flag("isCoolAir16") ? 16 : 18, 22});
+    offer(ui->comboTemperatureIndoorMin, {isSet(flags::coolAir16) ? 16 : 18, 22});
     offer(ui->comboTemperatureIndoorMax, {24, 30});
     offer(ui->comboForcerWater, {16, 25});
 }
@@ -93,20 +95,16 @@ void InstallationCool::loadJsonData()
     enableTemperatureControl();
     showOrHide({ui->groupBoxTHOnOff, ui->groupBoxTHIndoorAirTemp, ui->groupBoxTHWaterTemp},
                isSet(rules.thermoFlag));
-    showOrHide({ui->groupBoxTempRange, ui->groupBoxForcedStop},
-               word(flagPath("is_cool")) != QLatin1String("CLR"));
-    checkPair(word(installation(fanCoilPath)), {ui->radioFanCoilNotuse, "SET", ui->radioFanCoilUse, "CLR"});
+    showOrHide({ui->groupBoxTempRange, ui->groupBoxForcedStop}, word(flags::cool) != QLatin1String("CLR"));
+    loadChoice(ui->radioFanCoilUse);
     enableFcuWaterTemp();
     showWaterPump();
 }
 
 void InstallationCool::setloadJsonValue()
 {
-    showStored({{ui->comboTemperatureIndoorMin, rules.airLow},
-                {ui->comboTemperatureIndoorMax, rules.airHigh},
-                {ui->comboForcerWater, installation(cutOffPath)},
-                {ui->comboControlWaterTemp, rules.constant},
-                {ui->comboControlMainZoneTemp, rules.constantMainZone}});
+    showStored({ui->comboTemperatureIndoorMin, ui->comboTemperatureIndoorMax, ui->comboForcerWater,
+                ui->comboControlWaterTemp, ui->comboControlMainZoneTemp});
 }
 
 void InstallationCool::enableTemperatureControl() { showTemperatureControl(); }
@@ -128,9 +126,9 @@ void InstallationCool::setControlWaterTempRange() { keepConstantsInLimits(); }
 
 void InstallationCool::setCoolWaterTempRange()
 {
-    const waterranges::CoolWords words{word(installation(fanCoilPath)), word(rules.basisFlag),
-                                       word(flagPath("isR32")),         word(flagPath("isR410CoolExpand")),
-                                       word(rules.controlBasis),        word(flagPath("isCoolTempMin5"))};
+    const waterranges::CoolWords words{word(paths::fcuDisable),  word(rules.basisFlag),
+                                       word(flags::r32),         word(flags::r410CoolExpand),
+                                       word(rules.controlBasis), word(flags::coolTempMin5)};
     applyWaterLimits(waterranges::coolLow(words), waterranges::coolHigh(words));
 }
 
@@ -156,13 +154,12 @@ void InstallationCool::on_comboReferenceWater_currentTextChanged(const QString &
 
 void InstallationCool::on_comboForcerWater_currentTextChanged(const QString &text)
 {
-    saveTemperature(installation(cutOffPath), text);
-    validationCheck();
+    change(ui->comboForcerWater, text);
 }
 
 void InstallationCool::on_radioFanCoilNotuse_clicked()
 {
-    chooseFanCoil(QStringLiteral("SET"));
+    chooseFanCoil(ui->radioFanCoilNotuse);
     initSeasonalAutoRange();
     announceChange();
 }
@@ -170,72 +167,71 @@ void InstallationCool::on_radioFanCoilNotuse_clicked()
 // Oddity 38: the seasonal defaults stay as they are here, unlike above.
 void InstallationCool::on_radioFanCoilUse_clicked()
 {
-    chooseFanCoil(QStringLiteral("CLR"));
+    chooseFanCoil(ui->radioFanCoilUse);
     announceChange();
 }
 
-void InstallationCool::chooseFanCoil(const QString &disabled)
+void InstallationCool::chooseFanCoil(const QRadioButton *radio)
 {
-    saveJsonData(installation(fanCoilPath), disabled);
-    validationCheck();
+    change(radio);
     setCoolWaterTempRange();
     enableFcuWaterTemp();
 }
 
-void InstallationCool::choosePump(const QString &option)
+void InstallationCool::choosePump(const QRadioButton *radio)
 {
-    saveJsonData(rules.pumpOption, option);
+    save(radio);
     enablePumpOperOptionInCool();
     validationCheck();
 }
 
 void InstallationCool::on_comboTemperatureIndoorMin_currentTextChanged(const QString &text)
 {
-    chooseAirLimit(rules.airLow, text);
+    chooseAirLimit(ui->comboTemperatureIndoorMin, text);
 }
 
 void InstallationCool::on_comboTemperatureIndoorMax_currentTextChanged(const QString &text)
 {
-    chooseAirLimit(rules.airHigh, text);
+    chooseAirLimit(ui->comboTemperatureIndoorMax, text);
 }
 
 void InstallationCool::on_comboTemperatureWaterMin_currentTextChanged(const QString &text)
 {
-    chooseWaterLimit(rules.waterLow, text);
+    chooseWaterLimit(ui->comboTemperatureWaterMin, text);
 }
 
 void InstallationCool::on_comboTemperatureWaterMax_currentTextChanged(const QString &text)
 {
-    chooseWaterLimit(rules.waterHigh, text);
+    chooseWaterLimit(ui->comboTemperatureWaterMax, text);
 }
 
 void InstallationCool::on_comboTNIndoorAirTemp_currentTextChanged(const QString &text)
 {
-    chooseThermo(rules.airThermo, text);
+    change(ui->comboTNIndoorAirTemp, text);
 }
 
 void InstallationCool::on_comboTNIndoorWaterTemp_currentTextChanged(const QString &text)
 {
-    chooseThermo(rules.waterThermo, text);
+    change(ui->comboTNIndoorWaterTemp, text);
 }
 
 void InstallationCool::on_comboWaterPumpOnTimer_currentIndexChanged(int index)
 {
-    chooseTime(rules.pumpOnTime, index);
+    change(ui->comboWaterPumpOnTimer, index);
 }
 
 void InstallationCool::on_comboWaterPumpOffTimer_currentIndexChanged(int index)
 {
-    chooseTime(rules.pumpOffTime, index);
+    change(ui->comboWaterPumpOffTimer, index);
 }
 
-void InstallationCool::on_radioWaterPumpNotuse_clicked() { choosePump(QStringLiteral("SET")); }
+void InstallationCool::on_radioWaterPumpNotuse_clicked() { choosePump(ui->radioWaterPumpNotuse); }
 
-void InstallationCool::on_radioWaterPumpUse_clicked() { choosePump(QStringLiteral("CLR")); }
+void InstallationCool::on_radioWaterPumpUse_clicked() { choosePump(ui->radioWaterPumpUse); }
 
-void InstallationCool::on_radioControlTypeAuto_clicked() { chooseControlType(QStringLiteral("AUTO")); }
+void InstallationCool::on_radioControlTypeAuto_clicked() { chooseControlType(ui->radioControlTypeAuto); }
 
-void InstallationCool::on_radioControlTypeManual_clicked() { chooseControlType(QStringLiteral("MANUAL")); }
+void InstallationCool::on_radioControlTypeManual_clicked() { chooseControlType(ui->radioControlTypeManual); }
 
 void InstallationCool::on_comboControlWaterTemp_currentTextChanged(const QString &text)
 {
@@ -249,10 +245,7 @@ void InstallationCool::on_comboControlMainZoneTemp_currentTextChanged(const QStr
 
 void InstallationCool::validationCheck()
 {
-    const bool valid = mainDialog->checkValidationRadio(ui->radioControlTypeAuto, ui->radioControlTypeManual,
-                                                        nullptr)
-        && mainDialog->checkValidationRadio(ui->radioFanCoilNotuse, ui->radioFanCoilUse, nullptr)
-        && mainDialog->checkValidationRadio(ui->radioWaterPumpNotuse, ui->radioWaterPumpUse, nullptr);
+    const bool valid = choicesMade();
     if (valid) {
         qDebug() << "InstallationCool::SettingUser validation succeed!";
     } else {

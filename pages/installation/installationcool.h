@@ -76,8 +76,8 @@ protected:
 
 private:
     void announceChange() override;
-    void chooseFanCoil(const QString &disabled);
-    void choosePump(const QString &option);
+    void chooseFanCoil(const QRadioButton *radio);
+    void choosePump(const QRadioButton *radio);
 
     std::unique_ptr<Ui::InstallationCool> ui;
 };

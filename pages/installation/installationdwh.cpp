@@ -1,6 +1,7 @@
 #include "pages/installation/installationdwh.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "rules/hotwaterranges.h"
 #include "ui_installationdwh.h"
 
@@ -36,8 +37,7 @@ std::vector<ValueRow> valueRows(const Ui::InstallationDWH &ui)
 {
     return {
         {ui.comboHotWaterMin, "SettingInfo.installation.settempLimit.hotWater.low_limit", Shown::Temperature},
-        {ui.comboHotWaterMax, "SettingInfo.installation.settempLimit.hotWater.high_limit",
-         Shown::Temperature},
+        {ui.comboHotWaterMax, paths::hotWaterHighLimit, Shown::Temperature},
         {ui.comboTankWaterMin, "SettingInfo.installation.hotwater_logic.hysterisis", Shown::Kelvin},
         {ui.comboMaxTemp, "SettingInfo.installation.disinfect_data.maxTemp", Shown::Temperature},
         {ui.comboTankHeatingHysterisis, "SettingInfo.installation.hotwater_addData.hysterisis",
@@ -94,7 +94,7 @@ void InstallationDWH::initDefaultTempRange()
 {
     mainDialog->setRangeValueInComboBox(ui->comboTankHeatingHysterisis, 2, 4, MainDialog::Kelvin, 1);
     // Oddity 34: compared as it stands, unlike the other flags.
-    const bool heaterOffered = text(flagPath("isHotwaterTankHeaterUse")) == QLatin1String("SET");
+    const bool heaterOffered = text(flags::tankHeater) == QLatin1String("SET");
     mainDialog->setRangeValueInComboBox(ui->comboTankWaterMin, 1, heaterOffered ? 30 : 20, MainDialog::Kelvin,
                                         1);
 }
@@ -119,7 +119,7 @@ void InstallationDWH::loadJsonData()
     loadTargetTemperatures();
     loadTankTemperatures();
     loadTimer();
-    ui->groupBoxHeatPump->setVisible(flag("is_waterthermoonoff"));
+    ui->groupBoxHeatPump->setVisible(isSet("IduFuncList.is_waterthermoonoff"));
     loadTankHeating();
     loadDisinfection();
 }
@@ -127,29 +127,29 @@ void InstallationDWH::loadJsonData()
 void InstallationDWH::loadTargetTemperatures()
 {
     setHotWaterTempRange();
-    ui->groupBoxHotWater->setVisible(flag("is_hotwater"));
+    ui->groupBoxHotWater->setVisible(isSet(flags::hotWater));
 }
 
 void InstallationDWH::loadTankTemperatures()
 {
-    const bool hotWater = flag("is_hotwater");
+    const bool hotWater = isSet(flags::hotWater);
     ui->groupBoxTankWaterTemp->setVisible(hotWater);
     if (hotWater) {
         offer(ui->comboInletWaterMax,
-              hotwater::compressorLimit(word(flagPath("is_indoor_model")), word(flagPath("isR32"))));
+              hotwater::compressorLimit(word("IduFuncList.is_indoor_model"), word(flags::r32)));
     }
 }
 
 void InstallationDWH::loadTimer()
 {
-    const bool visible = flag("is_hotwater") && flag("is_timer_hotwater")
-        && word(flagPath("is_boosterht_onlyMode")) == QLatin1String("CLR");
+    const bool visible = isSet(flags::hotWater) && isSet(flags::timerHotWater)
+        && word(flags::boosterOnly) == QLatin1String("CLR");
     ui->groupBoxHeatingOperationTimer->setVisible(visible);
     if (!visible) {
         return;
     }
     // Oddity 29: the list of the compressor's limit gets the minutes, not those of the timer.
-    const QString expand = word(flagPath("isHotwaterTimerExpand"));
+    const QString expand = word("IduFuncList.isHotwaterTimerExpand");
     if (expand == QLatin1String("SET")) {
         mainDialog->setRangeValueInComboBox(ui->comboInletWaterMax, 0, 1440, MainDialog::PlainNumber, 60);
     } else if (expand == QLatin1String("CLR")) {
@@ -159,7 +159,7 @@ void InstallationDWH::loadTimer()
 
 void InstallationDWH::loadTankHeating()
 {
-    ui->groupBoxTankHeating->setVisible(flag("is_hotwater"));
+    ui->groupBoxTankHeating->setVisible(isSet(flags::hotWater));
     const bool roomFirst = isSet(choiceOf(ui->radioUnderFloorUse).path);
     (roomFirst ? ui->radioUnderFloorUse : ui->radioUnderFloorNotUse)->setChecked(true);
 }
@@ -167,24 +167,24 @@ void InstallationDWH::loadTankHeating()
 void InstallationDWH::loadDisinfection()
 {
     const bool used = isSet(choiceOf(ui->radioDisinfectionUse).path);
-    const QString tankHeaterUse = word(installation("hotWaterTankHeater.tankHeaterUse"));
+    const QString tankHeaterUse = word(paths::tankHeaterUse);
     offer(ui->comboMaxTemp, hotwater::disinfection(tankHeaterUse));
     ui->groupBoxDisinfection->setVisible(isDisinfectionOffered(tankHeaterUse));
     (used ? ui->radioDisinfectionUse : ui->radioDisinfectionNotUse)->setChecked(true);
     ui->groupBoxDisinfectSub->setEnabled(used);
-    ui->groupBoxCutOff->setVisible(flag("isHotwaterTankHeaterUse"));
+    ui->groupBoxCutOff->setVisible(isSet(flags::tankHeater));
     enableDisinfection();
 }
 
 bool InstallationDWH::isDisinfectionOffered(const QString &tankHeaterUse)
 {
-    if (!flag("is_hotwater")) {
+    if (!isSet(flags::hotWater)) {
         return false;
     }
-    if (word(flagPath("isDisableDisinfect")) != QLatin1String("CLR")) {
-        return isSet(installation("hsSetting"));
+    if (word("IduFuncList.isDisableDisinfect") != QLatin1String("CLR")) {
+        return isSet(paths::hsSetting);
     }
-    return !flag("isHotwaterTankHeaterUse") || tankHeaterUse == QLatin1String("BH_USE")
+    return !isSet(flags::tankHeater) || tankHeaterUse == QLatin1String("BH_USE")
         || tankHeaterUse == QLatin1String("ONLY_DISINFECT");
 }
 
@@ -193,12 +193,8 @@ void InstallationDWH::setloadJsonValue() { loadLists(lists); }
 
 void InstallationDWH::setHotWaterTempRange()
 {
-    const hotwater::Words words{word(QStringLiteral("product")),
-                                word(flagPath("isCoolTempMin5")),
-                                word(flagPath("isHotwaterTankHeaterUse")),
-                                word(flagPath("isHsModel")),
-                                word(flagPath("isR32")),
-                                word(installation("hotWaterTankHeater.tankHeaterUse"))};
+    const hotwater::Words words{word(paths::product), word(flags::coolTempMin5), word(flags::tankHeater),
+                                word(flags::hsModel), word(flags::r32),          word(paths::tankHeaterUse)};
     offer(ui->comboHotWaterMin, hotwater::lowLimit(words));
     offer(ui->comboHotWaterMax, hotwater::highLimit(words));
 }

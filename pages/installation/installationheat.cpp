@@ -1,6 +1,7 @@
 #include "pages/installation/installationheat.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_installationheat.h"
 
@@ -11,23 +12,23 @@ namespace {
 WaterRules heatRules()
 {
     WaterRules rules;
-    rules.basisFlag = QStringLiteral("IduFuncList.is_heatwatercontrolbasis");
-    rules.controlBasis = QStringLiteral("SettingInfo.installation.heatWaterControlBasis");
-    rules.airLow = QStringLiteral("SettingInfo.installation.settempLimit.heatAir.low_limit");
-    rules.airHigh = QStringLiteral("SettingInfo.installation.settempLimit.heatAir.high_limit");
-    rules.waterLow = QStringLiteral("SettingInfo.installation.settempLimit.heatWater.low_limit");
-    rules.waterHigh = QStringLiteral("SettingInfo.installation.settempLimit.heatWater.high_limit");
-    rules.controlType = QStringLiteral("SettingInfo.func.waterCtrBasisAirHeat.ctrType");
-    rules.constant = QStringLiteral("SettingInfo.func.waterCtrBasisAirHeat.ctrTemp");
-    rules.constantMainZone = QStringLiteral("SettingInfo.func.waterCtrBasisAirHeat.ctrTempMainZone");
-    rules.thermoFlag = QStringLiteral("IduFuncList.isHeatThermoOnOff");
-    rules.airThermo = QStringLiteral("SettingInfo.installation.typeOfHeat_Air_thermo");
-    rules.waterThermo = QStringLiteral("SettingInfo.installation.typeOfHeat_Water_thermo");
-    rules.pumpFlag = QStringLiteral("IduFuncList.is_PumpOperationSettingInHeat");
-    rules.pumpOnFlag = QStringLiteral("IduFuncList.is_PumpOperationSettingInHeatOn");
-    rules.pumpOption = QStringLiteral("SettingInfo.installation.pumpOperOptionInHeat.option");
-    rules.pumpOnTime = QStringLiteral("SettingInfo.installation.pumpOperOptionInHeat.timeOn");
-    rules.pumpOffTime = QStringLiteral("SettingInfo.installation.pumpOperOptionInHeat.time");
+    rules.basisFlag = flags::heatWaterControlBasis;
+    rules.controlBasis = paths::heatWaterControlBasis;
+    rules.airLow = "SettingInfo.installation.settempLimit.heatAir.low_limit";
+    rules.airHigh = "SettingInfo.installation.settempLimit.heatAir.high_limit";
+    rules.waterLow = "SettingInfo.installation.settempLimit.heatWater.low_limit";
+    rules.waterHigh = "SettingInfo.installation.settempLimit.heatWater.high_limit";
+    rules.controlType = "SettingInfo.func.waterCtrBasisAirHeat.ctrType";
+    rules.constant = "SettingInfo.func.waterCtrBasisAirHeat.ctrTemp";
+    rules.constantMainZone = "SettingInfo.func.waterCtrBasisAirHeat.ctrTempMainZone";
+    rules.thermoFlag = "IduFuncList.isHeatThermoOnOff";
+    rules.airThermo = "SettingInfo.installation.typeOfHeat_Air_thermo";
+    rules.waterThermo = "SettingInfo.installation.typeOfHeat_Water_thermo";
+    rules.pumpFlag = "IduFuncList.is_PumpOperationSettingInHeat";
+    rules.pumpOnFlag = "IduFuncList.is_PumpOperationSettingInHeatOn";
+    rules.pumpOption = "SettingInfo.installation.pumpOperOptionInHeat.option";
+    rules.pumpOnTime = "SettingInfo.installation.pumpOperOptionInHeat.timeOn";
+    rules.pumpOffTime = "SettingInfo.installation.pumpOperOptionInHeat.time";
     rules.circuits = waterranges::Circuits::MainZoneBelow;
     return rules;
 }
@@ -39,7 +40,7 @@ InstallationHeat::InstallationHeat(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationHeat>())
 {
     ui->setupUi(this);
-    controls = waterControls(*ui);
+    adopt(waterControls(*ui));
     startCollapsed(ui->hideButton, ui->frame);
     initUi();
 }
@@ -91,10 +92,8 @@ void InstallationHeat::loadJsonData()
 
 void InstallationHeat::setloadJsonValue()
 {
-    showStored({{ui->comboTemperatureIndoorMin, rules.airLow},
-                {ui->comboTemperatureIndoorMax, rules.airHigh},
-                {ui->comboControlWaterTemp, rules.constant},
-                {ui->comboControlMainZoneTemp, rules.constantMainZone}});
+    showStored({ui->comboTemperatureIndoorMin, ui->comboTemperatureIndoorMax, ui->comboControlWaterTemp,
+                ui->comboControlMainZoneTemp});
 }
 
 void InstallationHeat::enableWaterPumpOperationTimer() { enableTimers(); }
@@ -108,8 +107,8 @@ QString InstallationHeat::setOpacity(bool isEnabled) { return style::labelText(i
 void InstallationHeat::setHeatWaterTempRange()
 {
     const bool outlet = word(rules.controlBasis) == QLatin1String("EXIT");
-    applyWaterLimits(waterranges::heatLow(flag("is_installed_heater")),
-                     waterranges::heatHigh(flag("isR32"), outlet));
+    applyWaterLimits(waterranges::heatLow(isSet(flags::installedHeater)),
+                     waterranges::heatHigh(isSet(flags::r32), outlet));
 }
 
 void InstallationHeat::on_hideButton_clicked() { toggle(ui->hideButton, ui->frame); }
@@ -124,60 +123,60 @@ void InstallationHeat::on_comboReferenceWater_currentTextChanged(const QString &
 }
 
 // Oddity 31: the timers' captions keep their colour, unlike in cooling.
-void InstallationHeat::choosePump(const QString &option)
+void InstallationHeat::choosePump(const QRadioButton *radio)
 {
-    saveJsonData(rules.pumpOption, option);
+    save(radio);
     enableTimers();
     validationCheck();
 }
 
 void InstallationHeat::on_comboTemperatureIndoorMin_currentTextChanged(const QString &text)
 {
-    chooseAirLimit(rules.airLow, text);
+    chooseAirLimit(ui->comboTemperatureIndoorMin, text);
 }
 
 void InstallationHeat::on_comboTemperatureIndoorMax_currentTextChanged(const QString &text)
 {
-    chooseAirLimit(rules.airHigh, text);
+    chooseAirLimit(ui->comboTemperatureIndoorMax, text);
 }
 
 void InstallationHeat::on_comboTemperatureWaterMin_currentTextChanged(const QString &text)
 {
-    chooseWaterLimit(rules.waterLow, text);
+    chooseWaterLimit(ui->comboTemperatureWaterMin, text);
 }
 
 void InstallationHeat::on_comboTemperatureWaterMax_currentTextChanged(const QString &text)
 {
-    chooseWaterLimit(rules.waterHigh, text);
+    chooseWaterLimit(ui->comboTemperatureWaterMax, text);
 }
 
 void InstallationHeat::on_comboTNIndoorAirTemp_currentTextChanged(const QString &text)
 {
-    chooseThermo(rules.airThermo, text);
+    change(ui->comboTNIndoorAirTemp, text);
 }
 
 void InstallationHeat::on_comboTNIndoorWaterTemp_currentTextChanged(const QString &text)
 {
-    chooseThermo(rules.waterThermo, text);
+    change(ui->comboTNIndoorWaterTemp, text);
 }
 
 void InstallationHeat::on_comboWaterPumpOnTimer_currentIndexChanged(int index)
 {
-    chooseTime(rules.pumpOnTime, index);
+    change(ui->comboWaterPumpOnTimer, index);
 }
 
 void InstallationHeat::on_comboWaterPumpOffTimer_currentIndexChanged(int index)
 {
-    chooseTime(rules.pumpOffTime, index);
+    change(ui->comboWaterPumpOffTimer, index);
 }
 
-void InstallationHeat::on_radioWaterPumpNotuse_clicked() { choosePump(QStringLiteral("SET")); }
+void InstallationHeat::on_radioWaterPumpNotuse_clicked() { choosePump(ui->radioWaterPumpNotuse); }
 
-void InstallationHeat::on_radioWaterPumpUse_clicked() { choosePump(QStringLiteral("CLR")); }
+void InstallationHeat::on_radioWaterPumpUse_clicked() { choosePump(ui->radioWaterPumpUse); }
 
-void InstallationHeat::on_radioControlTypeAuto_clicked() { chooseControlType(QStringLiteral("AUTO")); }
+void InstallationHeat::on_radioControlTypeAuto_clicked() { chooseControlType(ui->radioControlTypeAuto); }
 
-void InstallationHeat::on_radioControlTypeManual_clicked() { chooseControlType(QStringLiteral("MANUAL")); }
+void InstallationHeat::on_radioControlTypeManual_clicked() { chooseControlType(ui->radioControlTypeManual); }
 
 void InstallationHeat::on_comboControlWaterTemp_currentTextChanged(const QString &text)
 {
@@ -191,9 +190,7 @@ void InstallationHeat::on_comboControlMainZoneTemp_currentTextChanged(const QStr
 
 void InstallationHeat::validationCheck()
 {
-    const bool valid = mainDialog->checkValidationRadio(ui->radioControlTypeAuto, ui->radioControlTypeManual,
-                                                        nullptr)
-        && mainDialog->checkValidationRadio(ui->radioWaterPumpNotuse, ui->radioWaterPumpUse, nullptr);
+    const bool valid = choicesMade();
     if (valid) {
         qDebug() << "InstallationHeat::SettingUser validation succeed!";
     } else {

@@ -71,7 +71,7 @@ protected:
 
 private:
     void announceChange() override;
-    void choosePump(const QString &option);
+    void choosePump(const QRadioButton *radio);
 
     std::unique_ptr<Ui::InstallationHeat> ui;
 };

@@ -1,6 +1,7 @@
 #include "pages/installation/installationsystemaquabox.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_installationsystemaquabox.h"
 
@@ -11,6 +12,17 @@ InstallationSystemAquabox::InstallationSystemAquabox(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationSystemAquabox>())
 {
     ui->setupUi(this);
+    choices = {{"SettingInfo.installation.modePriority.modeStandby",
+                {{ui->radioStandbyNotuse, "CLR"}, {ui->radioStandbyUse, "SET"}}},
+               {paths::hsSetting, {{ui->radioHsmodeNotuse, "CLR"}, {ui->radioHsmodeUse, "SET"}}},
+               {"SettingInfo.installation.combination200.combiValue",
+                {{ui->radioCombinationNotuse, "CLR"}, {ui->radioCombinationUse, "SET"}}},
+               {"SettingInfo.installation.combination200.combiOilRecover",
+                {{ui->radioOpt1, "CLR"}, {ui->radioOpt2, "SET"}}},
+               {"SettingInfo.installation.leakRefrigerant",
+                {{ui->radioRefrigerantNotuse, "CLR"}, {ui->radioRefrigerantUse, "SET"}}}};
+    lists = {{ui->comboKnightType, "SettingInfo.installation.kNightType", Shown::Key},
+             {ui->comboWater, "SettingInfo.installation.waterFlowRate", Shown::Number}};
     initUi();
 }
 
@@ -26,10 +38,9 @@ void InstallationSystemAquabox::showEvent(QShowEvent *event)
 void InstallationSystemAquabox::initUi()
 {
     mainDialog->setRangeValueInComboBox(ui->comboWater, 15, 92, MainDialog::PlainNumber, 1);
-    mainDialog->setComboItems(
+    fill(
         ui->comboKnightType,
-        {QStringLiteral("STEP0"), QStringLiteral("STEP1"), QStringLiteral("STEP2"), QStringLiteral("STEP3")},
-        -1);
+        {QStringLiteral("STEP0"), QStringLiteral("STEP1"), QStringLiteral("STEP2"), QStringLiteral("STEP3")});
 }
 
 void InstallationSystemAquabox::refresh()
@@ -48,40 +59,27 @@ void InstallationSystemAquabox::saveJsonData(const QString &path, const QJsonVal
 
 void InstallationSystemAquabox::loadJsonData()
 {
-    const QString standby = word(installation("modePriority.modeStandby"));
-    const bool hasStandby = flag("isModeStandby");
-    ui->groupBoxModeStandby->setVisible(hasStandby);
-    if (hasStandby) {
-        checkPair(standby, {ui->radioStandbyNotuse, "CLR", ui->radioStandbyUse, "SET"});
-    }
+    loadOffered(ui->groupBoxModeStandby, "IduFuncList.isModeStandby", ui->radioStandbyUse);
     // Oddity 28: this row stays visible without its flag: only a click can satisfy it then.
-    const QString hsMode = word(installation("hsSetting"));
-    if (flag("isHsModel")) {
-        checkPair(hsMode, {ui->radioHsmodeNotuse, "CLR", ui->radioHsmodeUse, "SET"});
+    if (isSet(flags::hsModel)) {
+        loadChoice(ui->radioHsmodeUse);
     }
     loadCombination();
     enableOilRecovery();
-    ui->groupBoxTimerOfNight->setVisible(flag("isKnightModel"));
-    ui->groupBoxWaterFlow->setVisible(flag("isWaterFlowRate"));
-    const QString leakSensor = word(installation("leakRefrigerant"));
-    const bool hasLeakSensor = flag("isLeakRefrigerant");
-    ui->groupBoxRefrigerant->setVisible(hasLeakSensor);
-    if (hasLeakSensor) {
-        checkPair(leakSensor, {ui->radioRefrigerantNotuse, "CLR", ui->radioRefrigerantUse, "SET"});
-    }
+    ui->groupBoxTimerOfNight->setVisible(isSet("IduFuncList.isKnightModel"));
+    ui->groupBoxWaterFlow->setVisible(isSet("IduFuncList.isWaterFlowRate"));
+    loadOffered(ui->groupBoxRefrigerant, "IduFuncList.isLeakRefrigerant", ui->radioRefrigerantUse);
 }
 
 void InstallationSystemAquabox::loadCombination()
 {
-    const QString combination = word(installation("combination200.combiValue"));
-    const QString oilRecovery = word(installation("combination200.combiOilRecover"));
-    const bool available = flag("is_200Combination");
+    const bool available = isSet("IduFuncList.is_200Combination");
     ui->groupBoxCombination->setVisible(available);
     if (!available) {
         return;
     }
-    ui->groupBoxCombinationSub->setVisible(flag("is200CombinationOp2"));
-    if (combination != QLatin1String("SET")) {
+    ui->groupBoxCombinationSub->setVisible(isSet("IduFuncList.is200CombinationOp2"));
+    if (!isSet(choiceOf(ui->radioCombinationUse).path)) {
         ui->radioCombinationNotuse->setChecked(true);
         ui->radioOpt1->setEnabled(false);
         ui->radioOpt2->setEnabled(false);
@@ -89,7 +87,7 @@ void InstallationSystemAquabox::loadCombination()
         return;
     }
     ui->radioCombinationUse->setChecked(true);
-    if (oilRecovery == QLatin1String("CLR")) {
+    if (word(choiceOf(ui->radioOpt1).path) == QLatin1String("CLR")) {
         ui->radioOpt1->setChecked(true);
     } else {
         // Oddity 27: a stored "SET" loads unchecked: the user has to choose again.
@@ -98,20 +96,13 @@ void InstallationSystemAquabox::loadCombination()
 }
 
 // The night type runs its slot where its index changes; the flow rate doesn't.
-void InstallationSystemAquabox::setLoadJsonValue()
-{
-    mainDialog->setComboByKey(ui->comboKnightType, text(installation("kNightType")));
-    mainDialog->setComboByValue(ui->comboWater, number(installation("waterFlowRate")),
-                                MainDialog::PlainNumber);
-}
+void InstallationSystemAquabox::setLoadJsonValue() { loadLists(lists); }
 
 void InstallationSystemAquabox::enableOilRecovery()
 {
     const bool used = !ui->radioCombinationNotuse->isChecked();
-    style::apply(ui->labelOilrecovery, style::labelText(used));
-    ui->groupBoxCombinationSub->setEnabled(used);
+    enable(used, {ui->labelOilrecovery}, {ui->groupBoxCombinationSub, ui->radioOpt1, ui->radioOpt2});
     for (QRadioButton *option : {ui->radioOpt1, ui->radioOpt2}) {
-        option->setEnabled(used);
         style::apply(option, setRadioTextOpacity(used));
     }
     if (!used) {
@@ -122,20 +113,10 @@ void InstallationSystemAquabox::enableOilRecovery()
 QString InstallationSystemAquabox::setRadioTextOpacity(bool isEnabled) { return style::radioText(isEnabled); }
 
 // Oddity 39: unlike in the other sections the check comes before the save, in every slot.
-void InstallationSystemAquabox::choose(const QAbstractButton *button)
+void InstallationSystemAquabox::choose(const QRadioButton *radio)
 {
     validationCheck();
-    saveChoice({{ui->radioStandbyNotuse, "SettingInfo.installation.modePriority.modeStandby", "CLR"},
-                {ui->radioStandbyUse, "SettingInfo.installation.modePriority.modeStandby", "SET"},
-                {ui->radioHsmodeNotuse, "SettingInfo.installation.hsSetting", "CLR"},
-                {ui->radioHsmodeUse, "SettingInfo.installation.hsSetting", "SET"},
-                {ui->radioCombinationNotuse, "SettingInfo.installation.combination200.combiValue", "CLR"},
-                {ui->radioCombinationUse, "SettingInfo.installation.combination200.combiValue", "SET"},
-                {ui->radioOpt1, "SettingInfo.installation.combination200.combiOilRecover", "CLR"},
-                {ui->radioOpt2, "SettingInfo.installation.combination200.combiOilRecover", "SET"},
-                {ui->radioRefrigerantNotuse, "SettingInfo.installation.leakRefrigerant", "CLR"},
-                {ui->radioRefrigerantUse, "SettingInfo.installation.leakRefrigerant", "SET"}},
-               button);
+    save(radio);
 }
 
 void InstallationSystemAquabox::on_radioStandbyNotuse_clicked() { choose(ui->radioStandbyNotuse); }
@@ -149,13 +130,13 @@ void InstallationSystemAquabox::on_radioHsmodeUse_clicked() { choose(ui->radioHs
 void InstallationSystemAquabox::on_comboKnightType_currentTextChanged(const QString &text)
 {
     validationCheck();
-    saveJsonData(installation("kNightType"), shownValue(Shown::Key, text));
+    save(ui->comboKnightType, text);
 }
 
 void InstallationSystemAquabox::on_comboWater_currentTextChanged(const QString &text)
 {
     validationCheck();
-    saveJsonData(installation("waterFlowRate"), text.toInt());
+    save(ui->comboWater, text);
 }
 
 void InstallationSystemAquabox::on_radioRefrigerantNotuse_clicked() { choose(ui->radioRefrigerantNotuse); }
@@ -180,12 +161,7 @@ void InstallationSystemAquabox::on_radioCombinationUse_clicked()
 
 void InstallationSystemAquabox::validationCheck()
 {
-    const MainDialog *dialog = mainDialog;
-    const bool result = dialog->checkValidationRadio(ui->radioStandbyNotuse, ui->radioStandbyUse, nullptr)
-        && dialog->checkValidationRadio(ui->radioHsmodeNotuse, ui->radioHsmodeUse, nullptr)
-        && dialog->checkValidationRadio(ui->radioCombinationNotuse, ui->radioCombinationUse, nullptr)
-        && dialog->checkValidationRadio(ui->radioOpt1, ui->radioOpt2, nullptr)
-        && dialog->checkValidationRadio(ui->radioRefrigerantNotuse, ui->radioRefrigerantUse, nullptr);
+    const bool result = choicesMade();
     qDebug() << (result ? "InstallationSystemAquabox::validationCheck succeed!!"
                         : "InstallationSystemAquabox::validationCheck failed!!");
     emit validationCheckSignals(result, QStringLiteral("AQUABOX"));
@@ -199,6 +175,5 @@ void InstallationSystemAquabox::changeLanguage()
 
 void InstallationSystemAquabox::changeLanguageInCombobox()
 {
-    mainDialog->refillComboItems(ui->comboKnightType, languageTexts({"STEP0", "STEP1", "STEP2", "STEP3"}),
-                                 ui->comboKnightType->currentIndex());
+    refill(ui->comboKnightType, languageTexts({"STEP0", "STEP1", "STEP2", "STEP3"}));
 }

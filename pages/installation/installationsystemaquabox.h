@@ -56,7 +56,7 @@ private slots:
 
 private:
     void saveJsonData(const QString &path, const QJsonValue &value) override;
-    void choose(const QAbstractButton *button);
+    void choose(const QRadioButton *radio);
     void loadCombination();
 
     std::unique_ptr<Ui::InstallationSystemAquabox> ui;

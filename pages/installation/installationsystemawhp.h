@@ -81,26 +81,14 @@ private slots:
 
 private:
     void validationCheck() override { validataionCheck(); }
-    void choose(const QAbstractButton *button);
-    /// Saves a value of the installation settings, and checks.
-    void save(const char *key, const QJsonValue &value);
-    void choose2ndCircuit(const QAbstractButton *button);
-    void chooseWaterTankHeater(const QAbstractButton *button);
-
-    void loadSmartGrid();
+    void choose2ndCircuit(const QRadioButton *radio);
+    void chooseWaterTankHeater(const QRadioButton *radio);
+    void choose3rdPartyBoiler(const QRadioButton *radio);
     void loadHeaters();
     void loadWaterTankHeater();
     void loadPumps();
     void load3rdPartyBoiler();
     void setControlledByTemperature(bool controlled);
-
-    // What item 0 stands for: seconds, and minutes.
-    static constexpr int firstClosingTime = 60;
-    static constexpr int firstRun = 1;
-    // Oddity 9: In °F the last step of the hysteresis stands for 5 and not for its index; the list in °F ends
-    // before it.
-    static constexpr int lastHysteresisItem = 4;
-    static constexpr int lastHysteresis = 5;
 
     std::unique_ptr<Ui::InstallationSystemAWHP> ui;
 };

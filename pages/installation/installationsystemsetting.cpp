@@ -1,6 +1,7 @@
 #include "pages/installation/installationsystemsetting.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_installationsystemsetting.h"
 
@@ -10,6 +11,50 @@
 #include <type_traits>
 
 namespace {
+
+constexpr const char *pumpValue = "SettingInfo.installation.pumpRPM.pumpRPMValue";
+constexpr const char *dryContact = "SettingInfo.installation.dryContactInstallation";
+constexpr const char *digitalInput = "SettingInfo.installation.digitalInput";
+constexpr const char *centralAddress = "SettingInfo.installation.cc_address";
+constexpr const char *modbusAddress = "SettingInfo.installation.modbusAddress";
+constexpr const char *screedStep = "SettingInfo.installation.cement_cure.cmt_step";
+
+// What item 0 stands for: hours, minutes and days.
+constexpr int firstPeriod = 20;
+constexpr int firstRuntime = 1;
+constexpr int firstHolding = 1;
+
+// Items of the control method, in the order of the list.
+constexpr int waterItem = 0;
+constexpr int airItem = 1;
+constexpr int airWaterItem = 2;
+
+/// The document's word for "no Modbus address".
+constexpr int noAddress = -9999;
+
+/// Two lower case hexadecimal digits.
+QString hexadecimal(int value) { return QStringLiteral("%1").arg(value, 2, 16, QLatin1Char('0')); }
+
+QStringList modbusAddresses()
+{
+    QStringList items;
+    for (int address = 1; address <= 247; ++address) {
+        items.append(hexadecimal(address));
+    }
+    return items;
+}
+
+QStringList centralAddresses()
+{
+    QStringList items;
+    for (int address = 0; address <= 255; ++address) {
+        items.append(hexadecimal(address).toUpper());
+    }
+    return items;
+}
+
+/// A value that isn't listed leaves the combo box blank.
+void selectText(QComboBox *combo, const QString &text) { combo->setCurrentIndex(combo->findText(text)); }
 
 /// What a control method stores, by the key of its text.
 struct Sensing {
@@ -29,6 +74,18 @@ InstallationSystemSetting::InstallationSystemSetting(QWidget *parent)
     , ui(std::make_unique<Ui::InstallationSystemSetting>())
 {
     ui->setupUi(this);
+    choices = {{"SettingInfo.installation.drycontactAuto",
+                {{ui->radioDryAuto, "AUTO_ON"}, {ui->radioDryManual, "AUTO_OFF"}}},
+               {"SettingInfo.installation.pumpOperationByForce.ByForceUse",
+                {{ui->radioEnforcedNotuse, "NOTUSE"}, {ui->radioEnforcedUse, "USE"}}}};
+    lists = {
+        {ui->comboBoxScreedMaxTemp, "SettingInfo.installation.cement_cure.cmt_maxTemp", Shown::Temperature},
+        {ui->comboBoxScreedHolding, "SettingInfo.installation.cement_cure.cmt_holding", Shown::Index,
+         firstHolding},
+        {ui->comboOperationPeriod, "SettingInfo.installation.pumpOperationByForce.ByForcePeriod",
+         Shown::Index, firstPeriod},
+        {ui->comboOperationTime, "SettingInfo.installation.pumpOperationByForce.ByForceRuntime", Shown::Index,
+         firstRuntime}};
     const auto connectProduct = [this](auto *product) {
         using Product = std::remove_pointer_t<decltype(product)>;
         connect(product, &Product::validationCheckSignals, this,
@@ -79,12 +136,205 @@ void InstallationSystemSetting::blockComboBoxSignal(bool isBlock)
     }
 }
 
+// The suffixes and words stay untranslated until changeLanguageInCombobox() replaces them.
+void InstallationSystemSetting::initDefaultRange()
+{
+    mainDialog->setRangeValueInComboBox(ui->comboWaterpumpRPM, 0, 3700, MainDialog::PlainNumber, 10);
+    fill(ui->comboOperationPeriod, numbered(firstPeriod, 180, 1, QStringLiteral("hour")));
+    fill(ui->comboOperationTime, numbered(firstRuntime, 10, 1, QStringLiteral("min")));
+    fill(ui->comboDryContactInstallation,
+         {QStringLiteral("Auto"), QStringLiteral("NOTINSTALL"), QStringLiteral("INSTALL")});
+    fill(ui->comboWaterRpmDuty, numbered(10, 100, 5, QStringLiteral("%")));
+    fill(ui->comboCentral, centralAddresses());
+    fill(ui->comboModbus, modbusAddresses());
+    mainDialog->setRangeValueInComboBox(ui->comboBoxScreedStep, 1, 11, MainDialog::PlainNumber, 1);
+    offer(ui->comboBoxScreedMaxTemp, {35, 55});
+    fill(ui->comboBoxScreedHolding, numbered(firstHolding, 30, 1, QStringLiteral("stepDay")));
+}
+
+void InstallationSystemSetting::changeLanguageInCombobox()
+{
+    const auto suffix = [](const char *key) { return mainDialog->languageValue(QLatin1String(key)); };
+    refill(ui->comboCnEXT, digitalInputTexts());
+    refill(ui->comboBoxScreedHolding, numbered(firstHolding, 30, 1, suffix("day")));
+    refill(ui->comboOperationPeriod, numbered(firstPeriod, 180, 1, suffix("Hour")));
+    refill(ui->comboOperationTime, numbered(firstRuntime, 10, 1, suffix("OperationMinute")));
+    refill(ui->comboDryContactInstallation, languageTexts({"Auto", "NOTINSTALL", "INSTALL"}));
+    refill(ui->comboBoxSensingTemp, sensingTexts());
+    refill(ui->comboBoxAirTemp, airTempTexts());
+}
+
+QStringList InstallationSystemSetting::sensingTexts()
+{
+    return isSet(flags::waterCtrBasisAir) ? languageTexts({"WATER", "AIR", "AIR_WATER"})
+                                          : languageTexts({"WATER", "AIR"});
+}
+
+QStringList InstallationSystemSetting::airTempTexts()
+{
+    return isSet(flags::iduAirTempSw) ? languageTexts({"IDU", "RemoteController"})
+                                      : languageTexts({"RemoteController"});
+}
+
+QStringList InstallationSystemSetting::digitalInputTexts()
+{
+    std::vector<const char *> keys{"NotUse", "SimpleOperation", "SimpleDryContact", "SingleEmergencyStop"};
+    // Oddity 34: this flag counts in capitals only.
+    if (text("IduFuncList.isEmergencyAllStop") == QLatin1String("SET")) {
+        keys.push_back("MultiEmergencyStop");
+    }
+    return languageTexts(keys);
+}
+
+// In the order of the list.
+QStringList InstallationSystemSetting::dryContactWords()
+{
+    return {QStringLiteral("IDU"), QStringLiteral("NOT_INSTALL"), QStringLiteral("INSTALL")};
+}
+
 void InstallationSystemSetting::saveJsonData(const QString &path, const QJsonValue &value)
 {
     writeWhileExpanded(path, value);
 }
 
 QJsonValue InstallationSystemSetting::parseJsonData(const QString &path) { return read(path); }
+
+// Selections run with the signals live: in an open section each writes back what it shows.
+void InstallationSystemSetting::loadJsonData()
+{
+    const QString product = word(paths::product);
+    loadProduct(product);
+    loadSensing();
+    loadChoice(ui->radioDryAuto);
+    loadCentralAddress();
+    fill(ui->comboCnEXT, digitalInputTexts());
+    loadModbusAddress();
+    loadScreedDrying();
+    loadPump();
+    loadEnforcedCirculation();
+    loadDigitalInput();
+    if (firstLoad) {
+        // The hydronic module comes up through its own show event.
+        if (product == QLatin1String("AWHP")) {
+            emit refreshAwhpCategory();
+        }
+        firstLoad = false;
+    }
+}
+
+void InstallationSystemSetting::loadProduct(const QString &product)
+{
+    if (product == QLatin1String("AQUABOX")) {
+        ui->widgetAquabox->show();
+        ui->widgetAwhp->hide();
+    } else if (product == QLatin1String("AWHP")) {
+        ui->widgetAwhp->show();
+        ui->widgetAquabox->hide();
+    }
+}
+
+void InstallationSystemSetting::loadSensing()
+{
+    const bool indoorSensor = isSet(flags::iduAirTempSw);
+    const QString basis = word(paths::settempSelect);
+    const QString location = word(paths::airTempLocation);
+    const QString airAndWater = word(paths::airAndWaterUse);
+    const bool threeMethods = isSet(flags::waterCtrBasisAir);
+
+    fill(ui->comboBoxSensingTemp, sensingTexts());
+    int item = waterItem;
+    if (basis != QLatin1String("WATER")) {
+        item = threeMethods && airAndWater != QLatin1String("CLR") ? airWaterItem : airItem;
+    }
+    ui->comboBoxSensingTemp->setCurrentIndex(item);
+
+    ui->groupBoxAirTempSensor->setEnabled(indoorSensor);
+    fill(ui->comboBoxAirTemp, airTempTexts());
+    if (indoorSensor) {
+        ui->comboBoxAirTemp->setCurrentIndex(location == QLatin1String("IDU") ? 0 : 1);
+        ui->groupBoxAirTempSensor->setEnabled(ui->comboBoxSensingTemp->currentIndex() != waterItem);
+    }
+}
+
+void InstallationSystemSetting::loadCentralAddress()
+{
+    const bool unlocked = word("ExtSysInfo.hard_lock") == QLatin1String("CLR");
+    const QString address = text(centralAddress);
+    ui->groupBoxCCAddress->setEnabled(unlocked);
+    if (!unlocked) {
+        return;
+    }
+    if (address.isEmpty()) {
+        ui->comboCentral->setCurrentIndex(0);
+    } else {
+        selectText(ui->comboCentral, address);
+    }
+}
+
+// Oddity 8: shown in hexadecimal, though the slot stores the text read as decimal.
+void InstallationSystemSetting::loadModbusAddress()
+{
+    const int address = number(modbusAddress);
+    const bool available = isSet("IduFuncList.isModbusAddress");
+    ui->groupBoxModbusAddress->setVisible(available);
+    if (!available) {
+        return;
+    }
+    if (address == noAddress) {
+        ui->comboModbus->setCurrentIndex(0);
+    } else {
+        selectText(ui->comboModbus, hexadecimal(address));
+    }
+}
+
+void InstallationSystemSetting::loadScreedDrying()
+{
+    selectText(ui->comboBoxScreedStep, QString::number(number(screedStep)));
+    loadList(ui->comboBoxScreedMaxTemp);
+    loadList(ui->comboBoxScreedHolding);
+    ui->groupBoxCementCuring->setVisible(isSet("IduFuncList.is_cement_Curing"));
+}
+
+void InstallationSystemSetting::loadPump()
+{
+    const bool bySpeed = isSet("IduFuncList.is_PumpRpmOption") || isSet("IduFuncList.isMotorDuty");
+    const int value = number(pumpValue);
+    ui->groupBoxPumpRPM->setVisible(bySpeed);
+    ui->groupBoxPumpCapacity->setVisible(!bySpeed);
+    if (bySpeed) {
+        selectText(ui->comboWaterpumpRPM, QString::number(qint64{value} * 10));
+    } else {
+        selectText(ui->comboWaterRpmDuty, QString::number(value) + QLatin1Char('%'));
+    }
+}
+
+void InstallationSystemSetting::loadEnforcedCirculation()
+{
+    ui->groupBoxEnforced->setVisible(isSet("IduFuncList.isWaterPumpOperationByForce"));
+    ui->groupBoxEnforcedSub->show();
+    if (isSet("IduFuncList.isWaterPumpOperationByForceAdv")) {
+        loadChoice(ui->radioEnforcedUse);
+        if (ui->radioEnforcedUse->isChecked()) {
+            loadList(ui->comboOperationPeriod);
+            loadList(ui->comboOperationTime);
+        }
+    }
+    enableEnforcedCirculation();
+}
+
+void InstallationSystemSetting::loadDigitalInput()
+{
+    ui->groupBoxDryContact->setVisible(isSet("IduFuncList.is_DryContactInstallationSetting"));
+    const QString installed = word(dryContact);
+    const QString input = text(digitalInput);
+    const int item = installed.isEmpty() ? 0 : dryContactWords().indexOf(installed);
+    if (item >= 0) {
+        ui->comboDryContactInstallation->setCurrentIndex(item);
+    }
+    // An empty text reads as 0.
+    ui->comboCnEXT->setCurrentIndex(QString(input).remove(QStringLiteral("STEP")).toInt());
+    ui->groupBoxCnExt->setVisible(isSet("IduFuncList.isDiExpand"));
+}
 
 void InstallationSystemSetting::refreshAwhpWidget() { emit refreshAwhpCategory(); }
 
@@ -112,47 +362,20 @@ void InstallationSystemSetting::setTempValue(QComboBox *comboBox, int value)
     selectTemperature(comboBox, value);
 }
 
-void InstallationSystemSetting::choose(const QAbstractButton *button)
-{
-    saveChoice(
-        {{ui->radioDryManual, "SettingInfo.installation.drycontactAuto", "AUTO_OFF"},
-         {ui->radioDryAuto, "SettingInfo.installation.drycontactAuto", "AUTO_ON"},
-         {ui->radioEnforcedNotuse, "SettingInfo.installation.pumpOperationByForce.ByForceUse", "NOTUSE"},
-         {ui->radioEnforcedUse, "SettingInfo.installation.pumpOperationByForce.ByForceUse", "USE"}},
-        button);
-}
+void InstallationSystemSetting::on_radioDryManual_clicked() { change(ui->radioDryManual); }
 
-void InstallationSystemSetting::save(const char *key, const QJsonValue &value)
-{
-    saveJsonData(installation(key), value);
-    validationCheck();
-}
+void InstallationSystemSetting::on_radioDryAuto_clicked() { change(ui->radioDryAuto); }
 
-void InstallationSystemSetting::on_radioDryManual_clicked()
+void InstallationSystemSetting::chooseEnforced(const QRadioButton *radio)
 {
-    choose(ui->radioDryManual);
-    validationCheck();
-}
-
-void InstallationSystemSetting::on_radioDryAuto_clicked()
-{
-    choose(ui->radioDryAuto);
-    validationCheck();
-}
-
-void InstallationSystemSetting::on_radioEnforcedNotuse_clicked()
-{
-    choose(ui->radioEnforcedNotuse);
+    save(radio);
     enableEnforcedCirculation();
     validationCheck();
 }
 
-void InstallationSystemSetting::on_radioEnforcedUse_clicked()
-{
-    choose(ui->radioEnforcedUse);
-    enableEnforcedCirculation();
-    validationCheck();
-}
+void InstallationSystemSetting::on_radioEnforcedNotuse_clicked() { chooseEnforced(ui->radioEnforcedNotuse); }
+
+void InstallationSystemSetting::on_radioEnforcedUse_clicked() { chooseEnforced(ui->radioEnforcedUse); }
 
 // The one control of the section that refreshes the others.
 void InstallationSystemSetting::on_comboBoxSensingTemp_currentTextChanged(const QString &text)
@@ -160,12 +383,12 @@ void InstallationSystemSetting::on_comboBoxSensingTemp_currentTextChanged(const 
     const QString key = mainDialog->languageKeyOrText(text).toUpper();
     for (const Sensing &method : sensingMethods) {
         if (key == QLatin1String(method.key)) {
-            saveJsonData(installation("sensorDefine.settemp_select"), QLatin1String(method.basis));
-            saveJsonData(installation("sensorDefine.airAndWaterUse"), QLatin1String(method.airAndWater));
-            saveJsonData(installation("sensorDefine.remote_sensor"), QLatin1String(method.remoteSensor));
+            save(paths::settempSelect, QLatin1String(method.basis));
+            save(paths::airAndWaterUse, QLatin1String(method.airAndWater));
+            save("SettingInfo.installation.sensorDefine.remote_sensor", QLatin1String(method.remoteSensor));
         }
     }
-    if (flag("isIduAirTempSW")) {
+    if (isSet(flags::iduAirTempSw)) {
         ui->groupBoxAirTempSensor->setEnabled(key != QLatin1String("WATER"));
     }
     validationCheck();
@@ -174,74 +397,73 @@ void InstallationSystemSetting::on_comboBoxSensingTemp_currentTextChanged(const 
 
 void InstallationSystemSetting::on_comboBoxAirTemp_currentTextChanged(const QString &text)
 {
-    save("sensorDefine.airTempLocation", shownValue(Shown::Key, text));
+    change(paths::airTempLocation, shownValue(Shown::Key, text));
 }
 
 void InstallationSystemSetting::on_comboWaterRpmDuty_currentTextChanged(const QString &text)
 {
-    save("pumpRPM.pumpRPMValue", QString(text).remove(QLatin1Char('%')).toInt());
+    change(pumpValue, QString(text).remove(QLatin1Char('%')).toInt());
 }
 
 void InstallationSystemSetting::on_comboWaterpumpRPM_currentTextChanged(const QString &text)
 {
-    save("pumpRPM.pumpRPMValue", text.toInt() / 10);
+    change(pumpValue, text.toInt() / 10);
 }
 
 void InstallationSystemSetting::on_comboDryContactInstallation_currentTextChanged(const QString &)
 {
     const QString chosen = dryContactWords().value(ui->comboDryContactInstallation->currentIndex());
     if (!chosen.isEmpty()) {
-        saveJsonData(installation("dryContactInstallation"), chosen);
+        save(dryContact, chosen);
     }
     validationCheck();
 }
 
 void InstallationSystemSetting::on_comboCnEXT_currentIndexChanged(int index)
 {
-    save("digitalInput", QStringLiteral("STEP") + QString::number(index));
+    change(digitalInput, QStringLiteral("STEP") + QString::number(index));
 }
 
 void InstallationSystemSetting::on_comboCentral_currentTextChanged(const QString &text)
 {
-    save("cc_address", text.toUpper());
+    change(centralAddress, text.toUpper());
 }
 
 // Oddity 8: the text is read as decimal though it shows hexadecimal digits: "10" stores 10 and "0a" 0.
 void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &text)
 {
-    save("modbusAddress", text.toInt());
+    change(modbusAddress, text.toInt());
 }
 
 void InstallationSystemSetting::on_comboBoxScreedStep_currentTextChanged(const QString &arg1)
 {
-    save("cement_cure.cmt_step", arg1.toInt());
+    change(screedStep, arg1.toInt());
 }
 
 void InstallationSystemSetting::on_comboBoxScreedMaxTemp_currentTextChanged(const QString &arg1)
 {
-    save("cement_cure.cmt_maxTemp", shownValue(Shown::Temperature, arg1));
+    change(ui->comboBoxScreedMaxTemp, arg1);
 }
 
 void InstallationSystemSetting::on_comboOperationTime_currentIndexChanged(int index)
 {
-    save("pumpOperationByForce.ByForceRuntime", index + firstRuntime);
+    change(ui->comboOperationTime, index);
 }
 
 void InstallationSystemSetting::on_comboBoxScreedHolding_currentIndexChanged(int index)
 {
-    save("cement_cure.cmt_holding", index + firstHolding);
+    change(ui->comboBoxScreedHolding, index);
 }
 
 void InstallationSystemSetting::on_comboOperationPeriod_currentIndexChanged(int index)
 {
-    save("pumpOperationByForce.ByForcePeriod", index + firstPeriod);
+    change(ui->comboOperationPeriod, index);
 }
 
 // Oddity 36: a failed product section ends the check before the tab's result is joined.
 void InstallationSystemSetting::validationCheck()
 {
-    bool result = mainDialog->checkValidationRadio(ui->radioDryAuto, ui->radioDryManual, nullptr)
-        && mainDialog->checkValidationRadio(ui->radioEnforcedNotuse, ui->radioEnforcedUse, nullptr);
+    bool result = choicesMade();
     qDebug() << (result ? "InstallationSystemSetting::validationCheck succeed!!"
                         : "InstallationSystemSetting::validationCheck failed!!");
     mainDialog->setSystemSectionValid(result);

@@ -71,17 +71,15 @@ private slots:
     void on_comboOperationPeriod_currentIndexChanged(int index);
 
 private:
-    void choose(const QAbstractButton *button);
-    /// Saves a value of the installation settings, and checks.
-    void save(const char *key, const QJsonValue &value);
+    void chooseEnforced(const QRadioButton *radio);
 
     void loadProduct(const QString &product);
     void loadSensing();
     void loadCentralAddress();
-    void loadModbusAddress(int address);
+    void loadModbusAddress();
     void loadScreedDrying();
     void loadPump();
-    void loadEnforcedCirculation(const QString &use, int period, int runtime);
+    void loadEnforcedCirculation();
     void loadDigitalInput();
 
     // The items that flags of the document decide on, in the language in force.
@@ -90,11 +88,6 @@ private:
     static QStringList digitalInputTexts();
     /// The document's words for the dry contact installation.
     static QStringList dryContactWords();
-
-    // What item 0 stands for: hours, minutes and days.
-    static constexpr int firstPeriod = 20;
-    static constexpr int firstRuntime = 1;
-    static constexpr int firstHolding = 1;
 
     std::unique_ptr<Ui::InstallationSystemSetting> ui;
     /// Last results of the product sections.

@@ -34,26 +34,28 @@ struct WaterControls {
 template <class Form>
 WaterControls waterControls(const Form &form)
 {
-    return {form.groupBoxControlBasisTemp,
-            form.comboReferenceWater,
-            form.comboTemperatureIndoorMin,
-            form.comboTemperatureIndoorMax,
-            form.comboTemperatureWaterMin,
-            form.comboTemperatureWaterMax,
-            form.groupBoxTemperatureControl,
-            form.radioControlTypeAuto,
-            form.radioControlTypeManual,
-            form.groupBoxCrtMainZone,
-            form.comboControlMainZoneTemp,
-            form.groupBoxCrtWaterTemp,
-            form.comboControlWaterTemp,
-            form.comboTNIndoorAirTemp,
-            form.comboTNIndoorWaterTemp,
-            form.groupBoxWaterPump,
-            form.radioWaterPumpNotuse,
-            form.radioWaterPumpUse,
-            form.groupBoxOnTimer,
-            form.comboWaterPumpOnTimer,
-            form.groupBoxOffTimer,
-            form.comboWaterPumpOffTimer};
+    WaterControls controls{};
+    controls.basisGroup = form.groupBoxControlBasisTemp;
+    controls.reference = form.comboReferenceWater;
+    controls.indoorMin = form.comboTemperatureIndoorMin;
+    controls.indoorMax = form.comboTemperatureIndoorMax;
+    controls.waterMin = form.comboTemperatureWaterMin;
+    controls.waterMax = form.comboTemperatureWaterMax;
+    controls.controlGroup = form.groupBoxTemperatureControl;
+    controls.controlAuto = form.radioControlTypeAuto;
+    controls.controlManual = form.radioControlTypeManual;
+    controls.mainZoneGroup = form.groupBoxCrtMainZone;
+    controls.mainZone = form.comboControlMainZoneTemp;
+    controls.constantGroup = form.groupBoxCrtWaterTemp;
+    controls.constant = form.comboControlWaterTemp;
+    controls.airThermo = form.comboTNIndoorAirTemp;
+    controls.waterThermo = form.comboTNIndoorWaterTemp;
+    controls.pumpGroup = form.groupBoxWaterPump;
+    controls.pumpNotuse = form.radioWaterPumpNotuse;
+    controls.pumpUse = form.radioWaterPumpUse;
+    controls.onGroup = form.groupBoxOnTimer;
+    controls.onTimer = form.comboWaterPumpOnTimer;
+    controls.offGroup = form.groupBoxOffTimer;
+    controls.offTimer = form.comboWaterPumpOffTimer;
+    return controls;
 }

@@ -1,6 +1,7 @@
 #include "pages/installation/watersection.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 
 #include <QComboBox>
 #include <QRadioButton>
@@ -13,23 +14,38 @@ WaterSection::WaterSection(WaterRules sectionRules, QWidget *parent)
 {
 }
 
+void WaterSection::adopt(const WaterControls &form)
+{
+    controls = form;
+    choices = {{rules.controlType, {{controls.controlAuto, "AUTO"}, {controls.controlManual, "MANUAL"}}},
+               // Oddity 2: "SET" is the running through: no timers.
+               {rules.pumpOption, {{controls.pumpNotuse, "SET"}, {controls.pumpUse, "CLR"}}}};
+    lists = {{controls.indoorMin, rules.airLow, Shown::Temperature},
+             {controls.indoorMax, rules.airHigh, Shown::Temperature},
+             {controls.waterMin, rules.waterLow, Shown::Temperature},
+             {controls.waterMax, rules.waterHigh, Shown::Temperature},
+             {controls.constant, rules.constant, Shown::Temperature},
+             {controls.mainZone, rules.constantMainZone, Shown::Temperature},
+             {controls.airThermo, rules.airThermo, Shown::Key},
+             {controls.waterThermo, rules.waterThermo, Shown::Key},
+             {controls.onTimer, rules.pumpOnTime, Shown::Index, 1},
+             {controls.offTimer, rules.pumpOffTime, Shown::Index, 1}};
+}
+
 void WaterSection::fillLists()
 {
     const QStringList steps{QStringLiteral("STEP0"), QStringLiteral("STEP1"), QStringLiteral("STEP2"),
                             QStringLiteral("STEP3")};
     const QStringList minutes = numbered(1, 60, 1, QStringLiteral("min"));
-    mainDialog->setComboItems(controls.reference, {QStringLiteral("Outlet"), QStringLiteral("Inlet")}, -1);
-    mainDialog->setComboItems(controls.airThermo, steps, -1);
-    mainDialog->setComboItems(controls.waterThermo, steps, -1);
-    mainDialog->setComboItems(controls.onTimer, minutes, -1);
-    mainDialog->setComboItems(controls.offTimer, minutes, -1);
+    fill(controls.reference, {QStringLiteral("Outlet"), QStringLiteral("Inlet")});
+    fill(controls.airThermo, steps);
+    fill(controls.waterThermo, steps);
+    fill(controls.onTimer, minutes);
+    fill(controls.offTimer, minutes);
 }
 
 void WaterSection::refillLists()
 {
-    const auto refill = [](QComboBox *combo, const QStringList &items) {
-        mainDialog->refillComboItems(combo, items, combo->currentIndex());
-    };
     refill(controls.reference, languageTexts({"Outlet", "Inlet"}));
     const QStringList steps = languageTexts({"STEP0", "STEP1", "STEP2", "STEP3"});
     refill(controls.airThermo, steps);
@@ -53,7 +69,7 @@ void WaterSection::showOrHide(std::initializer_list<QWidget *> widgets, bool sho
     }
 }
 
-bool WaterSection::twoCircuits() { return isSet(installation("circuitMainZone.enableMainZone")); }
+bool WaterSection::twoCircuits() { return isSet(paths::enableMainZone); }
 
 waterranges::Circuits WaterSection::circuits() const
 {
@@ -69,10 +85,10 @@ waterranges::Constants WaterSection::constants() const
 
 void WaterSection::showControlBasis()
 {
-    const QString sensed = word(installation("sensorDefine.settemp_select"));
+    const QString sensed = word(paths::settempSelect);
     const bool byWater = sensed == QLatin1String("WATER") && isSet(rules.basisFlag);
-    const bool byBoth = sensed == QLatin1String("AIR") && isSet(installation("sensorDefine.airAndWaterUse"));
-    controls.basisGroup->setVisible(flag("isR32") && (byWater || byBoth));
+    const bool byBoth = sensed == QLatin1String("AIR") && isSet(paths::airAndWaterUse);
+    controls.basisGroup->setVisible(isSet(flags::r32) && (byWater || byBoth));
 }
 
 void WaterSection::applyWaterLimits(Range low, Range high)
@@ -83,8 +99,8 @@ void WaterSection::applyWaterLimits(Range low, Range high)
     const Range kept{waterranges::clamp(stored.low, low), waterranges::clamp(stored.high, high)};
     mainDialog->setComboByValue(controls.waterMin, kept.low, MainDialog::Temperature);
     mainDialog->setComboByValue(controls.waterMax, kept.high, MainDialog::Temperature);
-    saveJsonData(rules.waterLow, kept.low);
-    saveJsonData(rules.waterHigh, kept.high);
+    save(rules.waterLow, kept.low);
+    save(rules.waterHigh, kept.high);
 }
 
 void WaterSection::offerConstants(const waterranges::Constants &stored)
@@ -96,13 +112,11 @@ void WaterSection::offerConstants(const waterranges::Constants &stored)
 
 void WaterSection::showTemperatureControl()
 {
-    const QString type = word(rules.controlType);
     // Where the other circuit's value leaves no range, the list keeps the whole one.
     offer(controls.constant, waterLimits());
     offer(controls.mainZone, waterLimits());
-    const bool shown = flag("isWaterCtrBasisAir")
-        && word(installation("sensorDefine.settemp_select")) == QLatin1String("AIR")
-        && isSet(installation("sensorDefine.airAndWaterUse"));
+    const bool shown = isSet(flags::waterCtrBasisAir) && word(paths::settempSelect) == QLatin1String("AIR")
+        && isSet(paths::airAndWaterUse);
     controls.controlGroup->setVisible(shown);
     if (!shown) {
         return;
@@ -111,12 +125,8 @@ void WaterSection::showTemperatureControl()
     if (twoCircuits()) {
         offerConstants(constants());
     }
-    if (type == QLatin1String("MANUAL")) {
-        controls.controlManual->setChecked(true);
-        enableConstants(true);
-    } else if (type == QLatin1String("AUTO")) {
-        controls.controlAuto->setChecked(true);
-        enableConstants(false);
+    if (checkStored(controls.controlManual)) {
+        enableConstants(controls.controlManual->isChecked());
     }
 }
 
@@ -131,31 +141,22 @@ void WaterSection::showWaterPump()
     controls.pumpGroup->setVisible(isSet(rules.pumpFlag) && isSet(rules.pumpOnFlag));
 }
 
-void WaterSection::showStored(const std::vector<TemperatureRow> &temperatures)
+void WaterSection::showStored(const std::vector<const QComboBox *> &temperatures)
 {
-    // All is read before a list moves: with its signals live it runs its slot.
-    const QString basis = word(rules.controlBasis);
-    const QString airThermo = text(rules.airThermo);
-    const QString waterThermo = text(rules.waterThermo);
-    const int onTime = number(rules.pumpOnTime);
-    const int offTime = number(rules.pumpOffTime);
-    const QString pump = word(rules.pumpOption);
-    for (const TemperatureRow &row : temperatures) {
-        mainDialog->setComboByValue(row.combo, number(row.path), MainDialog::Temperature);
+    for (const QComboBox *list : temperatures) {
+        loadList(list);
     }
+    const QString basis = word(rules.controlBasis);
     if (basis == QLatin1String("EXIT")) {
         controls.reference->setCurrentIndex(0);
     } else if (basis == QLatin1String("ENTRANCE")) {
         controls.reference->setCurrentIndex(1);
     }
-    mainDialog->setComboByKey(controls.airThermo, airThermo);
-    mainDialog->setComboByKey(controls.waterThermo, waterThermo);
-    controls.onTimer->setCurrentIndex(indexOf(onTime, 1));
-    controls.offTimer->setCurrentIndex(indexOf(offTime, 1));
-    // Oddity 2: "SET" is the running through: no timers.
-    if (pump == QLatin1String("CLR") || pump == QLatin1String("SET")) {
-        QRadioButton *radio = pump == QLatin1String("CLR") ? controls.pumpUse : controls.pumpNotuse;
-        radio->setChecked(true);
+    for (const QComboBox *list :
+         {controls.airThermo, controls.waterThermo, controls.onTimer, controls.offTimer}) {
+        loadList(list);
+    }
+    if (checkStored(controls.pumpUse)) {
         enableTimers();
     }
 }
@@ -167,11 +168,6 @@ void WaterSection::enableTimers()
     controls.offGroup->setEnabled(timed);
 }
 
-void WaterSection::saveTemperature(const QString &path, const QString &shown)
-{
-    saveJsonData(path, shownValue(Shown::Temperature, shown));
-}
-
 void WaterSection::saveControlBasis(const QString &shown)
 {
     QString basis = QLatin1String("");
@@ -180,37 +176,36 @@ void WaterSection::saveControlBasis(const QString &shown)
     } else if (shown == mainDialog->languageValue(QStringLiteral("Inlet"))) {
         basis = QStringLiteral("ENTRANCE");
     }
-    saveJsonData(rules.controlBasis, basis);
+    save(rules.controlBasis, basis);
 }
 
-void WaterSection::chooseAirLimit(const QString &path, const QString &shown)
+void WaterSection::chooseAirLimit(const QComboBox *limit, const QString &shown)
 {
-    saveTemperature(path, shown);
-    validationCheck();
+    change(limit, shown);
     announceChange();
 }
 
-void WaterSection::chooseWaterLimit(const QString &path, const QString &shown)
+void WaterSection::chooseWaterLimit(const QComboBox *limit, const QString &shown)
 {
-    saveTemperature(path, shown);
+    save(limit, shown);
     keepConstantsInLimits();
     validationCheck();
     announceChange();
 }
 
-void WaterSection::chooseControlType(const QString &type)
+void WaterSection::chooseControlType(const QRadioButton *radio)
 {
-    saveJsonData(rules.controlType, type);
-    enableConstants(type == QLatin1String("MANUAL"));
+    save(radio);
+    enableConstants(radio == controls.controlManual);
     validationCheck();
 }
 
 void WaterSection::chooseConstant(const QString &shown)
 {
-    saveTemperature(rules.constant, shown);
+    save(controls.constant, shown);
     // With one circuit the main zone goes along.
-    if (word(installation("circuitMainZone.enableMainZone")) == QLatin1String("CLR")) {
-        saveTemperature(rules.constantMainZone, shown);
+    if (word(paths::enableMainZone) == QLatin1String("CLR")) {
+        save(controls.mainZone, shown);
     }
     keepConstantsInLimits();
     validationCheck();
@@ -218,20 +213,8 @@ void WaterSection::chooseConstant(const QString &shown)
 
 void WaterSection::chooseConstantMainZone(const QString &shown)
 {
-    saveTemperature(rules.constantMainZone, shown);
+    save(controls.mainZone, shown);
     keepConstantsInLimits();
-    validationCheck();
-}
-
-void WaterSection::chooseThermo(const QString &path, const QString &shown)
-{
-    saveJsonData(path, mainDialog->languageKeyOrText(shown));
-    validationCheck();
-}
-
-void WaterSection::chooseTime(const QString &path, int index)
-{
-    saveJsonData(path, index + 1);
     validationCheck();
 }
 
@@ -240,8 +223,8 @@ void WaterSection::keepConstantsInLimits()
     const waterranges::Constants stored = constants();
     const waterranges::Constants kept = waterranges::kept(stored, waterLimits(), circuits());
     if (kept.other != stored.other || kept.mainZone != stored.mainZone) {
-        saveJsonData(rules.constant, kept.other);
-        saveJsonData(rules.constantMainZone, kept.mainZone);
+        save(rules.constant, kept.other);
+        save(rules.constantMainZone, kept.mainZone);
     }
     offerConstants(kept);
     mainDialog->setComboByValue(controls.constant, kept.other, MainDialog::Temperature);

@@ -7,23 +7,23 @@
 
 /// Where a section keeps its values, and the flags that show its groups: paths of the document.
 struct WaterRules {
-    QString basisFlag;
-    QString controlBasis;
-    QString airLow;
-    QString airHigh;
-    QString waterLow;
-    QString waterHigh;
-    QString controlType;
-    QString constant;
-    QString constantMainZone;
-    QString thermoFlag;
-    QString airThermo;
-    QString waterThermo;
-    QString pumpFlag;
-    QString pumpOnFlag;
-    QString pumpOption;
-    QString pumpOnTime;
-    QString pumpOffTime;
+    const char *basisFlag = nullptr;
+    const char *controlBasis = nullptr;
+    const char *airLow = nullptr;
+    const char *airHigh = nullptr;
+    const char *waterLow = nullptr;
+    const char *waterHigh = nullptr;
+    const char *controlType = nullptr;
+    const char *constant = nullptr;
+    const char *constantMainZone = nullptr;
+    const char *thermoFlag = nullptr;
+    const char *airThermo = nullptr;
+    const char *waterThermo = nullptr;
+    const char *pumpFlag = nullptr;
+    const char *pumpOnFlag = nullptr;
+    const char *pumpOption = nullptr;
+    const char *pumpOnTime = nullptr;
+    const char *pumpOffTime = nullptr;
     /// How the constant temperatures stand to each other when there are two circuits.
     waterranges::Circuits circuits = waterranges::Circuits::One;
 };
@@ -36,16 +36,13 @@ public:
     explicit WaterSection(WaterRules rules, QWidget *parent = nullptr);
 
 protected:
-    /// A list of temperatures and the path of the value that it shows.
-    struct TemperatureRow {
-        QComboBox *combo;
-        QString path;
-    };
-
     /// Tells the auto mode section, whose lists follow the water basis and the limits.
     virtual void announceChange() = 0;
     /// The constant temperature is that of circuit 2 where there is one.
     QString captionOf(const QString &key) const override;
+
+    /// Takes the controls of the form over, and says the rows of those that both sections have.
+    void adopt(const WaterControls &form);
 
     // Loading
     /// Fills the lists of words and times; no language is in force yet.
@@ -58,22 +55,18 @@ protected:
     void showTemperatureControl();
     void showWaterPump();
     /// Shows what is stored: the temperatures quietly, all else with the signals live.
-    void showStored(const std::vector<TemperatureRow> &temperatures);
+    void showStored(const std::vector<const QComboBox *> &temperatures);
     static void showOrHide(std::initializer_list<QWidget *> widgets, bool shown);
     static bool twoCircuits();
 
     // Changes by the user; `shown` is the text of an item
-    void saveTemperature(const QString &path, const QString &shown);
     /// "Outlet" or "Inlet" in the language in force; any other text saves an empty word.
     void saveControlBasis(const QString &shown);
-    void chooseAirLimit(const QString &path, const QString &shown);
-    void chooseWaterLimit(const QString &path, const QString &shown);
-    /// "AUTO" or "MANUAL".
-    void chooseControlType(const QString &type);
+    void chooseAirLimit(const QComboBox *limit, const QString &shown);
+    void chooseWaterLimit(const QComboBox *limit, const QString &shown);
+    void chooseControlType(const QRadioButton *radio);
     void chooseConstant(const QString &shown);
     void chooseConstantMainZone(const QString &shown);
-    void chooseThermo(const QString &path, const QString &shown);
-    void chooseTime(const QString &path, int index);
     /// Brings the constant temperatures into the limits and in line with each other, and shows them.
     void keepConstantsInLimits();
     void enableTimers();

@@ -47,12 +47,6 @@ void checkLock(QRadioButton *release, QRadioButton *lock, bool isLock)
     (isLock ? lock : release)->setChecked(true);
 }
 
-void open(QWidget *group, bool isOpen)
-{
-    group->setEnabled(isOpen);
-    group->setVisible(isOpen);
-}
-
 } // namespace
 
 SettingFunction::SettingFunction(QWidget *parent)
@@ -111,12 +105,12 @@ void SettingFunction::loadJsonData()
     const bool remoteHasPriority = isSet(flags::silentPriority)
         && word(paths::silentPriority) == QLatin1String("RMCSETTING");
 
-    open(ui->groupBoxSilentMode, hasSilentMode || (isMaster && remoteHasPriority));
+    offerGroup(ui->groupBoxSilentMode, hasSilentMode || (isMaster && remoteHasPriority));
     loadChoice(ui->radioSlientModeUse);
     ui->groupBoxDHWOnOff->setVisible(isSet(flags::hotWater));
     loadLocks();
     const bool hasDefrostMode = isSet("IduFuncList.isDefrostMode") && isMaster;
-    open(ui->groupBoxOdeFunction, hasDefrostMode);
+    offerGroup(ui->groupBoxOdeFunction, hasDefrostMode);
     if (hasDefrostMode) {
         loadLists(lists);
     }
@@ -176,29 +170,20 @@ QString SettingFunction::setRadioTextOpacity(bool isEnabled) { return style::rad
 
 void SettingFunction::enableSilentMode()
 {
-    const bool on = ui->radioSlientModeUse->isChecked();
-    for (QComboBox *combo :
-         {ui->comboSilentEndHour, ui->comboSilentEndMin, ui->comboSilentStartHour, ui->comboSilentStartMin}) {
-        combo->setEnabled(on);
-    }
-    style::apply(ui->labelStratTime, setOpacity(on));
-    style::apply(ui->labelEndTime, setOpacity(on));
-    ui->groupBoxSilentModeSub->setEnabled(on);
+    enable(ui->radioSlientModeUse->isChecked(), {ui->labelStratTime, ui->labelEndTime},
+           {ui->comboSilentEndHour, ui->comboSilentEndMin, ui->comboSilentStartHour, ui->comboSilentStartMin,
+            ui->groupBoxSilentModeSub});
 }
 
 void SettingFunction::allButtonLock(bool isLock)
 {
     checkLock(ui->radioAllButtonNone, ui->radioAllButtonUse, isLock);
-    for (QWidget *group : {ui->groupBoxOnOffLock, ui->groupBoxModeLock, ui->groupBoxDHWOnOff}) {
-        group->setEnabled(!isLock);
-    }
+    enable(!isLock, {ui->labelOnOff, ui->labelOperationMode, ui->labelDHW},
+           {ui->groupBoxOnOffLock, ui->groupBoxModeLock, ui->groupBoxDHWOnOff});
     for (QRadioButton *radio :
          {ui->radioOnOffButtonNone, ui->radioOnOffButtonUse, ui->radioOperationModeButtonNone,
           ui->radioOperationModeButtonUse, ui->radioDhwOnOffNone, ui->radioDhwOnOffUse}) {
         style::apply(radio, setRadioTextOpacity(!isLock));
-    }
-    for (QLabel *label : {ui->labelOnOff, ui->labelOperationMode, ui->labelDHW}) {
-        style::apply(label, setOpacity(!isLock));
     }
 }
 

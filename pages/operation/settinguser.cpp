@@ -200,12 +200,8 @@ QString SettingUser::setOpacity(bool isEnabled) { return style::labelText(isEnab
 
 void SettingUser::enableSummerTime()
 {
-    const bool on = ui->radioSummerTimeUse->isChecked();
-    style::apply(ui->labelStartDay, setOpacity(on));
-    style::apply(ui->labelEndDay, setOpacity(on));
-    for (QComboBox *combo : {ui->comboStartDay, ui->comboStartMonth, ui->comboEndDay, ui->comboEndMonth}) {
-        combo->setEnabled(on);
-    }
+    enable(ui->radioSummerTimeUse->isChecked(), {ui->labelStartDay, ui->labelEndDay},
+           {ui->comboStartDay, ui->comboStartMonth, ui->comboEndDay, ui->comboEndMonth});
 }
 
 void SettingUser::calcDay(QComboBox *Month, QComboBox *Date) { fill(Date, days(Month)); }

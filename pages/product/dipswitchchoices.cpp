@@ -2,14 +2,27 @@
 
 #include "pages/product/dipswitchsettingstatus.h"
 
+#include "document/paths.h"
 #include "pages/style.h"
 #include "rules/seasonaldefaults.h"
 #include "ui_dipswitchsettingstatus.h"
 
+#include <array>
+
+namespace {
+
+constexpr const char *meterAddress = "SettingInfo.installation.meterInterface.interfaceAdd";
+constexpr std::array<const char *, 4> pulsePaths{"SettingInfo.installation.meterInterface.interface1",
+                                                 "SettingInfo.installation.meterInterface.interface2",
+                                                 "SettingInfo.installation.meterInterface.interface3",
+                                                 "SettingInfo.installation.meterInterface.interface4"};
+
+} // namespace
+
 void DipSwitchSettingStatus::saveFlags(std::initializer_list<Flag> flags)
 {
-    for (const auto &[name, value] : flags) {
-        saveJsonData(flagPath(name), QLatin1String(value));
+    for (const auto &[path, value] : flags) {
+        save(path, QLatin1String(value));
     }
 }
 
@@ -20,27 +33,33 @@ void DipSwitchSettingStatus::choose(std::initializer_list<Switch> switches, std:
     validationCheck();
 }
 
+void DipSwitchSettingStatus::choose(const QRadioButton *radio, std::initializer_list<Switch> switches)
+{
+    turn(switches);
+    change(radio);
+}
+
 // Hot water tank and solar kit
 
 void DipSwitchSettingStatus::on_radioDhwNotUse_clicked()
 {
     chooseTank({{ui->DipSwitch22, false}, {ui->DipSwitch23, false}},
-               {{"is_hotwater", "CLR"},
-                {"is_sun", "CLR"},
-                {"is_boosterht_onlyMode", "CLR"},
-                {"is_timer_hotwater", "CLR"}});
+               {{flags::hotWater, "CLR"},
+                {flags::sun, "CLR"},
+                {flags::boosterOnly, "CLR"},
+                {flags::timerHotWater, "CLR"}});
 }
 
 void DipSwitchSettingStatus::on_radioDhwUse_clicked()
 {
     chooseTank({{ui->DipSwitch22, false}, {ui->DipSwitch23, true}},
-               {{"is_hotwater", "SET"}, {"is_boosterht_onlyMode", "CLR"}, {"is_timer_hotwater", "SET"}});
+               {{flags::hotWater, "SET"}, {flags::boosterOnly, "CLR"}, {flags::timerHotWater, "SET"}});
 }
 
 void DipSwitchSettingStatus::on_radioDhwOnly_clicked()
 {
     chooseTank({{ui->DipSwitch22, true}, {ui->DipSwitch23, true}},
-               {{"is_boosterht_onlyMode", "SET"}, {"is_hotwater", "SET"}, {"is_sun", "CLR"}});
+               {{flags::boosterOnly, "SET"}, {flags::hotWater, "SET"}, {flags::sun, "CLR"}});
 }
 
 void DipSwitchSettingStatus::chooseTank(std::initializer_list<Switch> switches,
@@ -58,7 +77,7 @@ void DipSwitchSettingStatus::setPowerHotWater()
 {
     const QString on = QStringLiteral("true");
     const bool dhwOnly = ui->DipSwitch22->text() == on && ui->DipSwitch23->text() == on;
-    saveFlags({{"is_power_hotwater", dhwOnly ? "SET" : "CLR"}});
+    saveFlags({{"IduFuncList.is_power_hotwater", dhwOnly ? "SET" : "CLR"}});
 }
 
 bool DipSwitchSettingStatus::enableSolarThermalKit()
@@ -82,19 +101,19 @@ bool DipSwitchSettingStatus::enableSolarThermalKit()
 
 void DipSwitchSettingStatus::showSolarThermalKit()
 {
-    const bool sun = loadPair("is_sun", ui->radioSolarThermalKitUse, ui->radioSolarThermalKitNotuse);
+    const bool sun = loadPair(ui->radioSolarThermalKitUse, ui->radioSolarThermalKitNotuse);
     turn({{ui->DipSwitch22, sun}, {ui->DipSwitch23, !sun}});
 }
 
 // Oddity 7: they change switches 22 and 23, and leave is_power_hotwater alone all the same.
 void DipSwitchSettingStatus::on_radioSolarThermalKitNotuse_clicked()
 {
-    choose({{ui->DipSwitch22, false}, {ui->DipSwitch23, true}}, {{"is_sun", "CLR"}});
+    choose(ui->radioSolarThermalKitNotuse, {{ui->DipSwitch22, false}, {ui->DipSwitch23, true}});
 }
 
 void DipSwitchSettingStatus::on_radioSolarThermalKitUse_clicked()
 {
-    choose({{ui->DipSwitch22, true}, {ui->DipSwitch23, false}}, {{"is_sun", "SET"}});
+    choose(ui->radioSolarThermalKitUse, {{ui->DipSwitch22, true}, {ui->DipSwitch23, false}});
 }
 
 // Operation mode, flow switch, thermostat, air sensor, anti-freeze
@@ -102,57 +121,64 @@ void DipSwitchSettingStatus::on_radioSolarThermalKitUse_clicked()
 // Oddity 6: is_autoOp and is_heat are set in both modes.
 void DipSwitchSettingStatus::on_radioOperationHeating_clicked()
 {
-    choose({{ui->DipSwitch24, false}},
-           {{"is_autoOp", "SET"}, {"is_heat", "SET"}, {"is_cool", "CLR"}, {"isSeasonalAuto", "CLR"}});
+    choose(
+        {{ui->DipSwitch24, false}},
+        {{flags::autoOp, "SET"}, {flags::heat, "SET"}, {flags::cool, "CLR"}, {flags::seasonalAuto, "CLR"}});
 }
 
 void DipSwitchSettingStatus::on_radioOperationBoth_clicked()
 {
-    choose({{ui->DipSwitch24, true}},
-           {{"is_autoOp", "SET"}, {"is_heat", "SET"}, {"is_cool", "SET"}, {"isSeasonalAuto", "SET"}});
+    choose(
+        {{ui->DipSwitch24, true}},
+        {{flags::autoOp, "SET"}, {flags::heat, "SET"}, {flags::cool, "SET"}, {flags::seasonalAuto, "SET"}});
 }
 
 void DipSwitchSettingStatus::on_radioFlowAlways_clicked()
 {
-    choose({{ui->DipSwitch25, false}}, {{"is_flow_switch", "CLR"}});
+    choose(ui->radioFlowAlways, {{ui->DipSwitch25, false}});
 }
 
 void DipSwitchSettingStatus::on_radioFlowOnlyPump_clicked()
 {
-    choose({{ui->DipSwitch25, true}}, {{"is_flow_switch", "SET"}});
+    choose(ui->radioFlowOnlyPump, {{ui->DipSwitch25, true}});
 }
 
 void DipSwitchSettingStatus::on_radioThermostatNone_clicked()
 {
-    choose({{ui->DipSwitch28, false}}, {{"is_ThermostatModeChange", "CLR"}});
+    choose(ui->radioThermostatNone, {{ui->DipSwitch28, false}});
 }
 
 void DipSwitchSettingStatus::on_radioThermostatUse_clicked()
 {
-    choose({{ui->DipSwitch28, true}}, {{"is_ThermostatModeChange", "SET"}});
+    choose(ui->radioThermostatUse, {{ui->DipSwitch28, true}});
 }
 
-void DipSwitchSettingStatus::on_radioAdditionalAirNotUse_clicked() { chooseAirSensor(false); }
+void DipSwitchSettingStatus::on_radioAdditionalAirNotUse_clicked()
+{
+    chooseAirSensor(ui->radioAdditionalAirNotUse, false);
+}
 
-void DipSwitchSettingStatus::on_radioAdditionalAirUse_clicked() { chooseAirSensor(true); }
+void DipSwitchSettingStatus::on_radioAdditionalAirUse_clicked()
+{
+    chooseAirSensor(ui->radioAdditionalAirUse, true);
+}
 
 // Oddity 5: the sensor's location is "RMC" with and without a remote sensor.
-void DipSwitchSettingStatus::chooseAirSensor(bool used)
+void DipSwitchSettingStatus::chooseAirSensor(const QRadioButton *radio, bool used)
 {
     turn({{ui->DipSwitch31, used}});
-    saveFlags({{"isIduAirTempSW", used ? "SET" : "CLR"}});
-    saveJsonData(installation("sensorDefine.airTempLocation"), QStringLiteral("RMC"));
-    validationCheck();
+    save(radio);
+    change(paths::airTempLocation, QStringLiteral("RMC"));
 }
 
 void DipSwitchSettingStatus::on_radioAntifreezeNotuse_clicked()
 {
-    choose({{ui->DipSwitch32, false}}, {{"isAntiFreeze", "CLR"}});
+    choose(ui->radioAntifreezeNotuse, {{ui->DipSwitch32, false}});
 }
 
 void DipSwitchSettingStatus::on_radioAntifreezeUse_clicked()
 {
-    choose({{ui->DipSwitch32, true}}, {{"isAntiFreeze", "SET"}});
+    choose(ui->radioAntifreezeUse, {{ui->DipSwitch32, true}});
 }
 
 // Electric heater
@@ -166,7 +192,7 @@ void DipSwitchSettingStatus::on_radioElectricHeaterBoth_clicked() { chooseHeater
 
 void DipSwitchSettingStatus::chooseHeater(const char *heater1, const char *heater2)
 {
-    saveFlags({{"is_heater1", heater1}, {"is_heater2", heater2}});
+    saveFlags({{flags::heater1, heater1}, {flags::heater2, heater2}});
     setElectricHeater(QLatin1String(heater1), QLatin1String(heater2));
     initSeasonalAutoRange();
     validationCheck();
@@ -177,24 +203,24 @@ void DipSwitchSettingStatus::setElectricHeater(const QString &isHeater1, const Q
 {
     if (isHeater1.toUpper() == QLatin1String("SET")) {
         turn({{ui->DipSwitch26, true}, {ui->DipSwitch27, false}});
-        saveFlags({{"is_installed_heater", "SET"},
-                   {"is_timer_hotwater", "SET"},
-                   {"is_comm_disinfection", "SET"},
-                   {"isIndoorHotWaterKey", "SET"},
-                   {"is_hotwater_by_disinfection", "SET"}});
+        saveFlags({{flags::installedHeater, "SET"},
+                   {flags::timerHotWater, "SET"},
+                   {flags::commDisinfection, "SET"},
+                   {flags::indoorHotWaterKey, "SET"},
+                   {flags::hotWaterByDisinfection, "SET"}});
     } else if (isHeater2.toUpper() == QLatin1String("SET")) {
         turn({{ui->DipSwitch26, true}, {ui->DipSwitch27, true}});
-        saveFlags({{"is_installed_heater", "SET"},
-                   {"is_comm_disinfection", "SET"},
-                   {"isIndoorHotWaterKey", "SET"},
-                   {"is_hotwater_by_disinfection", "SET"}});
+        saveFlags({{flags::installedHeater, "SET"},
+                   {flags::commDisinfection, "SET"},
+                   {flags::indoorHotWaterKey, "SET"},
+                   {flags::hotWaterByDisinfection, "SET"}});
     } else {
         turn({{ui->DipSwitch26, false}, {ui->DipSwitch27, false}});
-        saveFlags({{"is_installed_heater", "CLR"},
-                   {"is_comm_disinfection", "CLR"},
-                   {"is_boosterht_onlyMode", "CLR"},
-                   {"isIndoorHotWaterKey", "CLR"},
-                   {"is_hotwater_by_disinfection", "CLR"}});
+        saveFlags({{flags::installedHeater, "CLR"},
+                   {flags::commDisinfection, "CLR"},
+                   {flags::boosterOnly, "CLR"},
+                   {flags::indoorHotWaterKey, "CLR"},
+                   {flags::hotWaterByDisinfection, "CLR"}});
     }
 }
 
@@ -209,7 +235,7 @@ void DipSwitchSettingStatus::initSeasonalAutoRange()
 
 void DipSwitchSettingStatus::on_radioOrvometerInterfaceNotuse_clicked()
 {
-    saveJsonData(installation("meterInterface.interfaceAdd"), 0);
+    save(meterAddress, 0);
     enableOrvoMeterSubCategory();
     setOrvoSubCategory();
     validationCheck();
@@ -221,7 +247,7 @@ void DipSwitchSettingStatus::on_radioOrvoAddressB1_clicked() { chooseAddress(0xB
 
 void DipSwitchSettingStatus::chooseAddress(int address)
 {
-    saveJsonData(installation("meterInterface.interfaceAdd"), address);
+    save(meterAddress, address);
     ui->groupBoxMeterInterface->setEnabled(true);
     validationCheck();
 }
@@ -239,7 +265,7 @@ void DipSwitchSettingStatus::enableOrvoMeterSubCategory()
 // An address that no radio stands for leaves the two address radios as they are.
 void DipSwitchSettingStatus::setOrvoSubCategory()
 {
-    const int address = number(installation("meterInterface.interfaceAdd"));
+    const int address = number(meterAddress);
     ui->groupBoxMeterInterface->setEnabled(address != 0);
     if (address == 0) {
         ui->radioOrvometerInterfaceNotuse->setChecked(true);
@@ -251,15 +277,10 @@ void DipSwitchSettingStatus::setOrvoSubCategory()
     } else if (address == 0xB1) {
         ui->radioOrvoAddressB1->setChecked(true);
     }
-    int meter = 1;
+    const char *const *path = pulsePaths.begin();
     for (QLineEdit *edit : pulseEdits()) {
-        edit->setText(QString::number(read(pulsePath(meter++)).toDouble() / 10.0, 'g', 6));
+        edit->setText(QString::number(read(*path++).toDouble() / 10.0, 'g', 6));
     }
-}
-
-QString DipSwitchSettingStatus::pulsePath(int meter)
-{
-    return installation("meterInterface.interface") + QString::number(meter);
 }
 
 void DipSwitchSettingStatus::on_lineEditWHM1_textEdited(const QString &text) { savePulses(1, text); }
@@ -271,40 +292,30 @@ void DipSwitchSettingStatus::on_lineEditWHM3_textEdited(const QString &text) { s
 void DipSwitchSettingStatus::on_lineEditWHM4_textEdited(const QString &text) { savePulses(4, text); }
 
 // Pulses per kWh, in tenths; an emptied field gives 0.
-void DipSwitchSettingStatus::savePulses(int meter, const QString &pulses)
+void DipSwitchSettingStatus::savePulses(std::size_t meter, const QString &pulses)
 {
-    saveJsonData(pulsePath(meter), static_cast<int>(pulses.toDouble() * 10.0));
-    validationCheck();
+    change(pulsePaths.at(meter - 1), static_cast<int>(pulses.toDouble() * 10.0));
 }
 
 // Outdoor unit: function master and silent mode priority
 
 void DipSwitchSettingStatus::on_radioOduMaster_clicked()
 {
-    saveJsonData(installation("OduFunctionMS"), QStringLiteral("MASTER"));
-    offer(ui->groupBoxSilentModePriority, flag("isSilentPriority"));
+    save(ui->radioOduMaster);
+    offerGroup(ui->groupBoxSilentModePriority, isSet(flags::silentPriority));
     validationCheck();
 }
 
-// Oddity 4: it saves "MASTER" as well; "SLAVE" is only ever read.
 void DipSwitchSettingStatus::on_radioOduSlave_clicked()
 {
-    saveJsonData(installation("OduFunctionMS"), QStringLiteral("MASTER"));
+    save(ui->radioOduSlave);
     ui->groupBoxSilentModePriority->hide();
     validationCheck();
 }
 
-void DipSwitchSettingStatus::on_radioSilentODU_clicked()
-{
-    saveJsonData(installation("silentModePriority"), QStringLiteral("oduSwitch"));
-    validationCheck();
-}
+void DipSwitchSettingStatus::on_radioSilentODU_clicked() { change(ui->radioSilentODU); }
 
-void DipSwitchSettingStatus::on_radioSilentRemote_clicked()
-{
-    saveJsonData(installation("silentModePriority"), QStringLiteral("rmcSetting"));
-    validationCheck();
-}
+void DipSwitchSettingStatus::on_radioSilentRemote_clicked() { change(ui->radioSilentRemote); }
 
 void DipSwitchSettingStatus::enableOduFunctionMaster()
 {

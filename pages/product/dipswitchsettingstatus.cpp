@@ -1,6 +1,7 @@
 #include "pages/product/dipswitchsettingstatus.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_dipswitchsettingstatus.h"
 
@@ -14,6 +15,21 @@ DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
     , ui(std::make_unique<Ui::DipSwitchSettingStatus>())
 {
     ui->setupUi(this);
+    // In the order of the check. Three of them several flags tell, which their slots save.
+    choices = {
+        {nullptr, {{ui->radioDhwUse}, {ui->radioDhwOnly}, {ui->radioDhwNotUse}}},
+        {flags::sun, {{ui->radioSolarThermalKitNotuse, "CLR"}, {ui->radioSolarThermalKitUse, "SET"}}},
+        {nullptr, {{ui->radioOperationHeating}, {ui->radioOperationBoth}}},
+        {"IduFuncList.is_flow_switch", {{ui->radioFlowAlways, "CLR"}, {ui->radioFlowOnlyPump, "SET"}}},
+        {flags::iduAirTempSw, {{ui->radioAdditionalAirNotUse, "CLR"}, {ui->radioAdditionalAirUse, "SET"}}},
+        {nullptr,
+         {{ui->radioElectricHeater1}, {ui->radioElectricHeaterBoth}, {ui->radioElectricHeaterNotuse}}},
+        {flags::antiFreeze, {{ui->radioAntifreezeNotuse, "CLR"}, {ui->radioAntifreezeUse, "SET"}}},
+        {"IduFuncList.is_ThermostatModeChange",
+         {{ui->radioThermostatNone, "CLR"}, {ui->radioThermostatUse, "SET"}}},
+        // Oddity 4: the slave saves "MASTER" as well; "SLAVE" is only ever read.
+        {paths::oduFunction, {{ui->radioOduMaster, "MASTER"}, {ui->radioOduSlave, "MASTER"}}},
+        {paths::silentPriority, {{ui->radioSilentODU, "oduSwitch"}, {ui->radioSilentRemote, "rmcSetting"}}}};
     initUi();
 }
 
@@ -109,33 +125,24 @@ QString DipSwitchSettingStatus::setOpacity(bool isEnabled)
     return isEnabled ? QStringLiteral("color : #333333;") : QStringLiteral("color : rgba(33,33,33,30%)");
 }
 
-/// A group that the product doesn't have is neither shown nor enabled.
-void DipSwitchSettingStatus::offer(QWidget *group, bool offered)
-{
-    group->setEnabled(offered);
-    group->setVisible(offered);
-}
-
 // Load
 
 void DipSwitchSettingStatus::loadJsonData()
 {
-    const QString product = word(QStringLiteral("product"));
+    const QString product = word(paths::product);
     loadProduct(product);
     loadHotWater(product == QLatin1String("AQUABOX"));
     if (enableSolarThermalKit()) {
         showSolarThermalKit();
     }
     loadOperationMode();
-    turn({{ui->DipSwitch31,
-           loadPair("isIduAirTempSW", ui->radioAdditionalAirUse, ui->radioAdditionalAirNotUse)}});
+    turn({{ui->DipSwitch31, loadPair(ui->radioAdditionalAirUse, ui->radioAdditionalAirNotUse)}});
     // Oddity 21: switch 25 is left alone: it stays as drawn until a flow radio is clicked.
-    loadPair("is_flow_switch", ui->radioFlowOnlyPump, ui->radioFlowAlways);
+    loadPair(ui->radioFlowOnlyPump, ui->radioFlowAlways);
     loadElectricHeater();
-    turn({{ui->DipSwitch32, loadPair("isAntiFreeze", ui->radioAntifreezeUse, ui->radioAntifreezeNotuse)}});
-    showBankC(!flag("isR410CoolExpand"));
-    turn({{ui->DipSwitch28,
-           loadPair("is_ThermostatModeChange", ui->radioThermostatUse, ui->radioThermostatNone)}});
+    turn({{ui->DipSwitch32, loadPair(ui->radioAntifreezeUse, ui->radioAntifreezeNotuse)}});
+    showBankC(!isSet(flags::r410CoolExpand));
+    turn({{ui->DipSwitch28, loadPair(ui->radioThermostatUse, ui->radioThermostatNone)}});
     enableOrvoMeterSubCategory();
     loadOduFunction(product == QLatin1String("AWHP"));
     enableOduFunctionMaster();
@@ -156,13 +163,13 @@ void DipSwitchSettingStatus::loadProduct(const QString &product)
     style::apply(ui->labelSilentMode, setOpacity(aquabox));
     ui->radioDhwOnly->setVisible(aquabox);
     ui->labelDhwSpacing->setVisible(!aquabox);
-    offer(ui->groupBoxOduFunctionMaster, aquabox);
+    offerGroup(ui->groupBoxOduFunctionMaster, aquabox);
 }
 
 void DipSwitchSettingStatus::loadHotWater(bool aquabox)
 {
-    const bool hotWater = flag("is_hotwater");
-    const bool boosterOnly = flag("is_boosterht_onlyMode");
+    const bool hotWater = isSet(flags::hotWater);
+    const bool boosterOnly = isSet(flags::boosterOnly);
     if (aquabox && boosterOnly) {
         turn({{ui->DipSwitch22, true}, {ui->DipSwitch23, true}});
         ui->radioDhwOnly->setChecked(true);
@@ -174,17 +181,17 @@ void DipSwitchSettingStatus::loadHotWater(bool aquabox)
 
 void DipSwitchSettingStatus::loadOperationMode()
 {
-    const bool heatingOnly = flag("is_autoOp") && flag("is_heat")
-        && word(flagPath("is_cool")) == QLatin1String("CLR");
+    const bool heatingOnly = isSet(flags::autoOp) && isSet(flags::heat)
+        && word(flags::cool) == QLatin1String("CLR");
     const bool both = !heatingOnly;
     (both ? ui->radioOperationBoth : ui->radioOperationHeating)->setChecked(true);
     turn({{ui->DipSwitch24, both}});
 }
 
-/// Checks one of two radios by a flag and returns whether that flag is set.
-bool DipSwitchSettingStatus::loadPair(const char *flagName, QRadioButton *set, QRadioButton *notSet)
+/// Checks one of two radios by their flag and returns whether that flag is set.
+bool DipSwitchSettingStatus::loadPair(QRadioButton *set, QRadioButton *notSet) const
 {
-    const bool isOn = flag(flagName);
+    const bool isOn = isSet(choiceOf(set).path);
     (isOn ? set : notSet)->setChecked(true);
     return isOn;
 }
@@ -192,8 +199,8 @@ bool DipSwitchSettingStatus::loadPair(const char *flagName, QRadioButton *set, Q
 // With both flags set the radio says both steps, and setElectricHeater() follows the first.
 void DipSwitchSettingStatus::loadElectricHeater()
 {
-    const QString heater1 = text(flagPath("is_heater1"));
-    const QString heater2 = text(flagPath("is_heater2"));
+    const QString heater1 = text(flags::heater1);
+    const QString heater2 = text(flags::heater2);
     if (heater2.toUpper() == QLatin1String("SET")) {
         ui->radioElectricHeaterBoth->setChecked(true);
     } else if (heater1.toUpper() == QLatin1String("SET")) {
@@ -215,12 +222,12 @@ void DipSwitchSettingStatus::showBankC(bool shown)
 // Oddity 22: the path ends in a lower-case s, unlike the one that the radios write: no document holds it.
 void DipSwitchSettingStatus::loadOduFunction(bool awhp)
 {
-    const QString function = word(installation("OduFunctionMs"));
-    if (awhp || !flag("isOduFunctionMS")) {
-        offer(ui->groupBoxOduFunctionMaster, false);
+    const QString function = word("SettingInfo.installation.OduFunctionMs");
+    if (awhp || !isSet("IduFuncList.isOduFunctionMS")) {
+        offerGroup(ui->groupBoxOduFunctionMaster, false);
         return;
     }
-    offer(ui->groupBoxOduFunctionMaster, true);
+    offerGroup(ui->groupBoxOduFunctionMaster, true);
     const bool master = function == QLatin1String("MASTER");
     if (master) {
         ui->radioOduMaster->setChecked(true);
@@ -232,12 +239,12 @@ void DipSwitchSettingStatus::loadOduFunction(bool awhp)
 
 void DipSwitchSettingStatus::loadSilentModePriority(bool master)
 {
-    const bool offered = flag("isSilentPriority") && master;
-    offer(ui->groupBoxSilentModePriority, offered);
+    const bool offered = isSet(flags::silentPriority) && master;
+    offerGroup(ui->groupBoxSilentModePriority, offered);
     if (!offered) {
         return;
     }
-    const QString priority = text(installation("silentModePriority"));
+    const QString priority = text(paths::silentPriority);
     if (priority == QLatin1String("oduSwitch")) {
         ui->radioSilentODU->setChecked(true);
     } else if (priority == QLatin1String("rmcSetting")) {
@@ -249,30 +256,10 @@ void DipSwitchSettingStatus::loadSilentModePriority(bool master)
 
 void DipSwitchSettingStatus::validationCheck()
 {
-    struct Radios {
-        const QRadioButton *first;
-        const QRadioButton *second;
-        const QRadioButton *third;
-    };
-    const std::vector<Radios> radios{
-        {ui->radioDhwUse, ui->radioDhwOnly, ui->radioDhwNotUse},
-        {ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse, nullptr},
-        {ui->radioOperationHeating, ui->radioOperationBoth, nullptr},
-        {ui->radioFlowAlways, ui->radioFlowOnlyPump, nullptr},
-        {ui->radioAdditionalAirNotUse, ui->radioAdditionalAirUse, nullptr},
-        {ui->radioElectricHeater1, ui->radioElectricHeaterBoth, ui->radioElectricHeaterNotuse},
-        {ui->radioAntifreezeNotuse, ui->radioAntifreezeUse, nullptr},
-        {ui->radioThermostatNone, ui->radioThermostatUse, nullptr},
-        {ui->radioOduMaster, ui->radioOduSlave, nullptr},
-        {ui->radioSilentODU, ui->radioSilentRemote, nullptr}};
     const std::vector<QLineEdit *> edits = pulseEdits();
-    const bool valid = std::all_of(radios.begin(), radios.end(),
-                                   [](const Radios &each) {
-                                       return mainDialog->checkValidationRadio(each.first, each.second,
-                                                                               each.third);
-                                   })
-        && std::all_of(edits.begin(), edits.end(),
-                       [](const QLineEdit *edit) { return mainDialog->checkValidationLineEdit(edit); });
+    const bool valid = choicesMade() && std::all_of(edits.begin(), edits.end(), [](const QLineEdit *edit) {
+                           return mainDialog->checkValidationLineEdit(edit);
+                       });
     mainDialog->setStepCompleted(valid, 2);
 }
 

@@ -2,6 +2,7 @@
 
 #include "pages/page.h"
 
+#include <cstddef>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -92,23 +93,22 @@ private:
     using Flag = std::pair<const char *, const char *>;
 
     void placeColumns();
-    static void offer(QWidget *group, bool offered);
     void turn(std::initializer_list<Switch> switches);
     void saveFlags(std::initializer_list<Flag> flags);
     void choose(std::initializer_list<Switch> switches, std::initializer_list<Flag> flags);
+    void choose(const QRadioButton *radio, std::initializer_list<Switch> switches);
     void chooseTank(std::initializer_list<Switch> switches, std::initializer_list<Flag> flags);
     void chooseHeater(const char *heater1, const char *heater2);
     void chooseAddress(int address);
-    void chooseAirSensor(bool used);
-    void savePulses(int meter, const QString &pulses);
+    void chooseAirSensor(const QRadioButton *radio, bool used);
+    void savePulses(std::size_t meter, const QString &pulses);
     std::vector<QLineEdit *> pulseEdits() const;
-    static QString pulsePath(int meter);
 
     void loadProduct(const QString &product);
     void loadHotWater(bool aquabox);
     void showSolarThermalKit();
     void loadOperationMode();
-    bool loadPair(const char *flagName, QRadioButton *set, QRadioButton *notSet);
+    bool loadPair(QRadioButton *set, QRadioButton *notSet) const;
     void loadElectricHeater();
     void showBankC(bool shown);
     void loadOduFunction(bool awhp);
