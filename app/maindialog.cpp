@@ -50,6 +50,7 @@ MainDialog *mainDialog = nullptr;
 MainDialog::MainDialog(QWidget *parent)
     // As a dialog by its type it would belong to another window, and task bars would leave it out.
     : QDialog(parent, Qt::Window)
+    , ValueLists(state.units)
     , ui(std::make_unique<Ui::MainDialog>())
 {
     // FrameLess sets it too. With children there already, that would style each of them once more.

@@ -14,7 +14,9 @@ class MainDialog;
 
 /// The one window: the wizard with its pages, the settings document, the language in force and the value
 /// lists. Pages reach it, and through it each other, by the global pointer `mainDialog`.
-class MainDialog : public QDialog
+class MainDialog
+    : public QDialog
+    , public ValueLists
 {
     Q_OBJECT
 
@@ -48,39 +50,13 @@ public:
     int celsiusToFahrenheit(int celsius) const { return state.units.celsiusToFahrenheit(celsius); }
     int fahrenheitToCelsius(int fahrenheit) const { return state.units.fahrenheitToCelsius(fahrenheit); }
     int celsius(int shown) const { return state.units.celsius(shown); }
-    int textWithoutTwoChars(const QString &text) const { return Units::numberBefore(text, 2); }
-    int textWithoutOneChar(const QString &text) const { return Units::numberBefore(text, 1); }
 
-    // Value lists and shared checks (document/valuelists.h)
-    void setRangeValueInComboBox(QComboBox *comboBox, int lower, int upper, int unit, int step)
-    {
-        valuelists::setRange(comboBox, state.units, lower, upper, unit, step);
-    }
-    void setComboByValue(QComboBox *comboBox, int value, int unit)
-    {
-        valuelists::selectValue(comboBox, state.units, value, unit);
-    }
+    // Value lists and shared checks, besides those of ValueLists
     /// Selects the item that shows the text of a language key, else item 0. Signals stay live.
     void setComboByKey(QComboBox *comboBox, const QString &key)
     {
-        valuelists::selectText(comboBox, key.isEmpty() ? key : languageTextOrKey(key));
+        selectText(comboBox, key.isEmpty() ? key : languageTextOrKey(key));
     }
-    void setComboItems(QComboBox *comboBox, const QStringList &items, int index)
-    {
-        valuelists::setItems(comboBox, items, index);
-    }
-    /// As setComboItems, but -1 selects item 0.
-    void refillComboItems(QComboBox *comboBox, const QStringList &items, int index)
-    {
-        valuelists::setItems(comboBox, items, index == -1 ? 0 : index);
-    }
-    bool checkValidationComboBox(const QComboBox *comboBox) const { return valuelists::isChosen(comboBox); }
-    bool checkValidationRadio(const QRadioButton *first, const QRadioButton *second,
-                              const QRadioButton *third) const
-    {
-        return valuelists::isChosen(first, second, third);
-    }
-    bool checkValidationLineEdit(const QLineEdit *lineEdit) const { return valuelists::isFilled(lineEdit); }
 
     // Languages (languages/language.h, languages/languages.h)
     QString languageValue(const QString &key) const { return state.languages.inForce.value(key); }

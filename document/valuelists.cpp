@@ -1,15 +1,11 @@
 #include "document/valuelists.h"
 
-#include "document/units.h"
-
 #include <QComboBox>
 #include <QDebug>
 #include <QLineEdit>
 #include <QRadioButton>
 
 #include <algorithm>
-
-namespace valuelists {
 
 namespace {
 
@@ -26,7 +22,12 @@ bool holds(const QComboBox &comboBox, const QStringList &items)
 
 } // namespace
 
-void setItems(QComboBox *comboBox, const QStringList &items, int index)
+ValueLists::ValueLists(const Units &inForce)
+    : units(inForce)
+{
+}
+
+void ValueLists::setComboItems(QComboBox *comboBox, const QStringList &items, int index)
 {
     comboBox->blockSignals(true);
     if (holds(*comboBox, items)) {
@@ -41,17 +42,22 @@ void setItems(QComboBox *comboBox, const QStringList &items, int index)
     comboBox->blockSignals(false);
 }
 
-void setRange(QComboBox *comboBox, const Units &units, int lower, int upper, int unit, int step)
+void ValueLists::refillComboItems(QComboBox *comboBox, const QStringList &items, int index)
+{
+    setComboItems(comboBox, items, index == -1 ? 0 : index);
+}
+
+void ValueLists::setRangeValueInComboBox(QComboBox *comboBox, int lower, int upper, int unit, int step) const
 {
     if (lower > upper) {
         qWarning() << "MainDialog::setRangeValueInComboBox ComboBox:" << comboBox->objectName()
                    << "lower:" << lower << " > upper:" << upper;
         return;
     }
-    setItems(comboBox, units.items(lower, upper, unit, step), -1);
+    setComboItems(comboBox, units.items(lower, upper, unit, step), -1);
 }
 
-void selectValue(QComboBox *comboBox, const Units &units, int value, int unit)
+void ValueLists::setComboByValue(QComboBox *comboBox, int value, int unit) const
 {
     comboBox->blockSignals(true);
     const QString text = units.item(value, unit);
@@ -68,13 +74,13 @@ void selectValue(QComboBox *comboBox, const Units &units, int value, int unit)
     comboBox->blockSignals(false);
 }
 
-void selectText(QComboBox *comboBox, const QString &text)
+void ValueLists::selectText(QComboBox *comboBox, const QString &text)
 {
     const int index = text.isEmpty() ? 0 : comboBox->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
     comboBox->setCurrentIndex(qMax(index, 0));
 }
 
-bool isChosen(const QComboBox *comboBox)
+bool ValueLists::checkValidationComboBox(const QComboBox *comboBox)
 {
     if (!comboBox->isVisible() || !comboBox->isEnabled() || comboBox->currentIndex() != 0) {
         return true;
@@ -84,7 +90,8 @@ bool isChosen(const QComboBox *comboBox)
     return false;
 }
 
-bool isChosen(const QRadioButton *first, const QRadioButton *second, const QRadioButton *third)
+bool ValueLists::checkValidationRadio(const QRadioButton *first, const QRadioButton *second,
+                                      const QRadioButton *third)
 {
     if (!first->isVisible() || !second->isVisible()) {
         return true;
@@ -101,9 +108,7 @@ bool isChosen(const QRadioButton *first, const QRadioButton *second, const QRadi
     return false;
 }
 
-bool isFilled(const QLineEdit *lineEdit)
+bool ValueLists::checkValidationLineEdit(const QLineEdit *lineEdit)
 {
     return !lineEdit->isVisible() || !lineEdit->isEnabled() || !lineEdit->text().isEmpty();
 }
-
-} // namespace valuelists

@@ -21,8 +21,16 @@ struct Results {
     /// What Save requires.
     bool stepsDone() const { return productDone && dipSwitchDone && settingDone; }
     /// For a new document. The sections keep their results until they are shown again.
-    void clear();
-    void joinSections();
+    void clear()
+    {
+        productDone = dipSwitchDone = settingDone = false;
+        functionValid = userValid = serviceValid = installationValid = false;
+    }
+    void joinSections()
+    {
+        installationValid = systemSectionValid && autoSectionValid && coolSectionValid && dwhSectionValid
+            && heatSectionValid;
+    }
     /// The Service tab takes no part in the step.
     void joinTabs() { settingDone = functionValid && installationValid && userValid; }
 };
