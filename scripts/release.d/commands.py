@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Holds the commands that the documents tell of against commands.tsv, where each is run or has the reason why it isn't.
+"""Holds the commands that the documents show, and the scripts that they name, against commands.tsv, where each is run or has
+the reason why it isn't.
 
 Usage: commands.py [--list]. With --list it prints, in the order of the table, each command that is run and how."""
 import re
@@ -16,13 +17,14 @@ INLINE = re.compile(r"`(scripts/(?![\w-]+\.d/)[^`/]+)`")
 
 
 def told():
-    """Each command, and the documents that tell it."""
+    """Each command, the document that tells it, and whether it stands on a line of its own."""
     commands = {}
     for path in DOCUMENTS:
         text = path.read_text(encoding="utf-8")
-        lines = [re.sub(r"\s+#.*", "", match) for match in LINE.findall(text)]
-        for command in lines + INLINE.findall(text):
-            commands.setdefault(" ".join(command.split()), path.relative_to(ROOT))
+        for command in INLINE.findall(text):
+            commands.setdefault(" ".join(command.split()), (path.relative_to(ROOT), False))
+        for line in LINE.findall(text):
+            commands[" ".join(re.sub(r"\s+#.*", "", line).split())] = (path.relative_to(ROOT), True)
     return commands
 
 
@@ -40,9 +42,10 @@ def main():
         return
     commands = told()
     listed = {row[0] for row in rows}
-    # A script that is only named is covered by any row of it.
-    covered = listed | {command.split()[0] for command in listed}
-    findings = [f"{path}: {command!r} isn't in {TABLE.name}" for command, path in commands.items() if command not in covered]
+    # A script that a sentence names is covered by any row of it.
+    scripts = {command.split()[0] for command in listed}
+    findings = [f"{path}: {command!r} isn't in {TABLE.name}" for command, (path, shown) in commands.items()
+                if command not in listed and (shown or command.split()[0] not in scripts)]
     findings += [f"{TABLE.name}: {command!r} is told nowhere" for command in listed - commands.keys()]
     findings += [f"{TABLE.name}: {row!r} is no row" for row in rows if len(row) != 3 or row[1] not in ("run", "not") or not row[2]]
     for finding in findings:
