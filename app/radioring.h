@@ -2,8 +2,6 @@
 
 #include <QFocusFrame>
 
-class QRadioButton;
-
 /// The ring around the radio that keys have reached. It lies outside the radio, whose picture fills its left
 /// end.
 class RadioRing : public QFocusFrame

@@ -27,12 +27,10 @@ JsonList::JsonList(QObject *window)
 bool JsonList::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {
-        QObject *child = static_cast<QChildEvent *>(event)->child();
-        if (auto *dialog = qobject_cast<QFileDialog *>(child)) {
+        if (auto *dialog = qobject_cast<QFileDialog *>(static_cast<QChildEvent *>(event)->child())) {
             dialog->setStyleSheet(plainLook());
             dialog->installEventFilter(this);
-        } else if (auto *question = qobject_cast<QMessageBox *>(child)) {
-            question->setTextFormat(Qt::PlainText); // it names a file
+            new PlainQuestions(dialog);
         }
     } else if (event->type() == QEvent::Show && watched != parent()) {
         if (auto *files = watched->findChild<QFileSystemModel *>()) {
@@ -44,7 +42,11 @@ bool JsonList::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-PlainQuestions::PlainQuestions() { QCoreApplication::instance()->installEventFilter(this); }
+PlainQuestions::PlainQuestions(QObject *parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 bool PlainQuestions::eventFilter(QObject *watched, QEvent *event)
 {

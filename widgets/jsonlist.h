@@ -15,12 +15,11 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
-/// As long as it lives, questions name files letter for letter: also those of a file dialog without a window
-/// above it.
+/// As long as it lives, questions name files letter for letter.
 class PlainQuestions : public QObject
 {
 public:
-    PlainQuestions();
+    explicit PlainQuestions(QObject *parent = nullptr);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 };

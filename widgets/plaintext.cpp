@@ -101,6 +101,15 @@ void PlainLabel::paintEvent(QPaintEvent *event)
 
 void PlainRadioButton::setText(const QString &text) { plaintext::setText(this, text); }
 
+template <class Button>
+QStyleOptionButton PlainButton<Button>::shownOption() const
+{
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    option.text = forStyle(this->text());
+    return option;
+}
+
 // As Qt measures a radio button, and below a push button.
 QSize PlainRadioButton::sizeHint() const
 {
@@ -108,9 +117,7 @@ QSize PlainRadioButton::sizeHint() const
         return QRadioButton::sizeHint();
     }
     ensurePolished();
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text = forStyle(text());
+    const QStyleOptionButton option = shownOption();
     const QRect room = style()->itemTextRect(fontMetrics(), QRect(), Qt::TextShowMnemonic, false,
                                              option.text);
     return style()->sizeFromContents(QStyle::CT_RadioButton, &option, room.size(), this);
@@ -118,19 +125,13 @@ QSize PlainRadioButton::sizeHint() const
 
 void PlainRadioButton::paintEvent(QPaintEvent *)
 {
-    QStylePainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text = forStyle(text());
-    painter.drawControl(QStyle::CE_RadioButton, option);
+    QStylePainter(this).drawControl(QStyle::CE_RadioButton, shownOption());
 }
 
 // QRadioButton would measure the text as it stands.
 bool PlainRadioButton::hitButton(const QPoint &position) const
 {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text = forStyle(text());
+    const QStyleOptionButton option = shownOption();
     return style()->subElementRect(QStyle::SE_RadioButtonClickRect, &option, this).contains(position);
 }
 
@@ -142,20 +143,14 @@ QSize PlainPushButton::sizeHint() const
         return QPushButton::sizeHint();
     }
     ensurePolished();
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text = forStyle(text());
+    const QStyleOptionButton option = shownOption();
     const QSize room = fontMetrics().size(Qt::TextShowMnemonic, option.text);
     return style()->sizeFromContents(QStyle::CT_PushButton, &option, room, this);
 }
 
 void PlainPushButton::paintEvent(QPaintEvent *)
 {
-    QStylePainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text = forStyle(text());
-    painter.drawControl(QStyle::CE_PushButton, option);
+    QStylePainter(this).drawControl(QStyle::CE_PushButton, shownOption());
 }
 
 namespace plaintext {

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOptionButton>
 
 // What is read from files is shown letter for letter: "<" makes no markup, and "&" neither vanishes nor makes
 // a shortcut. What is longer than any screen is shown as far as plaintext::shown() goes, since drawing it
@@ -30,10 +31,22 @@ private:
     QSize sizeForWidth(int width) const;
 };
 
-class PlainRadioButton : public QRadioButton
+/// What the buttons below share.
+template <class Button>
+class PlainButton : public Button
 {
 public:
-    using QRadioButton::QRadioButton;
+    using Button::Button;
+
+protected:
+    /// How a style is to draw and measure the button.
+    QStyleOptionButton shownOption() const;
+};
+
+class PlainRadioButton : public PlainButton<QRadioButton>
+{
+public:
+    using PlainButton::PlainButton;
 
     void setText(const QString &text);
     QSize sizeHint() const override;
@@ -43,10 +56,10 @@ protected:
     bool hitButton(const QPoint &position) const override;
 };
 
-class PlainPushButton : public QPushButton
+class PlainPushButton : public PlainButton<QPushButton>
 {
 public:
-    using QPushButton::QPushButton;
+    using PlainButton::PlainButton;
 
     void setText(const QString &text);
     QSize sizeHint() const override;
