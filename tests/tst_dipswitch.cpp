@@ -17,11 +17,7 @@ private slots:
     }
     void cleanupTestCase() { close(); }
 
-    void startsWithFormTexts_data();
-    void startsWithFormTexts();
     void startsOffAndUnchecked();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void languageKeepsChoicesAndDocument();
     void styleTexts();
     void showsTheBoardOfTheRefrigerant();
@@ -36,68 +32,6 @@ private slots:
     void functionMasterThatIsNotOfferedPasses();
     void readsAndWritesByPath();
 };
-
-void TestDipSwitch::startsWithFormTexts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelDWH") << "Domestic Hot Water\nTank";
-    QTest::newRow("radioDhwNotUse") << "Not use";
-    QTest::newRow("radioDhwUse") << "Use";
-    QTest::newRow("radioDhwOnly") << "DHW Only";
-    QTest::newRow("labelSolar") << "Solar Thermal Kit";
-    QTest::newRow("radioSolarThermalKitNotuse") << "Not use";
-    QTest::newRow("radioSolarThermalKitUse") << "Use";
-    QTest::newRow("labelOperation") << "Operation Mode";
-    QTest::newRow("radioOperationHeating") << "Heating Only";
-    QTest::newRow("radioOperationBoth") << "Heating And Cooling";
-    QTest::newRow("labelFlowSwitch") << "Flow Switch Detection";
-    QTest::newRow("radioFlowAlways") << "Always";
-    QTest::newRow("radioFlowOnlyPump") << "On Status Only";
-    QTest::newRow("labelElectric") << "Electric Heater";
-    QTest::newRow("radioElectricHeaterNotuse") << "Not use";
-    QTest::newRow("radioElectricHeater1") << "Step1";
-    QTest::newRow("radioElectricHeaterBoth") << "Step2";
-    QTest::newRow("labelThermostat") << "3rd Party Thermostat";
-    QTest::newRow("radioThermostatNone") << "Not use";
-    QTest::newRow("radioThermostatUse") << "Use";
-    QTest::newRow("labelOrvometerInterface") << "Orvo Meter Interface";
-    QTest::newRow("radioOrvometerInterfaceNotuse") << "Not use";
-    QTest::newRow("labelOrvoAddress") << "Address";
-    QTest::newRow("radioOrvoAddressB0") << "B0";
-    QTest::newRow("radioOrvoAddressB1") << "B1";
-    QTest::newRow("labelOrvoWHM1") << "Pulse Spec.(WHM1) :";
-    QTest::newRow("labelOrvoWHM2") << "Pulse Spec.(WHM2) :";
-    QTest::newRow("labelOrvoWHM3") << "Pulse Spec.(WHM3) :";
-    QTest::newRow("labelOrvoWHM4") << "Pulse Spec.(Heat Meter) :";
-    QTest::newRow("labelPulsekW1") << "pulse / kWh";
-    QTest::newRow("labelPulsekW2") << "pulse / kWh";
-    QTest::newRow("labelPulsekW3") << "pulse / kWh";
-    QTest::newRow("labelPulsekW4") << "pulse / kWh";
-    QTest::newRow("labelODUFunctionMaster") << "ODU Function Master";
-    QTest::newRow("radioOduMaster") << "Master";
-    QTest::newRow("radioOduSlave") << "Slave";
-    QTest::newRow("labelSilentMode") << "Silent Mode Priority";
-    QTest::newRow("radioSilentODU") << "ODU";
-    QTest::newRow("radioSilentRemote") << "Remote Controller";
-    QTest::newRow("labelAdditionalAir") << "Remote Air Temperature Sensor";
-    QTest::newRow("radioAdditionalAirNotUse") << "Not use";
-    QTest::newRow("radioAdditionalAirUse") << "Use";
-    QTest::newRow("labelAtifreeze") << "Anti-freezing \nSolution";
-    QTest::newRow("radioAntifreezeNotuse") << "Not use";
-    QTest::newRow("radioAntifreezeUse") << "Use";
-    QTest::newRow("labelDhwSpacing") << "";
-    QTest::newRow("labelDWHGuide") << "Dip switch guide";
-    QTest::newRow("labelSW2") << "A : 8 Pin Switch (SW2)";
-    QTest::newRow("labelSW1") << "B : 4 Pin Switch (SW1)";
-    QTest::newRow("labelSW3") << "C : 4 Pin Switch (SW3)";
-}
-
-void TestDipSwitch::startsWithFormTexts()
-{
-    QFETCH(QString, text);
-    const DipSwitchSettingStatus fresh;
-    QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
-}
 
 void TestDipSwitch::startsOffAndUnchecked()
 {
@@ -118,59 +52,6 @@ void TestDipSwitch::startsOffAndUnchecked()
         QVERIFY(Window::find(&fresh, name)->styleSheet().contains("rgb(214, 214, 214)"));
     }
 }
-
-void TestDipSwitch::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelDWH") << "Domestic hot water\ntank";
-    QTest::newRow("radioDhwNotUse") << "Not use";
-    QTest::newRow("radioDhwUse") << "Use";
-    QTest::newRow("radioDhwOnly") << "DHW only";
-    QTest::newRow("labelSolar") << "Solar thermal kit";
-    QTest::newRow("radioSolarThermalKitNotuse") << "Not use";
-    QTest::newRow("radioSolarThermalKitUse") << "Use";
-    QTest::newRow("labelOperation") << "Operation mode";
-    QTest::newRow("radioOperationHeating") << "Heating only";
-    QTest::newRow("radioOperationBoth") << "Heating and Cooling";
-    QTest::newRow("labelFlowSwitch") << "Flow switch detection";
-    QTest::newRow("radioFlowAlways") << "Always";
-    QTest::newRow("radioFlowOnlyPump") << "While water pump is on";
-    QTest::newRow("labelElectric") << "Back-up heater";
-    QTest::newRow("radioElectricHeaterNotuse") << "Disable";
-    QTest::newRow("radioElectricHeater1") << "Enable step 1";
-    QTest::newRow("radioElectricHeaterBoth") << "Enable step 1 and 2";
-    QTest::newRow("labelThermostat") << "Thermostat";
-    QTest::newRow("radioThermostatNone") << "Not use";
-    QTest::newRow("radioThermostatUse") << "Use";
-    QTest::newRow("labelOrvometerInterface") << "Meter interface";
-    QTest::newRow("labelOrvoAddress") << "Modbus address";
-    QTest::newRow("radioOrvometerInterfaceNotuse") << "Not use";
-    QTest::newRow("radioOrvoAddressB0") << "B0";
-    QTest::newRow("radioOrvoAddressB1") << "B1";
-    QTest::newRow("labelOrvoWHM1") << "Pulse spec.(WHM1)";
-    QTest::newRow("labelOrvoWHM2") << "Pulse spec.(WHM2)";
-    QTest::newRow("labelOrvoWHM3") << "Pulse spec.(WHM3)";
-    QTest::newRow("labelOrvoWHM4") << "Pulse spec.(Heat meter)";
-    QTest::newRow("labelPulsekW1") << "Pulse / kWh";
-    QTest::newRow("labelPulsekW2") << "Pulse / kWh";
-    QTest::newRow("labelPulsekW3") << "Pulse / kWh";
-    QTest::newRow("labelPulsekW4") << "Pulse / kWh";
-    QTest::newRow("labelODUFunctionMaster") << "ODU function master";
-    QTest::newRow("radioOduMaster") << "Master";
-    QTest::newRow("radioOduSlave") << "Slave";
-    QTest::newRow("labelSilentMode") << "Silent mode priority";
-    QTest::newRow("radioSilentODU") << "ODU";
-    QTest::newRow("radioSilentRemote") << "Remote controller";
-    QTest::newRow("labelAdditionalAir") << "Remote air\ntemperature sensor";
-    QTest::newRow("radioAdditionalAirNotUse") << "Not use";
-    QTest::newRow("radioAdditionalAirUse") << "Use";
-    QTest::newRow("labelAtifreeze") << "Anti-freezing function";
-    QTest::newRow("radioAntifreezeNotuse") << "Not use";
-    QTest::newRow("radioAntifreezeUse") << "Use";
-    QTest::newRow("labelDWHGuide") << "Dip switch guide";
-}
-
-void TestDipSwitch::textsFollowTheLanguage() { window->followsTheLanguage(page); }
 
 void TestDipSwitch::languageKeepsChoicesAndDocument()
 {

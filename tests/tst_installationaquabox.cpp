@@ -45,8 +45,6 @@ private slots:
     void initTestCase() { renew(); }
     void cleanupTestCase() { section.reset(); }
 
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void languageKeepsPositions();
     void listsAndTheirDefaults();
     void writes_data();
@@ -117,30 +115,6 @@ private:
     /// What the section has emitted.
     QStringList order;
 };
-
-void TestInstallationAquabox::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelModeStandby") << "Standby mode";
-    QTest::newRow("radioStandbyNotuse") << "Not use";
-    QTest::newRow("radioStandbyUse") << "ODU cycle priority";
-    QTest::newRow("labelHsMode") << "HS model";
-    QTest::newRow("radioHsmodeNotuse") << "Not use";
-    QTest::newRow("radioHsmodeUse") << "Use";
-    QTest::newRow("labelCombination") << "Cooling / Heating only mode";
-    QTest::newRow("radioCombinationNotuse") << "Not use";
-    QTest::newRow("radioCombinationUse") << "Use";
-    QTest::newRow("labelOilrecovery") << "Oil recovery";
-    QTest::newRow("radioOpt1") << "Type0";
-    QTest::newRow("radioOpt2") << "Type1";
-    QTest::newRow("labelNightTime") << "Night-time power";
-    QTest::newRow("labelWaterFlow") << "Pump frequency(LPM)";
-    QTest::newRow("labelRefrigerant") << "Refrigerant leak sensor";
-    QTest::newRow("radioRefrigerantNotuse") << "Not use";
-    QTest::newRow("radioRefrigerantUse") << "Use";
-}
-
-void TestInstallationAquabox::textsFollowTheLanguage() { section->window.followsTheLanguage(module); }
 
 void TestInstallationAquabox::languageKeepsPositions()
 {

@@ -33,8 +33,6 @@ private slots:
     }
     void cleanupTestCase() { section.reset(); }
 
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void languageKeepsPositions();
     void lists_data();
     void lists();
@@ -72,45 +70,6 @@ private:
     InstallationSystemAWHP *awhp = nullptr;
     const QString full = QStringLiteral("color : #555555;");
 };
-
-void TestInstallationAwhpValues::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelSecondCircuit") << "Mixed circuit";
-    QTest::newRow("radio2ndNotuse") << "Not use";
-    QTest::newRow("radio2ndUse") << "Use";
-    QTest::newRow("label2ndValve") << "Valve closing time";
-    QTest::newRow("label2ndHysterisis") << "Hysteresis";
-    QTest::newRow("labelSmartGrid") << "Smart grid(SG)";
-    QTest::newRow("radioSgNotuse") << "Not use";
-    QTest::newRow("radioSgUse") << "Use";
-    QTest::newRow("labelSmartgridStep") << "Mode";
-    QTest::newRow("labelHeaterPriority") << "Heater enable for DHW";
-    QTest::newRow("radioHeaterPriorityNotuse") << "Backup and DHW boost";
-    QTest::newRow("radioHeaterPriorityUse") << "DHW boost only";
-    QTest::newRow("labelHeaterOnTemp") << "Enable backup heater\ntemp.";
-    QTest::newRow("labelWaterTankHeater") << "Use DHW boost heater";
-    QTest::newRow("radioWaterTankHeaterNotuse") << "Not use";
-    QTest::newRow("radioWaterTankHeaterUse") << "Use";
-    QTest::newRow("radioWaterTankHeaterMode") << "Use disinfection only";
-    QTest::newRow("labelWaterTankPriority") << "Priority";
-    QTest::newRow("labelWaterTankTime") << "Delay time";
-    QTest::newRow("labelAntiFreeze") << "Anti-freeze temp.\nadaption";
-    QTest::newRow("labelPumpControl") << "Pump pre-run / over-run";
-    QTest::newRow("labelPreRun") << "Pre-run";
-    QTest::newRow("labelOverRun") << "Over-run";
-    QTest::newRow("labelExternalPump") << "Use external pump";
-    QTest::newRow("radioExternalPumpNotuse") << "Not use";
-    QTest::newRow("radioExternalPumpUse") << "Use";
-    QTest::newRow("labelThirdParty") << "3rd party boiler";
-    QTest::newRow("radio3rdNotUse") << "Not use";
-    QTest::newRow("radio3rdUse") << "Use";
-    QTest::newRow("label3rdMode") << "Mode";
-    QTest::newRow("label3rdTemp") << "Temperature";
-    QTest::newRow("label3rdHysterisis") << "Hysteresis";
-}
-
-void TestInstallationAwhpValues::textsFollowTheLanguage() { section->window.followsTheLanguage(awhp); }
 
 void TestInstallationAwhpValues::languageKeepsPositions()
 {

@@ -31,8 +31,6 @@ private slots:
     void cleanupTestCase() { driver.reset(); }
 
     void startsClosedWithoutDocument();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void writes_data();
     void writes();
     void fahrenheit();
@@ -54,18 +52,6 @@ void TestInstallationCool::startsClosedWithoutDocument()
     QVERIFY(!Window::shownItself(driver->page, "frame"));
     QCOMPARE(driver->items("comboForcerWater"), range(16, 25, "°C"));
 }
-
-void TestInstallationCool::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelForcedStop") << "Cooling water\ncut-off temp.";
-    QTest::newRow("labelFanCoil") << "Fan coil unit";
-    QTest::newRow("radioFanCoilNotuse") << "Not use";
-    QTest::newRow("radioFanCoilUse") << "Use";
-    QTest::newRow("labelForcedWater") << "Water temp.";
-}
-
-void TestInstallationCool::textsFollowTheLanguage() { driver->window.followsTheLanguage(driver->page); }
 
 void TestInstallationCool::writes_data()
 {

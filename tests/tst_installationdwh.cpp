@@ -22,8 +22,6 @@ private slots:
 
     void startsClosed();
     void opensAndCloses();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void languageKeepsPositions();
     void showsStoredValues_data();
     void showsStoredValues();
@@ -91,35 +89,6 @@ void TestInstallationDwh::opensAndCloses()
     QVERIFY(!Window::visible(section->page, "frame"));
     QCOMPARE(button->icon().pixmap(24).toImage(), arrow("open"));
 }
-
-void TestInstallationDwh::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelTitle") << "Domestic hot water tank heating";
-    QTest::newRow("labelHotWaterTargetTempRange") << "DHW temp. range";
-    QTest::newRow("labelHotWaterMin") << "Min";
-    QTest::newRow("labelHotWaterMax") << "Max";
-    QTest::newRow("labelTankWaterTemperature") << "DHW temp. setting";
-    QTest::newRow("labelMinimumTankWaterTemp") << "DHW thermo on temp.";
-    QTest::newRow("labelMaximumInletWaterTemp") << "Compressor\nlimitation temp.";
-    QTest::newRow("labelTankHeatingHysterisis") << "Hysteresis boost heater";
-    QTest::newRow("labelUnderFloorHeatingPriority") << "Heating priority";
-    QTest::newRow("radioUnderFloorNotUse") << "DHW";
-    QTest::newRow("radioUnderFloorUse") << "Room";
-    QTest::newRow("labelHeatingOperationTimer") << "DHW time setting";
-    QTest::newRow("labelHeatingDurationTime") << "Active time";
-    QTest::newRow("labelStopDurationTime") << "Stop time";
-    QTest::newRow("labelTHOnOffCriteria") << "Hysteresis (TH on/off)";
-    QTest::newRow("labelDisinfection") << "Disinfection";
-    QTest::newRow("radioDisinfectionNotUse") << "Not use";
-    QTest::newRow("radioDisinfectionUse") << "Use";
-    QTest::newRow("labelSchedule") << "Schedule";
-    QTest::newRow("labelMaximumTemp") << "Maximum temp.";
-    QTest::newRow("labelMaxTempDuration") << "Holding time";
-    QTest::newRow("labelCutOffDuration") << "Forced end time";
-}
-
-void TestInstallationDwh::textsFollowTheLanguage() { section->window.followsTheLanguage(section->page); }
 
 void TestInstallationDwh::languageKeepsPositions()
 {

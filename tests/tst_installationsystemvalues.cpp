@@ -29,8 +29,6 @@ private slots:
     void initTestCase() { renew(); }
     void cleanupTestCase() { section.reset(); }
 
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void listsOfTheDefaultDocument_data();
     void listsOfTheDefaultDocument();
     void listsFollowFlags();
@@ -62,41 +60,6 @@ private:
 
     std::unique_ptr<SystemSection> section;
 };
-
-void TestInstallationSystemValues::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelSystemSetting") << "System setting";
-    QTest::newRow("labelTempSensor") << "Select temperature\nsensor";
-    QTest::newRow("labelSensingTemp") << "Control method";
-    QTest::newRow("labelAirTemp") << "Air temp. sensor location";
-    QTest::newRow("labelDryContactMode") << "Dry contact mode";
-    QTest::newRow("radioDryManual") << "Manual";
-    QTest::newRow("radioDryAuto") << "Auto";
-    QTest::newRow("labelCCAddress") << "Central control\naddress";
-    QTest::newRow("labelScreedDry") << "Screed drying";
-    QTest::newRow("labelScreedStep") << "Start step";
-    QTest::newRow("labelScreedMaxTemp") << "Max temp.";
-    QTest::newRow("labelScreedHolding") << "Step 8 holding time";
-    QTest::newRow("labelModbusAddress") << "Modbus address";
-    QTest::newRow("labelWaterPumpDuty") << "Pump frequency\nsetting(RPM)";
-    QTest::newRow("labelWaterPump") << "Pump frequency\nsetting(RPM)";
-    QTest::newRow("labelEnforced") << "Pump anti-lock function";
-    QTest::newRow("radioEnforcedNotuse") << "Not use";
-    QTest::newRow("radioEnforcedUse") << "Use";
-    QTest::newRow("labelOperationPeriod") << "Operation cycle";
-    QTest::newRow("labelOperationTime") << "Operation time";
-    QTest::newRow("labelDryContact") << "Dry contact installation\n(CN_CC)";
-    QTest::newRow("labelCnExt") << "Programmable\ndigital input(CN_EXT)";
-    // The product sections follow with it.
-    QTest::newRow("labelSmartGrid") << "Smart grid(SG)";
-    QTest::newRow("labelHsMode") << "HS model";
-}
-
-void TestInstallationSystemValues::textsFollowTheLanguage()
-{
-    section->window.followsTheLanguage(section->page);
-}
 
 void TestInstallationSystemValues::listsOfTheDefaultDocument_data()
 {

@@ -66,8 +66,6 @@ private slots:
     void startsClosedWithoutDocument();
     void headerOpensAndCloses_data() { addSides(); }
     void headerOpensAndCloses();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void constantIsNamedByCircuits_data() { addSides(); }
     void constantIsNamedByCircuits();
     void languageKeepsPositions_data() { addSides(); }
@@ -150,41 +148,6 @@ void TestInstallationWater::headerOpensAndCloses()
     QVERIFY(!Window::shownItself(driver->page, "frame"));
     QCOMPARE(picture(), named("btn_header_arrow_open.png"));
 }
-
-void TestInstallationWater::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("cool labelTitle") << "Cooling mode";
-    QTest::newRow("heat labelTitle") << "Heating mode";
-    for (const Side &each : sides()) {
-        const auto row = [&each](const char *widget, const char *text) {
-            QTest::addRow("%s %s", each.name, widget) << QString::fromUtf8(text);
-        };
-        row("labelControlBasisTemp", "Temp. control method");
-        row("labelTempRange", "Temp. limitation\n(Constant mode)");
-        row("labelTempIndoor", "Indoor air temp.");
-        row("labelTemperatureIndoorMin", "Min");
-        row("labelTemperatureIndoorMax", "Max");
-        row("labelTempWater", "Water temp.");
-        row("labelTemperatureWaterMin", "Min");
-        row("labelTemperatureWaterMax", "Max");
-        row("labelTemperatureControl", "Auto/Constant control");
-        row("labelControlType", "Mode");
-        row("radioControlTypeAuto", "Auto");
-        row("radioControlTypeManual", "Constant");
-        row("labelControlMainZoneTemp", "Constant water temp.\n(Circuit 1)");
-        row("labelTHOnOff", "Hysteresis (TH on/off)");
-        row("labelTHIndoor", "Indoor air temp.");
-        row("labelTHWater", "Water temp.");
-        row("labelWaterPump", "Water pump cycling");
-        row("radioWaterPumpNotuse", "Continuous operation");
-        row("radioWaterPumpUse", "Time setting");
-        row("labelOpeartionOn", "ON time");
-        row("labelOpeartionOff", "OFF time");
-    }
-}
-
-void TestInstallationWater::textsFollowTheLanguage() { driver->window.followsTheLanguage(driver->page); }
 
 // Showing and refreshing the section set the captions too.
 void TestInstallationWater::constantIsNamedByCircuits()

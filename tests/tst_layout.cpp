@@ -187,7 +187,7 @@ void TestLayout::controlsStandInOneColumn()
 // On the Installation tab, also those below a heading or below another row.
 void TestLayout::rowsBeginWithBullets_data()
 {
-    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("atLeast");
     QTest::newRow("InstallationSystemAWHP") << 18;
     QTest::newRow("InstallationSystemAquabox") << 7;
     // With those of both products.
@@ -208,7 +208,8 @@ void TestLayout::rowsBeginWithBullets()
     });
     QVERIFY(section != widgets.end());
     const QList<QGroupBox *> rows = rowsOf(*section);
-    QTEST(rows.size(), "rows");
+    QFETCH(int, atLeast);
+    QVERIFY(rows.size() >= atLeast);
     for (const QGroupBox *row : rows) {
         const QByteArray name = row->objectName().toUtf8();
         QVERIFY2(roleAt(row, 0) == "bullet", name);

@@ -25,8 +25,6 @@ private slots:
 
     void showsAwhpAloneOnNew();
     void startsWithFormTexts();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void languageKeepsChoicesAndDocument();
     void fontsAreThoseOfThePage();
     void indicatorsStandBehindAMargin_data();
@@ -105,22 +103,6 @@ void TestProductSelection::startsWithFormTexts()
     QVERIFY(!Window::shownItself(&fresh, "label_img_awhp"));
     QVERIFY(!Window::shownItself(&fresh, "label_img_aquabox"));
 }
-
-void TestProductSelection::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelProductType") << "Product type";
-    QTest::newRow("radioButtonAwhp") << "Calora";
-    QTest::newRow("radioButtonAquabox") << "Aquabox";
-    QTest::newRow("labelProductSpec") << "Product spec";
-    QTest::newRow("radioButtonMiddleTemp") << "Medium temperature";
-    QTest::newRow("radioButtonHighTemp") << "High temperature";
-    QTest::newRow("labelRefregerantType") << "Refrigerant type";
-    QTest::newRow("radioButtonR410") << "R410A";
-    QTest::newRow("radioButtonR32") << "R32";
-}
-
-void TestProductSelection::textsFollowTheLanguage() { window->followsTheLanguage(page); }
 
 void TestProductSelection::languageKeepsChoicesAndDocument()
 {

@@ -26,10 +26,6 @@ private slots:
     void cleanupTestCase() { window.reset(); }
 
     void passesAtStartUntilNew();
-    void startsWithTheTextsOfTheForm_data();
-    void startsWithTheTextsOfTheForm();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void listsHoldFixedItems_data();
     void listsHoldFixedItems();
     void languageChangeKeepsTheSelection();
@@ -84,65 +80,6 @@ void TestSettingFunction::passesAtStartUntilNew()
     QVERIFY(!valid());
     QVERIFY(Window::shownItself(&window->dialog, "functionValidationIcon"));
 }
-
-void TestSettingFunction::startsWithTheTextsOfTheForm_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelSilentMode") << "Silent Mode";
-    QTest::newRow("radioSlientModeNotuse") << "Not use";
-    QTest::newRow("radioSlientModeUse") << "Use";
-    QTest::newRow("labelStratTime") << "Silent Mode Start Time";
-    QTest::newRow("labelEndTime") << "Silent Mode End Time";
-    QTest::newRow("labelLock") << "Lock";
-    QTest::newRow("labelAll") << "All Button Lock";
-    QTest::newRow("radioAllButtonNone") << "Not use";
-    QTest::newRow("radioAllButtonUse") << "Use";
-    QTest::newRow("labelOnOff") << "On/Off Button Lock";
-    QTest::newRow("radioOnOffButtonNone") << "Not use";
-    QTest::newRow("radioOnOffButtonUse") << "Use";
-    QTest::newRow("labelOperationMode") << "Operation Mode Button\nLock";
-    QTest::newRow("radioOperationModeButtonNone") << "Not use";
-    QTest::newRow("radioOperationModeButtonUse") << "Use";
-    QTest::newRow("labelDHW") << "DHW On/Off Button\nLock";
-    QTest::newRow("radioDhwOnOffNone") << "Not use";
-    QTest::newRow("radioDhwOnOffUse") << "Use";
-    QTest::newRow("labelODEFunction") << "ODU Function";
-    QTest::newRow("labelDSR") << "Defrost/Snow Removal";
-}
-
-void TestSettingFunction::startsWithTheTextsOfTheForm()
-{
-    QFETCH(QString, text);
-    const SettingFunction fresh;
-    QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
-}
-
-void TestSettingFunction::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelSilentMode") << "Silent mode";
-    QTest::newRow("radioSlientModeNotuse") << "Off";
-    QTest::newRow("radioSlientModeUse") << "On";
-    QTest::newRow("labelStratTime") << "Start time";
-    QTest::newRow("labelEndTime") << "End time";
-    QTest::newRow("labelLock") << "RMC button lock";
-    QTest::newRow("labelAll") << "All lock";
-    QTest::newRow("radioAllButtonNone") << "Release";
-    QTest::newRow("radioAllButtonUse") << "Lock";
-    QTest::newRow("labelOnOff") << "On/Off lock";
-    QTest::newRow("radioOnOffButtonNone") << "Release";
-    QTest::newRow("radioOnOffButtonUse") << "Lock";
-    QTest::newRow("labelOperationMode") << "Operation mode lock";
-    QTest::newRow("radioOperationModeButtonNone") << "Release";
-    QTest::newRow("radioOperationModeButtonUse") << "Lock";
-    QTest::newRow("labelDHW") << "DHW lock";
-    QTest::newRow("radioDhwOnOffNone") << "Release";
-    QTest::newRow("radioDhwOnOffUse") << "Lock";
-    QTest::newRow("labelODEFunction") << "ODU function";
-    QTest::newRow("labelDSR") << "Defrost mode";
-}
-
-void TestSettingFunction::textsFollowTheLanguage() { window->followsTheLanguage(page); }
 
 void TestSettingFunction::listsHoldFixedItems_data()
 {

@@ -16,8 +16,6 @@ private slots:
     void init();
     void cleanup() { window.reset(); }
 
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void takesNoPartInTheLanguageSignal();
     void startsWithTheTextsOfTheForm();
     void newDocumentShowsDashes();
@@ -61,26 +59,6 @@ void TestSettingService::show(const QVariantMap &values)
 {
     window->use(documents::with(documents::standard("R410"), values));
     window->showPage(MainDialog::SettingPage, MainDialog::ServiceTab);
-}
-
-void TestSettingService::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelServiceContract") << "Service contact";
-    QTest::newRow("labelOfficeName") << "Company name";
-    QTest::newRow("labelInstallerName") << "Installer name";
-    QTest::newRow("labelTel") << "Telephone number";
-    QTest::newRow("labelTelephoneSubString") << "(Up to 15 digits. combination of numbers and hyphen)";
-}
-
-void TestSettingService::textsFollowTheLanguage()
-{
-    QFETCH(QString, text);
-    const auto *label = Window::find<QLabel>(page, QTest::currentDataTag());
-    QCOMPARE(label->text(), text);
-    show({});
-    QCOMPARE(window->changes([this] { window->speak("~"); }), QVariantMap());
-    QCOMPARE(label->text(), text + "~");
 }
 
 // The dialog calls the page along with its own texts instead.

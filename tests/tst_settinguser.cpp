@@ -15,10 +15,6 @@ private slots:
 
     void writesNothingBeforeItIsShown();
     void firstShowingLoads();
-    void startsWithTheTextsOfTheForm_data();
-    void startsWithTheTextsOfTheForm();
-    void textsFollowTheLanguage_data();
-    void textsFollowTheLanguage();
     void listsAtConstruction_data();
     void listsAtConstruction();
     void languageChangeKeepsPositions();
@@ -69,55 +65,6 @@ void TestSettingUser::firstShowingLoads()
     QCOMPARE(combo("comboDateMonth")->currentIndex(), 0);
     QVERIFY(!Window::enabled(page, "comboDateDay"));
 }
-
-void TestSettingUser::startsWithTheTextsOfTheForm_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelTempUnit") << "Temperature Unit";
-    QTest::newRow("radioCelicious") << "Celsius";
-    QTest::newRow("radioFahreheit") << "Fahrenheit";
-    QTest::newRow("labelRemoteController") << "Remote Controller\nBacklight Control";
-    QTest::newRow("labelScreenSaverTimer") << "Screen Saver Timer";
-    QTest::newRow("labelBrightness") << "Brightness";
-    QTest::newRow("labelDate") << "Date";
-    QTest::newRow("labelSummerTime") << "Summer Time";
-    QTest::newRow("radioSummerTimeNotuse") << "Not Use";
-    QTest::newRow("radioSummerTimeUse") << "Use";
-    QTest::newRow("labelStartDay") << "Start Day";
-    QTest::newRow("labelEndDay") << "End Day";
-    QTest::newRow("labelRemoteTheme") << "Remote Controller\nDisplay Theme";
-    QTest::newRow("radioWhite") << "White";
-    QTest::newRow("radioBlack") << "Black";
-}
-
-void TestSettingUser::startsWithTheTextsOfTheForm()
-{
-    QFETCH(QString, text);
-    const SettingUser fresh;
-    QCOMPARE(Window::find(&fresh, QTest::currentDataTag())->property("text").toString(), text);
-}
-
-void TestSettingUser::textsFollowTheLanguage_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("labelTempUnit") << "Temperature unit";
-    QTest::newRow("radioCelicious") << "Celsius";
-    QTest::newRow("radioFahreheit") << "Fahrenheit";
-    QTest::newRow("labelRemoteController") << "LCD brightness\nin standby mode";
-    QTest::newRow("labelScreenSaverTimer") << "Screen saver timer";
-    QTest::newRow("labelBrightness") << "Brightness";
-    QTest::newRow("labelDate") << "Date";
-    QTest::newRow("labelSummerTime") << "Summer time";
-    QTest::newRow("radioSummerTimeNotuse") << "Off";
-    QTest::newRow("radioSummerTimeUse") << "On";
-    QTest::newRow("labelStartDay") << "Start date";
-    QTest::newRow("labelEndDay") << "End date";
-    QTest::newRow("labelRemoteTheme") << "Display theme";
-    QTest::newRow("radioWhite") << "White";
-    QTest::newRow("radioBlack") << "Black";
-}
-
-void TestSettingUser::textsFollowTheLanguage() { window->followsTheLanguage(page); }
 
 void TestSettingUser::listsAtConstruction_data()
 {

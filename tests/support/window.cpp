@@ -42,18 +42,6 @@ void Window::speak(const std::function<QString(const QString &)> &translate)
     dialog.changeLanguage();
 }
 
-void Window::followsTheLanguage(const QWidget *page)
-{
-    QFETCH(QString, text);
-    const QByteArray name = QByteArray(QTest::currentDataTag()).split(' ').last();
-    const QWidget *widget = find(page, name.constData());
-    QCOMPARE(widget->property("text").toString(), text);
-    speak(QStringLiteral("~"));
-    const QString marked = widget->property("text").toString();
-    speak();
-    QCOMPARE(marked, QString(text + QLatin1Char('~')));
-}
-
 void Window::showPage(int step, int tab)
 {
     auto *steps = find<QStackedWidget>(&dialog, "stackedWidget");

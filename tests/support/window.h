@@ -61,10 +61,6 @@ public:
     /// Puts a language in force whose every text is what `translate` makes of the English one.
     void speak(const std::function<QString(const QString &)> &translate);
 
-    /// For a data row whose name ends with a widget of the page and that has the column "text": the widget
-    /// shows that text, and another one in another language. English is in force again then.
-    void followsTheLanguage(const QWidget *page);
-
     /// Shows a page anew, so that its show event loads it: the step's index, and the tab's for the Setting
     /// step.
     void showPage(int step, int tab = -1);
