@@ -57,6 +57,8 @@ int main(int argc, char *argv[])
         const std::vector<bench::Row> more = measure(window);
         rows.insert(rows.end(), more.begin(), more.end());
     }
+    const std::vector<bench::Row> ofCommandLine = bench::commandLineRows();
+    rows.insert(rows.end(), ofCommandLine.begin(), ofCommandLine.end());
     bench::print(rows, markdown ? bench::Form::Markdown : bench::Form::Plain);
     return 0;
 }

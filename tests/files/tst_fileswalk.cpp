@@ -59,23 +59,28 @@ private slots:
 
 void TestFilesWalk::savedDocumentsHaveNoErrors()
 {
-    const program::Folder folder;
-    QStringList files;
-    for (quint32 seed = firstSeed; files.size() < documentCount(); ++seed) {
+    int checked = 0;
+    int warned = 0;
+    for (quint32 seed = firstSeed; checked < documentCount(); ++seed) {
+        const program::Folder folder;
+        QStringList files;
         Walker walker(seed, Walker::Opens::Whole);
-        for (int taken = 0; taken < documentsOfAWalk && files.size() < documentCount(); ++taken) {
+        while (files.size() < qMin(documentsOfAWalk, documentCount() - checked)) {
             for (int step = 0; step < stepsBetween || walker.document().isEmpty(); ++step) {
                 walker.step();
             }
             files.append(folder.put(name(files.size()), walker.document()));
         }
+        const auto verdicts = program::check(files);
+        QCOMPARE(verdicts.size(), files.size());
+        for (auto verdict = verdicts.begin(); verdict != verdicts.end(); ++verdict) {
+            const QJsonArray findings = verdict->value(QLatin1String("findings")).toArray();
+            QVERIFY2(errors(*verdict).isEmpty(), QJsonDocument(findings).toJson().constData());
+            warned += findings.isEmpty() ? 0 : 1;
+        }
+        checked += files.size();
     }
-    const auto verdicts = program::check(files);
-    QCOMPARE(verdicts.size(), files.size());
-    for (auto verdict = verdicts.begin(); verdict != verdicts.end(); ++verdict) {
-        const QJsonArray findings = verdict->value(QLatin1String("findings")).toArray();
-        QVERIFY2(errors(*verdict).isEmpty(), QJsonDocument(findings).toJson().constData());
-    }
+    std::printf("%d documents without errors, %d with warnings\n", checked, warned);
 }
 
 void TestFilesWalk::checkAndWizardAgree()
