@@ -41,7 +41,7 @@ foreach(plugin platforms/QXcbIntegration platforms/QOffscreenIntegration imagefo
 endforeach()
 install(CODE "
     set(licences_script \"${CMAKE_SOURCE_DIR}/packaging/licences.py;${linux}/licences.txt\")
-    set(debian_files \"${font_files};${debian_files}\")
+    set(debian_files \"${font_files};${debian_files};valijson, compiled into calora-files=${VALIJSON_HEADERS}/valijson/validator.hpp\")
 " COMPONENT portable)
 install(SCRIPT cmake/BundleLibraries.cmake COMPONENT portable)
 

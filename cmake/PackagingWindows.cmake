@@ -15,6 +15,7 @@ set(licensed
     "Qt Core, Gui and Widgets with their plugins, linked in=/usr/share/doc/libqt5core5a/copyright"
     "libstdc++.a, libgcc.a and libssp.a, linked in=${cxx_library}"
     "libwinpthread.a and the start-up code, linked in=${threads_library}"
+    "valijson, compiled into calora-files=${VALIJSON_HEADERS}/valijson/validator.hpp"
     ${font_files})
 install(CODE "
     set(licensed \"${licensed}\")
