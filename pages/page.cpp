@@ -91,10 +91,10 @@ bool Page::checkStored(const QRadioButton *radio) const
 void Page::loadChoice(const QRadioButton *radio) const
 {
     if (!checkStored(radio)) {
-        std::vector<QRadioButton *> radios;
-        for (const Option &option : choiceOf(radio).options) {
-            radios.push_back(option.radio);
-        }
+        const std::vector<Option> &options = choiceOf(radio).options;
+        std::vector<QRadioButton *> radios(options.size());
+        std::transform(options.begin(), options.end(), radios.begin(),
+                       [](const Option &option) { return option.radio; });
         uncheck(radios);
     }
 }
@@ -120,6 +120,7 @@ bool Page::choicesMade() const
 void Page::loadLists(const std::vector<ValueRow> &rows)
 {
     std::vector<QJsonValue> stored;
+    stored.reserve(rows.size());
     for (const ValueRow &row : rows) {
         stored.push_back(read(row.path));
     }

@@ -6,11 +6,9 @@
 #include <QComboBox>
 #include <QRadioButton>
 
-#include <utility>
-
-WaterSection::WaterSection(WaterRules sectionRules, QWidget *parent)
+WaterSection::WaterSection(const WaterRules &sectionRules, QWidget *parent)
     : Section(parent)
-    , rules(std::move(sectionRules))
+    , rules(sectionRules)
 {
 }
 

@@ -33,7 +33,7 @@ struct WaterRules {
 class WaterSection : public Section
 {
 public:
-    explicit WaterSection(WaterRules rules, QWidget *parent = nullptr);
+    explicit WaterSection(const WaterRules &rules, QWidget *parent = nullptr);
 
 protected:
     /// Tells the auto mode section, whose lists follow the water basis and the limits.
