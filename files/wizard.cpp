@@ -151,7 +151,7 @@ void Wizard::reset()
 {
     for (auto list = firstLists.begin(); list != firstLists.end(); ++list) {
         if (list.key()->count() != list->items.size() || list.key()->itemText(0) != list->items.value(0)) {
-            dialog->setComboItems(list.key(), list->items, -1);
+            MainDialog::setComboItems(list.key(), list->items, -1);
         }
         const QSignalBlocker silent(list.key());
         list.key()->setCurrentIndex(list->index);
@@ -259,7 +259,7 @@ void Wizard::judgeList(const Control &control, const QJsonObject &document, Find
         findings->push_back({Severity::Warning, path, value,
                              QStringLiteral("isn't offered with the other values of the file: %1")
                                  .arg(offer(*control.list))});
-    } else if (text.isEmpty() && !dialog->checkValidationComboBox(control.list)) {
+    } else if (text.isEmpty() && !MainDialog::checkValidationComboBox(control.list)) {
         findings->push_back(
             {Severity::Warning, path, value, QStringLiteral("isn't chosen yet, which the page asks for")});
     }

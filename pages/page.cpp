@@ -112,7 +112,7 @@ bool Page::choicesMade() const
 {
     return std::all_of(choices.begin(), choices.end(), [](const Choice &choice) {
         const std::vector<Option> &options = choice.options;
-        return mainDialog->checkValidationRadio(options.at(0).radio, options.at(1).radio,
+        return MainDialog::checkValidationRadio(options.at(0).radio, options.at(1).radio,
                                                 options.size() > 2 ? options.at(2).radio : nullptr);
     });
 }
@@ -199,9 +199,9 @@ QJsonValue Page::shownValue(Shown shown, const QString &item)
     case Shown::Number:
         return item.toInt();
     case Shown::Temperature:
-        return celsius(mainDialog->textWithoutTwoChars(item));
+        return celsius(MainDialog::textWithoutTwoChars(item));
     case Shown::Kelvin:
-        return celsius(mainDialog->textWithoutOneChar(item));
+        return celsius(MainDialog::textWithoutOneChar(item));
     case Shown::Key:
         return mainDialog->languageKeyOrText(item);
     }
@@ -238,11 +238,11 @@ void Page::uncheck(const std::vector<QRadioButton *> &radios)
     }
 }
 
-void Page::fill(QComboBox *list, const QStringList &items) { mainDialog->setComboItems(list, items, -1); }
+void Page::fill(QComboBox *list, const QStringList &items) { MainDialog::setComboItems(list, items, -1); }
 
 void Page::refill(QComboBox *list, const QStringList &items)
 {
-    mainDialog->refillComboItems(list, items, list->currentIndex());
+    MainDialog::refillComboItems(list, items, list->currentIndex());
 }
 
 void Page::offer(QComboBox *list, Range range)

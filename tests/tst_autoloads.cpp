@@ -256,7 +256,7 @@ void TestAutoLoads::listsAreFilledInOrder()
     QStringList filled;
     QObject scope;
     for (QComboBox *combo : section->page->findChildren<QComboBox *>()) {
-        section->window.dialog.setComboItems(combo, {"another list"}, 0);
+        MainDialog::setComboItems(combo, {"another list"}, 0);
         connect(combo->model(), &QAbstractItemModel::rowsInserted, &scope,
                 [&filled, combo] { filled.append(combo->objectName()); });
     }

@@ -160,7 +160,7 @@ void TestOrder::sectionIsShown()
     }
     for (const char *name : {"comboTemperatureIndoorMin", "comboTankWaterMin"}) {
         if (auto *combo = page->findChild<QComboBox *>(name)) {
-            window->dialog.setComboItems(combo, {"another list"}, 0);
+            MainDialog::setComboItems(combo, {"another list"}, 0);
             watch(combo->model(), &QAbstractItemModel::rowsInserted, "lists");
         }
     }

@@ -25,7 +25,7 @@ QComboBox *InstallationaAuto::box(int modelName) const
 
 int InstallationaAuto::current(int modelName) const
 {
-    return celsius(mainDialog->textWithoutTwoChars(box(modelName)->currentText()));
+    return celsius(MainDialog::textWithoutTwoChars(box(modelName)->currentText()));
 }
 
 // Oddity 34: compared as it stands, unlike where it decides what is shown.
@@ -87,7 +87,7 @@ void InstallationaAuto::refreshTempRange(int type)
 {
     const autoengine::Group group = autoengine::group(type);
     for (int modelName = group.first; modelName <= group.last; ++modelName) {
-        valueChanged(modelName, mainDialog->textWithoutTwoChars(box(modelName)->currentText()), false);
+        valueChanged(modelName, MainDialog::textWithoutTwoChars(box(modelName)->currentText()), false);
     }
 }
 
@@ -96,7 +96,7 @@ void InstallationaAuto::choose(int modelName, const QString &text)
 {
     const autoengine::Row *row = autoengine::row(modelName);
     const bool leads = row->mainZone != autoengine::none && mainZoneOff();
-    const int shown = mainDialog->textWithoutTwoChars(text);
+    const int shown = MainDialog::textWithoutTwoChars(text);
     valueChanged(modelName, shown, true);
     saveJsonData(autoengine::path(*row), celsius(shown));
     if (leads) {

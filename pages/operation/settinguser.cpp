@@ -214,7 +214,7 @@ void SettingUser::validationCheck()
                                                ui->comboStartMonth, ui->comboDateDay,   ui->comboEndDay,
                                                ui->comboStartDay};
     const bool valid = choicesMade() && std::all_of(dates.begin(), dates.end(), [](const QComboBox *date) {
-                           return mainDialog->checkValidationComboBox(date);
+                           return MainDialog::checkValidationComboBox(date);
                        });
     if (valid) {
         qDebug() << "SettingUser::SettingUser validation succeed!";

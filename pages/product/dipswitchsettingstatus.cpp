@@ -258,7 +258,7 @@ void DipSwitchSettingStatus::validationCheck()
 {
     const std::vector<QLineEdit *> edits = pulseEdits();
     const bool valid = choicesMade() && std::all_of(edits.begin(), edits.end(), [](const QLineEdit *edit) {
-                           return mainDialog->checkValidationLineEdit(edit);
+                           return MainDialog::checkValidationLineEdit(edit);
                        });
     mainDialog->setStepCompleted(valid, 2);
 }
