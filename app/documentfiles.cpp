@@ -20,7 +20,14 @@ void MainDialog::startNewDocument()
     ui->productSelectionButton->setEnabled(true);
     ui->stackedWidget->setCurrentIndex(ProductPage);
     ui->productSelection->newJsonData();
+    forgetShownPages();
     setSideBarVisible(true);
+}
+
+void MainDialog::forgetShownPages()
+{
+    ui->stackedWidget->forgetShownPages();
+    ui->settingStackedWidget->forgetShownPages();
 }
 
 bool MainDialog::openNewJsonFile(const QString &refrigerant)
@@ -28,6 +35,7 @@ bool MainDialog::openNewJsonFile(const QString &refrigerant)
     if (!state.settings.startWith(refrigerant)) {
         return false;
     }
+    forgetShownPages();
     ui->pathLabel->showPath(refrigerant.toUpper());
     setTempUnit(state.settings.value(QStringLiteral("SettingInfo.user.tempUnit.tempConversion")).toString());
     return true;
@@ -41,6 +49,7 @@ bool MainDialog::openJsonFile()
     if (selectedFile.isEmpty() || !state.settings.open(selectedFile)) {
         return false;
     }
+    forgetShownPages();
     ui->pathLabel->showPath(selectedFile);
     ui->productSelectionButton->setEnabled(false);
     setStepCompleted(true, 1);

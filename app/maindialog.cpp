@@ -1,5 +1,6 @@
 #include "app/maindialog.h"
 
+#include "app/accessible.h"
 #include "app/frameless.h"
 #include "app/radiogroups.h"
 #include "app/radioring.h"
@@ -53,6 +54,7 @@ MainDialog::MainDialog(QWidget *parent)
     , ValueLists(state.units)
     , ui(std::make_unique<Ui::MainDialog>())
 {
+    accessible::install();
     // FrameLess sets it too. With children there already, that would style each of them once more.
     setWindowFlag(Qt::FramelessWindowHint);
     ui->setupUi(this);

@@ -155,6 +155,7 @@ private:
     void joinTabs();
     void closeLanguageMenu();
     void prepareHidden();
+    void forgetShownPages();
 
     std::unique_ptr<Ui::MainDialog> ui;
     DialogState state;

@@ -6,6 +6,26 @@ PageStack::PageStack(QWidget *parent)
     // Without a page yet: Qt styles the children of a widget along with it, and those that come later when
     // they are shown.
     ensurePolished();
+    connect(this, &PageStack::currentChanged, this, &PageStack::noteShownPage);
+}
+
+void PageStack::forgetShownPages()
+{
+    shownPages.clear();
+    noteShownPage();
+}
+
+void PageStack::showEvent(QShowEvent *event)
+{
+    QStackedWidget::showEvent(event);
+    noteShownPage();
+}
+
+void PageStack::noteShownPage()
+{
+    if (isVisible() && !shownPages.contains(currentIndex())) {
+        shownPages.append(currentIndex());
+    }
 }
 
 void PageStack::preparePages(int first)
