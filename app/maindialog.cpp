@@ -17,6 +17,7 @@
 #include "ui_maindialog.h"
 #include "widgets/jsonlist.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
@@ -99,8 +100,22 @@ void MainDialog::initUi()
     }
     ui->sideGroupBox->hide();
     ui->newButton->setFocus(); // not the first button of the title bar
+    addShortcut(Qt::CTRL + Qt::Key_N, ui->newButton);
+    addShortcut(Qt::CTRL + Qt::Key_O, ui->openButton);
+    addShortcut(Qt::CTRL + Qt::Key_S, ui->saveButton);
     ui->labelVersion->setText(QStringLiteral("Orvo Heating Configurator SW ver. 1.0 / RMC SW ver. 3.03.1b"));
     initLanguages();
+}
+
+/// Does what a click on the button does, once for each press of the keys, whatever the button's text.
+void MainDialog::addShortcut(const QKeySequence &keys, QPushButton *button)
+{
+    auto *action = new QAction(this);
+    action->setShortcut(keys);
+    action->setAutoRepeat(false);
+    connect(action, &QAction::triggered, this, &MainDialog::closeLanguageMenu);
+    connect(action, &QAction::triggered, button, &QPushButton::click);
+    addAction(action);
 }
 
 // The pages connect to the language signal in the order in which they stand here; it is the order they are

@@ -8,6 +8,8 @@
 #include <memory>
 
 class FrameLess;
+class QKeySequence;
+class QPushButton;
 namespace Ui {
 class MainDialog;
 }
@@ -156,6 +158,7 @@ private:
     void closeLanguageMenu();
     void prepareHidden();
     void forgetShownPages();
+    void addShortcut(const QKeySequence &keys, QPushButton *button);
 
     std::unique_ptr<Ui::MainDialog> ui;
     DialogState state;
