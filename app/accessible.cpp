@@ -331,3 +331,15 @@ QAccessibleInterface *make(const QString &className, QObject *object)
 } // namespace
 
 void accessible::install() { QAccessible::installFactory(make); }
+
+void accessible::languageChanged(const QWidget *window)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    const auto parts = window->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        QAccessibleEvent event(part, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+}

@@ -1,5 +1,6 @@
 // What the window does about languages: its own texts, the order in which the pages follow, the popup.
 
+#include "app/accessible.h"
 #include "app/frameless.h"
 #include "app/maindialog.h"
 #include "languages/languagebox.h"
@@ -47,6 +48,7 @@ void MainDialog::changeLanguage()
     ui->serviceWidget->changeLanguage();
     ui->validation->changeLanguage();
     emit changeInstallationLanguage();
+    accessible::languageChanged(this);
 }
 
 // The popup that is replaced stays a hidden child of the dialog.

@@ -14,6 +14,7 @@ import time
 from pathlib import Path
 
 import pyatspi
+from gi.repository import GLib
 
 # English names for which no language has a text; all else that is spoken comes from the language in force.
 WITHOUT_KEY = {
@@ -26,6 +27,7 @@ WITHOUT_KEY = {
 }
 SPEAKING = {"push button", "radio button", "check box", "combo box", "text", "page tab", "label", "image", "list",
             "list item"}
+RENAMED = {"combo box", "page tab", "panel", "push button"}
 # Without a form or a text of their own: Qt's parts of a scroll area, reached by no key.
 MUTE = {"scroll bar"}
 DEADLINE = 20
@@ -273,7 +275,20 @@ def speak(tool, texts, language):
     has("popup", tree, "combo box", texts["Language"], ["expanded"])
     rows = [node.name for node in tree.find("list", texts["Language"]).children]
     expect({"English", "Deutsch"} <= set(rows), f"popup: its rows are {rows}")
+    renamed = set()
+
+    def listen(event):
+        renamed.add(event.source.getRoleName())
+
+    # A screen reader keeps the names that it has read.
+    pyatspi.Registry.registerEventListener(listen, "object:property-change:accessible-name")
     tree.find("list item", language).press()
+    end = time.monotonic() + DEADLINE
+    while not RENAMED <= renamed and time.monotonic() < end:
+        GLib.MainContext.default().iteration(False)
+        time.sleep(0.01)
+    pyatspi.Registry.deregisterEventListener(listen, "object:property-change:accessible-name")
+    expect(RENAMED <= renamed, f"popup: the new language is told of {sorted(renamed)} only")
 
 
 def main():
