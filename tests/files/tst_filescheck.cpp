@@ -38,6 +38,8 @@ private slots:
     void aCompleteFileIsCalledSo();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
+    void circuitsKeepTheirOrder_data();
+    void circuitsKeepTheirOrder();
     void takesWhatTheSchemaTakes();
     void refusesWhatTheSchemaRefuses();
     void tellsWhereAFileIsNoJson_data();
@@ -152,6 +154,47 @@ void TestFilesCheck::tellsWhatIsWrong()
     const program::Outcome outcome = program::run({QStringLiteral("check"), file});
     QCOMPARE(outcome.code, finding.startsWith(QLatin1String("error")) ? 1 : 0);
     QVERIFY2(outcome.out.contains(words), qPrintable(outcome.out));
+}
+
+void TestFilesCheck::circuitsKeepTheirOrder_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<int>("main");
+    QTest::addColumn<int>("other");
+    QTest::addColumn<bool>("good");
+
+    // Circuit 1, the main zone, is the cooler one in heating and the warmer one in cooling.
+    QTest::newRow("heating, circuit 1 below") << "waterCtrBasisAirHeat" << 35 << 45 << true;
+    QTest::newRow("heating, both alike") << "waterCtrBasisAirHeat" << 40 << 40 << true;
+    QTest::newRow("heating, circuit 1 above") << "waterCtrBasisAirHeat" << 45 << 35 << false;
+    QTest::newRow("cooling, circuit 1 above") << "waterCtrBasisAirCool" << 22 << 18 << true;
+    QTest::newRow("cooling, circuit 1 below") << "waterCtrBasisAirCool" << 18 << 22 << false;
+    QTest::newRow("heating, beyond the upper limit") << "waterCtrBasisAirHeat" << 60 << 62 << false;
+}
+
+void TestFilesCheck::circuitsKeepTheirOrder()
+{
+    QFETCH(QString, group);
+    QFETCH(int, main);
+    QFETCH(int, other);
+    QFETCH(bool, good);
+
+    const QString path = QStringLiteral("SettingInfo.func.") + group;
+    const QString file = folder.put(
+        QStringLiteral("circuits.json"),
+        documents::with(complete(),
+                        {{installation("circuitMainZone.enableMainZone"), QStringLiteral("SET")},
+                         {installation("sensorDefine.settemp_select"), QStringLiteral("AIR")},
+                         {installation("sensorDefine.airAndWaterUse"), QStringLiteral("SET")},
+                         {installation("settempLimit.heatWater.low_limit"), 20},
+                         {installation("settempLimit.heatWater.high_limit"), 55},
+                         {path + QStringLiteral(".ctrType"), QStringLiteral("MANUAL")},
+                         {path + QStringLiteral(".ctrTemp"), other},
+                         {path + QStringLiteral(".ctrTempMainZone"), main}}));
+    const QStringList found = program::findings(
+        program::check({file}).value(QStringLiteral("circuits.json")));
+    QCOMPARE(found.isEmpty(), good);
+    QVERIFY2(good || found.filter(path).size() == found.size(), qPrintable(found.join(QLatin1String(", "))));
 }
 
 // The library reads the schema as its tests in another language do.

@@ -99,13 +99,20 @@ void Checks::report(const QJsonObject &document)
 
 QByteArray Checks::anyValue(Dice &dice, const QByteArray &) const
 {
-    static const QVector<QByteArray> values{"\"<script>\"", "\"<img src=x>\"",
-                                            "\"<!--\"",     "\"\\u001b[2J\"",
-                                            "\"SET\"",      "\"STEP9\"",
-                                            "1e400",        "-9999",
-                                            "2147483648",   "{}",
-                                            "[]",           "null",
-                                            "\"\"",         "1.5"};
+    static const QVector<QByteArray> values{R"("<script>")",
+                                            R"("<img src=x>")",
+                                            R"("<!--")",
+                                            R"("\u001b[2J")",
+                                            R"("SET")",
+                                            R"("STEP9")",
+                                            "1e400",
+                                            "-9999",
+                                            "2147483648",
+                                            "{}",
+                                            "[]",
+                                            "null",
+                                            R"("")",
+                                            "1.5"};
     return dice.once(2) ? dice.absurdValue() : dice.pick(values);
 }
 
