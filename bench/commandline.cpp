@@ -50,6 +50,7 @@ Usage run(const QByteArrayList &arguments)
     const auto milliseconds = [](const timeval &time) {
         return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
     };
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): the C library has it in one
     return {milliseconds(used.ru_utime) + milliseconds(used.ru_stime), static_cast<double>(used.ru_maxrss)};
 }
 

@@ -120,7 +120,7 @@ QString Schema::allowed(const QJsonObject &rule) const
         return range(rule);
     }
     QStringList choices;
-    for (const QJsonValue &choice : rule.value(QLatin1String("anyOf")).toArray()) {
+    for (const auto &choice : rule.value(QLatin1String("anyOf")).toArray()) {
         choices.append(allowed(resolved(choice.toObject())));
     }
     return choices.join(QStringLiteral(" or "));

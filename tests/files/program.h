@@ -40,7 +40,7 @@ inline QHash<QString, QJsonObject> check(const QStringList &files, const QString
                                 + files);
     const QJsonDocument told = QJsonDocument::fromJson(outcome.out.toUtf8());
     QHash<QString, QJsonObject> verdicts;
-    for (const QJsonValue &each : told.object().value(QLatin1String("files")).toArray()) {
+    for (const auto &each : told.object().value(QLatin1String("files")).toArray()) {
         const QJsonObject verdict = each.toObject();
         verdicts.insert(QFileInfo(verdict.value(QLatin1String("file")).toString()).fileName(), verdict);
     }
@@ -51,7 +51,7 @@ inline QHash<QString, QJsonObject> check(const QStringList &files, const QString
 inline QStringList findings(const QJsonObject &verdict)
 {
     QStringList found;
-    for (const QJsonValue &each : verdict.value(QLatin1String("findings")).toArray()) {
+    for (const auto &each : verdict.value(QLatin1String("findings")).toArray()) {
         const QJsonObject finding = each.toObject();
         found.append(finding.value(QLatin1String("severity")).toString() + QLatin1Char(' ')
                      + finding.value(QLatin1String("path")).toString());

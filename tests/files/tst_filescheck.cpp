@@ -104,7 +104,7 @@ void TestFilesCheck::tellsWhatIsWrong_data()
     };
     const QString theme = QStringLiteral("SettingInfo.user.themeSet");
     row("a word that no control writes", {{theme, QStringLiteral("pink")}}, QStringLiteral("error ") + theme,
-        "Display theme): \"pink\" can be \"white\", \"black\" only");
+        R"(Display theme): "pink" can be "white", "black" only)");
     row("a text for a number", {{installation("waterFlowRate"), QStringLiteral("30")}},
         QStringLiteral("error ") + installation("waterFlowRate"), "can be 15 to 92 only");
     const QString mode = QStringLiteral("ExtSysInfo.xmodeOpMode");
@@ -112,7 +112,7 @@ void TestFilesCheck::tellsWhatIsWrong_data()
         "3 has to be a text");
     const QString pump = QStringLiteral("ExtSysInfo.water_pump");
     row("no flag in what passes through", {{pump, QStringLiteral("SER")}}, QStringLiteral("warning ") + pump,
-        "is a flag, which is \"SET\" or \"CLR\"");
+        R"(is a flag, which is "SET" or "CLR")");
     const QString room = QStringLiteral("ExtSysInfo.viewTempAir");
     row("a fraction", {{room, 21.5}}, QStringLiteral("error ") + room, "21.5 has to be a whole number");
     row("a setting is missing", {{theme, QVariant()}}, QStringLiteral("error ") + theme, "is missing");
@@ -204,16 +204,16 @@ void TestFilesCheck::takesWhatTheSchemaTakes()
     QVERIFY(!right.isEmpty());
     QStringList files;
     for (auto path = right.begin(); path != right.end(); ++path) {
-        for (const QJsonValue &value : path->toArray()) {
+        for (const auto &value : path->toArray()) {
             files.append(folder.put(QStringLiteral("right-%1.json").arg(files.size()),
                                     documents::with(r32(), {{path.key(), value.toVariant()}})));
         }
     }
     const auto verdicts = program::check(files, {QStringLiteral("--no-pages")});
     QCOMPARE(verdicts.size(), files.size());
-    for (auto verdict = verdicts.begin(); verdict != verdicts.end(); ++verdict) {
-        QVERIFY2(program::findings(*verdict).isEmpty(),
-                 qPrintable(program::findings(*verdict).join(QLatin1Char('\n'))));
+    for (const QJsonObject &verdict : verdicts) {
+        QVERIFY2(program::findings(verdict).isEmpty(),
+                 qPrintable(program::findings(verdict).join(QLatin1Char('\n'))));
     }
 }
 
@@ -252,7 +252,7 @@ void TestFilesCheck::tellsWhereAFileIsNoJson_data()
                             << QStringLiteral("at line 2, column 14");
     QTest::newRow("after letters beyond ASCII")
         << QByteArray("{\n  \"\xc3\xa9\xe2\x82\xac\": awhp\n}") << QStringLiteral("at line 2, column 9");
-    QTest::newRow("cut off") << QByteArray("{\"product\": \"awhp\"") << QStringLiteral("is not JSON");
+    QTest::newRow("cut off") << QByteArray(R"({"product": "awhp")") << QStringLiteral("is not JSON");
     QTest::newRow("a list") << QByteArray("[1, 2]") << QStringLiteral("is no settings file");
     QTest::newRow("not UTF-8") << QByteArray("{\"product\": \"\xff\xfe\"}") << QStringLiteral("is not JSON");
 }
@@ -377,7 +377,7 @@ void TestFilesCheck::standsHostileFiles_data()
     }
     QTest::newRow("100,000 keys") << with(keys.chopped(1)) << 0;
     QByteArray phone = whole;
-    phone.replace("\"phoneNumber\":\"-\"", "\"phoneNumber\":\"" + QByteArray(3000000, '1') + "\"");
+    phone.replace(R"("phoneNumber":"-")", R"("phoneNumber":")" + QByteArray(3000000, '1') + '"');
     QTest::newRow("a telephone number of 3 MB") << phone << 1;
     QTest::newRow("zeros") << QByteArray(100000, '\0') << 2;
 }

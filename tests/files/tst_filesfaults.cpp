@@ -203,7 +203,7 @@ Damaged brokenMark(const QJsonDocument &document, Dice &dice)
 {
     QByteArray whole = document.toJson(QJsonDocument::Compact);
     int at = dice.bounded(whole.size());
-    while (!QByteArray("{}:,\"").contains(whole.at(at))) {
+    while (!(QByteArray("{}:,") + '"').contains(whole.at(at))) {
         at = (at + 1) % whole.size();
     }
     whole.remove(at, 1);

@@ -73,9 +73,9 @@ void TestFilesWalk::savedDocumentsHaveNoErrors()
         }
         const auto verdicts = program::check(files);
         QCOMPARE(verdicts.size(), files.size());
-        for (auto verdict = verdicts.begin(); verdict != verdicts.end(); ++verdict) {
-            const QJsonArray findings = verdict->value(QLatin1String("findings")).toArray();
-            QVERIFY2(errors(*verdict).isEmpty(), QJsonDocument(findings).toJson().constData());
+        for (const QJsonObject &verdict : verdicts) {
+            const QJsonArray findings = verdict.value(QLatin1String("findings")).toArray();
+            QVERIFY2(errors(verdict).isEmpty(), QJsonDocument(findings).toJson().constData());
             warned += findings.isEmpty() ? 0 : 1;
         }
         checked += files.size();
