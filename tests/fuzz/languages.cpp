@@ -42,10 +42,10 @@ QStringList texts(const Pages &pages)
     return result;
 }
 
-class Languages : public Target
+class LanguageTarget : public Target
 {
 public:
-    Languages();
+    LanguageTarget();
 
     void run(const QByteArray &input) override;
     void runAfter() override;
@@ -77,7 +77,7 @@ private:
     QStringList englishTexts;
 };
 
-Languages::Languages()
+LanguageTarget::LanguageTarget()
 {
     testfiles::put(pages.file("standard.json"), standard.toJson());
     languagefolder::restore();
@@ -90,7 +90,7 @@ Languages::Languages()
 }
 
 // As a click on a row of the language menu does.
-void Languages::change(const QString &name)
+void LanguageTarget::change(const QString &name)
 {
     pages.window.dialog.saveLanguageName(name);
     pages.window.dialog.loadLanguageData(pages.window.dialog.languageIniPath());
@@ -98,7 +98,7 @@ void Languages::change(const QString &name)
 
 // Chooses another item in each combo box, so that a selection that is lost shows. Past the page, but for the
 // months: they fill the lists of days.
-void Languages::spreadSelections()
+void LanguageTarget::spreadSelections()
 {
     int number = 1;
     for (QComboBox *combo : qAsConst(combos)) {
@@ -109,7 +109,7 @@ void Languages::spreadSelections()
 }
 
 /// How many items each combo box has, and which is chosen.
-QVector<QPair<int, int>> Languages::selections() const
+QVector<QPair<int, int>> LanguageTarget::selections() const
 {
     QVector<QPair<int, int>> result;
     for (const QComboBox *combo : combos) {
@@ -118,7 +118,7 @@ QVector<QPair<int, int>> Languages::selections() const
     return result;
 }
 
-void Languages::expectSelections(const QVector<QPair<int, int>> &before) const
+void LanguageTarget::expectSelections(const QVector<QPair<int, int>> &before) const
 {
     for (int i = 0; i < combos.size(); ++i) {
         if (combos.at(i)->count() != before.at(i).first
@@ -128,13 +128,13 @@ void Languages::expectSelections(const QVector<QPair<int, int>> &before) const
     }
 }
 
-void Languages::load()
+void LanguageTarget::load()
 {
     pages.open(pages.file("standard.json"));
     pages.showSettings();
 }
 
-void Languages::expectTexts(const QByteArray &content) const
+void LanguageTarget::expectTexts(const QByteArray &content) const
 {
     const QJsonObject language = QJsonDocument::fromJson(content).object();
     for (const auto &[label, key] : labels) {
@@ -145,7 +145,7 @@ void Languages::expectTexts(const QByteArray &content) const
 }
 
 // A label that took its text for markup would load the pictures of it as soon as it is measured.
-void Languages::expectNothingOpened() const
+void LanguageTarget::expectNothingOpened() const
 {
     for (const QLabel *each : pages.window.dialog.findChildren<QLabel *>()) {
         each->sizeHint();
@@ -157,7 +157,7 @@ void Languages::expectNothingOpened() const
     }
 }
 
-void Languages::run(const QByteArray &input)
+void LanguageTarget::run(const QByteArray &input)
 {
     static const QRegularExpression form(QStringLiteral("^English ([0-5]) ([0-3])$"));
     const Script script = Script::parse(input);
@@ -184,7 +184,7 @@ void Languages::run(const QByteArray &input)
 }
 
 // The pages are loaded in the language, and English after it is as it was.
-void Languages::runAfter()
+void LanguageTarget::runAfter()
 {
     load();
     written.expectOnlyThese(changes(standard, pages.document()));
@@ -196,18 +196,18 @@ void Languages::runAfter()
     expectEqual(texts(pages), englishTexts, "a text of the language before has stayed");
 }
 
-QByteArray Languages::anyBase(Dice &dice) const
+QByteArray LanguageTarget::anyBase(Dice &dice) const
 {
     return "English " + QByteArray::number(dice.roll(6)) + ' ' + QByteArray::number(dice.roll(4));
 }
 
-QByteArray Languages::anyPath(Dice &dice) const
+QByteArray LanguageTarget::anyPath(Dice &dice) const
 {
     return english.keys().at(dice.roll(english.size())).toUtf8();
 }
 
 // The texts of other keys make a text stand for two keys.
-QByteArray Languages::anyValue(Dice &dice, const QByteArray &path) const
+QByteArray LanguageTarget::anyValue(Dice &dice, const QByteArray &path) const
 {
     static const QVector<QByteArray> odd = words("texts.txt");
     if (dice.once(3)) {
@@ -225,4 +225,4 @@ QByteArray Languages::anyValue(Dice &dice, const QByteArray &path) const
 
 } // namespace
 
-std::unique_ptr<Target> makeTarget() { return std::make_unique<Languages>(); }
+std::unique_ptr<Target> makeTarget() { return std::make_unique<LanguageTarget>(); }
