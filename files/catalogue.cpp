@@ -36,7 +36,8 @@ QString wordText(const QString &text, const Texts &texts)
 QString word(const Setting &setting, const QJsonValue &value, const Texts &texts)
 {
     const QString stored = value.isDouble() ? QString::number(value.toInt()) : value.toString();
-    for (const QString &pair : QString(QLatin1String(setting.texts)).split(QLatin1Char(' '))) {
+    const QStringList pairs = QString(QLatin1String(setting.texts)).split(QLatin1Char(' '));
+    for (const QString &pair : pairs) {
         if (pair.section(QLatin1Char('='), 0, 0).compare(stored, Qt::CaseInsensitive) == 0) {
             return wordText(pair.section(QLatin1Char('='), 1), texts);
         }
@@ -161,7 +162,8 @@ QString catalogue::caption(const Setting &setting, const View &view)
         {QStringLiteral("SeasonalWaterTemp"), QStringLiteral("SeasonalWaterTempRoom2")},
     };
     QStringList captions;
-    for (const QString &key : QString(QLatin1String(setting.captions)).split(QLatin1Char('/'))) {
+    const QStringList keys = QString(QLatin1String(setting.captions)).split(QLatin1Char('/'));
+    for (const QString &key : keys) {
         captions.append(view.texts.text(view.twoCircuits ? ofCircuit2.value(key, key) : key));
     }
     return captions.join(QStringLiteral(", "));

@@ -60,7 +60,8 @@ Reading reading::parse(const QByteArray &content)
 QJsonValue reading::at(const QJsonObject &document, const QString &path)
 {
     QJsonValue value = document;
-    for (const QString &name : path.split(QLatin1Char('.'))) {
+    const QStringList names = path.split(QLatin1Char('.'));
+    for (const QString &name : names) {
         value = value.toObject().value(name);
     }
     return value;

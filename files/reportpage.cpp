@@ -60,7 +60,8 @@ private:
     static QJsonObject wordsOf(const QString &language)
     {
         const QJsonObject all = QJsonDocument::fromJson(content("words.json").toUtf8()).object();
-        for (const QString &each : all.keys()) {
+        const QStringList names = all.keys();
+        for (const QString &each : names) {
             if (each.normalized(QString::NormalizationForm_C)
                     .compare(language.normalized(QString::NormalizationForm_C), Qt::CaseInsensitive)
                 == 0) {

@@ -120,7 +120,8 @@ QString Schema::allowed(const QJsonObject &rule) const
         return range(rule);
     }
     QStringList choices;
-    for (const auto &choice : rule.value(QLatin1String("anyOf")).toArray()) {
+    const QJsonArray rules = rule.value(QLatin1String("anyOf")).toArray();
+    for (const QJsonValue &choice : rules) {
         choices.append(allowed(resolved(choice.toObject())));
     }
     return choices.join(QStringLiteral(" or "));
@@ -196,11 +197,10 @@ Findings Schema::check(const QJsonObject &document) const
     places.sort();
     places.removeDuplicates();
     Findings found;
-    for (auto place = places.cbegin(); place != places.cend(); ++place) {
+    for (const QString &place : qAsConst(places)) {
         // What holds a faulty value is told by that value. A key that is missing is another's business.
-        if (leaves.contains(*place)
-            || (named.contains(*place) && !reading::at(document, *place).isObject())) {
-            found.push_back(finding(*place, document));
+        if (leaves.contains(place) || (named.contains(place) && !reading::at(document, place).isObject())) {
+            found.push_back(finding(place, document));
         }
     }
     return found;

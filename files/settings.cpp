@@ -4,6 +4,7 @@
 
 namespace {
 
+constexpr std::size_t mostSettings = 200;
 constexpr auto onOff = "CLR=Off SET=On";
 constexpr auto use = "CLR=NotUse SET=Use";
 constexpr auto lock = "CLR=Release SET=Lock";
@@ -12,14 +13,14 @@ constexpr auto sides = "EXIT=Outlet ENTRANCE=Inlet";
 constexpr auto continuous = "SET=OperationContinue CLR=TimeSetting";
 constexpr auto minute = "OperationMinute";
 
-const std::vector<Setting> product{
+constexpr Setting product[] = {
     {"product", "ProductSelection/radioButtonAwhp radioButtonAquabox", "Producttype", Form::Words,
      "awhp=AWHP aquabox=Aquabox"},
     {"IduFuncList.isR32", "ProductSelection/radioButtonR410 radioButtonR32", "RefrigerantType", Form::Words,
      "CLR=R410A SET=R32"},
 };
 
-const std::vector<Setting> dipSwitches{
+constexpr Setting dipSwitches[] = {
     {"IduFuncList.is_hotwater", "DipSwitchSettingStatus/radioDhwNotUse radioDhwUse radioDhwOnly",
      "DomesticHotWaterTank", Form::Words, use},
     {"IduFuncList.is_boosterht_onlyMode", "DipSwitchSettingStatus/radioDhwNotUse radioDhwUse radioDhwOnly",
@@ -59,7 +60,7 @@ const std::vector<Setting> dipSwitches{
      "SilentModePriority", Form::Words, "oduSwitch=ODU rmcSetting=RemoteController"},
 };
 
-const std::vector<Setting> function{
+constexpr Setting function[] = {
     {"SettingInfo.func.silentTimer.set", "SettingFunction/radioSlientModeNotuse radioSlientModeUse",
      "SilentMode", Form::Words, onOff},
     {"SettingInfo.func.silentTimer.start.hour", "SettingFunction/comboSilentStartHour",
@@ -83,7 +84,7 @@ const std::vector<Setting> function{
      "ODEFunction/DefrostSnowRemove", Form::Words, steps},
 };
 
-const std::vector<Setting> user{
+constexpr Setting user[] = {
     {"SettingInfo.user.tempUnit.tempConversion", "SettingUser/radioCelicious radioFahreheit",
      "TemperatureUnit", Form::Words, "CENTIGRADE=Celicious FAHRENHEIT=Fahrenheit"},
     {"SettingInfo.user.backlightControl.dimmTimeSet", "SettingUser/comboScreenSaverTimer",
@@ -109,7 +110,7 @@ const std::vector<Setting> user{
      "white=White black=Black"},
 };
 
-const std::vector<Setting> service{
+constexpr Setting service[] = {
     {"SettingInfo.svc.svcContact.company", "SettingService/lineEditOfficeName", "ServiceContact/OfficeName",
      Form::Text},
     {"SettingInfo.svc.svcContact.installerName", "SettingService/lineEditInstallerName",
@@ -118,7 +119,7 @@ const std::vector<Setting> service{
      Form::Text},
 };
 
-const std::vector<Setting> systemSection{
+constexpr Setting systemSection[] = {
     {"SettingInfo.installation.sensorDefine.settemp_select", "InstallationSystemSetting/comboBoxSensingTemp",
      "TemperatureSensor/SensingTemperature", Form::Words, "WATER=WATER AIR=AIR"},
     {"SettingInfo.installation.sensorDefine.airAndWaterUse", "InstallationSystemSetting/comboBoxSensingTemp",
@@ -159,7 +160,7 @@ const std::vector<Setting> systemSection{
      "STEP4=MultiEmergencyStop"},
 };
 
-const std::vector<Setting> heatPump{
+constexpr Setting heatPump[] = {
     {"SettingInfo.installation.circuitMainZone.enableMainZone",
      "InstallationSystemAWHP/radio2ndNotuse radio2ndUse", "Secondcircuit", Form::Words, use},
     {"SettingInfo.installation.circuitMainZone.controlTimeMainZone",
@@ -206,7 +207,7 @@ const std::vector<Setting> heatPump{
      "InstallationSystemAWHP/combo3rdHysterisis", "ThirdPartyBoiler/Hysterisis", Form::Kelvin},
 };
 
-const std::vector<Setting> hydronicModule{
+constexpr Setting hydronicModule[] = {
     {"SettingInfo.installation.modePriority.modeStandby",
      "InstallationSystemAquabox/radioStandbyNotuse radioStandbyUse", "ModeStandby", Form::Words,
      "CLR=NotUse SET=ModePriority"},
@@ -226,7 +227,7 @@ const std::vector<Setting> hydronicModule{
      Form::Words, use},
 };
 
-const std::vector<Setting> cooling{
+constexpr Setting cooling[] = {
     {"SettingInfo.installation.coolWaterControlBasis", "InstallationCool/comboReferenceWater",
      "ControlBasisTemp", Form::Words, sides},
     {"SettingInfo.installation.settempLimit.coolAir.low_limit", "InstallationCool/comboTemperatureIndoorMin",
@@ -261,7 +262,7 @@ const std::vector<Setting> cooling{
      "WaterPumpnOperationTimer/OFFTimer", Form::Number, minute},
 };
 
-const std::vector<Setting> heating{
+constexpr Setting heating[] = {
     {"SettingInfo.installation.heatWaterControlBasis", "InstallationHeat/comboReferenceWater",
      "ControlBasisTemp", Form::Words, sides},
     {"SettingInfo.installation.settempLimit.heatAir.low_limit", "InstallationHeat/comboTemperatureIndoorMin",
@@ -292,7 +293,7 @@ const std::vector<Setting> heating{
      "WaterPumpnOperationTimer/OFFTimer", Form::Number, minute},
 };
 
-const std::vector<Setting> outdoorMode{
+constexpr Setting outdoorMode[] = {
     {"SettingInfo.installation.autoOp_outtemp.max", "InstallationaAuto/comboOutdoorOutdoorMax",
      "OutdoorTempDependentMode/OutdoorTempRange/Max", Form::Celsius},
     {"SettingInfo.installation.autoOp_outtemp.min", "InstallationaAuto/comboOutdoorOutdoorMin",
@@ -307,7 +308,7 @@ const std::vector<Setting> outdoorMode{
      "OutdoorTempDependentMode/WaterTempRange/Min", Form::Celsius},
 };
 
-const std::vector<Setting> seasonalMode{
+constexpr Setting seasonalMode[] = {
     {"SettingInfo.installation.seasonalAutoOption.seasonalAutoOpMode",
      "InstallationaAuto/radioHeatingOnly radioCoolingOnly radioBoth", "SeasonalAutoMode", Form::Words,
      "HEAT_ONLY=HeatingOnly COOL_ONLY=CoolingOnly HEAT_N_COOL=Both"},
@@ -369,7 +370,7 @@ const std::vector<Setting> seasonalMode{
      Form::Celsius},
 };
 
-const std::vector<Setting> hotWater{
+constexpr Setting hotWater[] = {
     {"SettingInfo.installation.settempLimit.hotWater.low_limit", "InstallationDWH/comboHotWaterMin",
      "HotWaterTargetTempRange/Min", Form::Celsius},
     {"SettingInfo.installation.settempLimit.hotWater.high_limit", "InstallationDWH/comboHotWaterMax",
@@ -409,11 +410,25 @@ const std::vector<Setting> &catalogue::settings()
 {
     static const std::vector<Setting> all = [] {
         std::vector<Setting> joined;
-        for (const auto *part :
-             {&product, &dipSwitches, &function, &user, &service, &systemSection, &heatPump, &hydronicModule,
-              &cooling, &heating, &outdoorMode, &seasonalMode, &hotWater}) {
-            joined.insert(joined.end(), part->begin(), part->end());
-        }
+        joined.reserve(mostSettings);
+        const auto add = [&joined](const auto &part) {
+            for (const Setting &setting : part) {
+                joined.push_back(setting);
+            }
+        };
+        add(product);
+        add(dipSwitches);
+        add(function);
+        add(user);
+        add(service);
+        add(systemSection);
+        add(heatPump);
+        add(hydronicModule);
+        add(cooling);
+        add(heating);
+        add(outdoorMode);
+        add(seasonalMode);
+        add(hotWater);
         return joined;
     }();
     return all;

@@ -69,8 +69,9 @@ Wizard::Wizard()
 {
     steps = dialog->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
     tabs = dialog->findChild<QStackedWidget *>(QStringLiteral("settingStackedWidget"));
+    const QList<QWidget *> widgets = dialog->findChildren<QWidget *>();
     for (const WizardPlace &place : places) {
-        for (QWidget *each : dialog->findChildren<QWidget *>()) {
+        for (QWidget *each : widgets) {
             if (qstrcmp(each->metaObject()->className(), place.page) == 0) {
                 pages.insert(QLatin1String(place.page), each);
             }
@@ -93,7 +94,8 @@ void Wizard::speakKeys()
     QFile file(QStringLiteral(":/language/English.json"));
     file.open(QIODevice::ReadOnly);
     QJsonObject map = QJsonDocument::fromJson(file.readAll()).object();
-    for (const QString &key : map.keys()) {
+    const QStringList keys = map.keys();
+    for (const QString &key : keys) {
         map.insert(key, key);
     }
     dialog->setLanguageDocument(QJsonDocument(map));
@@ -103,7 +105,8 @@ void Wizard::speakKeys()
 /// A closed one hides its controls, and passes its checks.
 void Wizard::openSections()
 {
-    for (QPushButton *button : dialog->findChildren<QPushButton *>(QStringLiteral("hideButton"))) {
+    const auto headers = dialog->findChildren<QPushButton *>(QStringLiteral("hideButton"));
+    for (QPushButton *button : headers) {
         button->click();
     }
 }
@@ -116,8 +119,9 @@ void Wizard::collect()
             continue;
         }
         Control control{&setting, nullptr, {}, nullptr};
-        for (const QString &name :
-             QString(QLatin1String(setting.control)).section(QLatin1Char('/'), 1).split(QLatin1Char(' '))) {
+        const QStringList names =
+            QString(QLatin1String(setting.control)).section(QLatin1Char('/'), 1).split(QLatin1Char(' '));
+        for (const QString &name : names) {
             auto *widget = page->findChild<QWidget *>(name);
             if (widget == nullptr) {
                 qFatal("No control %s", setting.control);
@@ -134,7 +138,8 @@ void Wizard::collect()
 
 void Wizard::remember()
 {
-    for (QComboBox *list : dialog->findChildren<QComboBox *>()) {
+    const QList<QComboBox *> lists = dialog->findChildren<QComboBox *>();
+    for (QComboBox *list : lists) {
         firstLists.insert(list, {itemsOf(*list), list->currentIndex()});
     }
     for (const auto &page : qAsConst(controls)) {
@@ -217,7 +222,8 @@ QMap<QString, bool> Wizard::switches() const
 {
     QMap<QString, bool> shown;
     const QWidget *page = pages.value(QStringLiteral("DipSwitchSettingStatus"));
-    for (const auto *drawn : page->findChildren<QAbstractButton *>()) {
+    const QList<QAbstractButton *> buttons = page->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *drawn : buttons) {
         if (drawn->objectName().startsWith(QLatin1String("DipSwitch")) && drawn->isVisible()) {
             shown.insert(drawn->objectName(), drawn->text() == QLatin1String("true"));
         }
