@@ -17,6 +17,7 @@ void MainDialog::startNewDocument()
                          ui->serviceValidationIcon, ui->userValidationIcon}) {
         icon->show();
     }
+    showWhetherSaveSaves();
     ui->productSelectionButton->setEnabled(true);
     ui->stackedWidget->setCurrentIndex(ProductPage);
     ui->productSelection->newJsonData();
@@ -36,6 +37,7 @@ bool MainDialog::openNewJsonFile(const QString &refrigerant)
         return false;
     }
     forgetShownPages();
+    showWhetherSaveSaves();
     ui->pathLabel->showPath(refrigerant.toUpper());
     setTempUnit(state.settings.value(QStringLiteral("SettingInfo.user.tempUnit.tempConversion")).toString());
     return true;

@@ -1,6 +1,7 @@
 #include "app/maindialog.h"
 
 #include "app/accessible.h"
+#include "app/captioncolumn.h"
 #include "app/frameless.h"
 #include "app/radiogroups.h"
 #include "app/radioring.h"
@@ -39,8 +40,11 @@ QWidget *contentOf(QScrollArea *area, int margin = 0)
 template <typename PageClass>
 PageClass *addPage(QWidget *content)
 {
+    constexpr int cards = 1040;
+    constexpr int margin = 16;
     auto *page = new PageClass(content);
     auto *layout = static_cast<QVBoxLayout *>(content->layout());
+    page->setMaximumWidth(cards + 2 * (margin - layout->contentsMargins().left()));
     layout->insertWidget(layout->count() - 1, page);
     return page;
 }
@@ -76,6 +80,11 @@ MainDialog::MainDialog(QWidget *parent)
     initCFTable();
     initUi();
     new RadioRing(this);
+    new CaptionColumn(ui->stackedWidget,
+                      {ui->layout_productselectpage, ui->dipswitchSettingScrollArea->widget()->layout(),
+                       ui->layout_tabRow, ui->functionScrollArea->widget()->layout(),
+                       ui->userScrollArea->widget()->layout(), ui->layout_servicepage,
+                       ui->installationScrollArea->widget()->layout()});
     // Each widget has asked to be styled soon, shown or not. What is shown is styled then, the rest is
     // prepared after the first paint.
     QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
@@ -123,7 +132,10 @@ void MainDialog::addShortcut(const QKeySequence &keys, QPushButton *button)
 
 void MainDialog::initDipSwitchSettingStatusPageUi()
 {
-    auto *page = addPage<DipSwitchSettingStatus>(contentOf(ui->dipswitchSettingScrollArea));
+    QWidget *content = contentOf(ui->dipswitchSettingScrollArea);
+    auto *page = addPage<DipSwitchSettingStatus>(content);
+    // It scrolls in itself.
+    static_cast<QVBoxLayout *>(content->layout())->setStretchFactor(page, 1);
     connect(this, &MainDialog::changeInstallationLanguage, page, &DipSwitchSettingStatus::changeLanguage);
     connect(ui->productSelection, &ProductSelection::buttonClicked, page,
             &DipSwitchSettingStatus::changeImage);

@@ -154,6 +154,7 @@ private:
     void selectTab(Tab tab);
     void styleTabs(Tab tab);
     void captionPage(int page);
+    void showWhetherSaveSaves();
     void joinTabs();
     void closeLanguageMenu();
     void prepareHidden();

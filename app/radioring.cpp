@@ -1,11 +1,27 @@
 #include "app/radioring.h"
 
+#include "app/paintedbutton.h"
+#include "widgets/palette.h"
+
 #include <QFocusEvent>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace {
+
+/// Between a radio and the outer edge of its ring.
+constexpr int room = 5;
+
+/// What has a look of its own for the focus, in the style sheet, needs no ring.
+bool isServed(const QWidget *widget)
+{
+    return qobject_cast<const QRadioButton *>(widget) != nullptr
+        || dynamic_cast<const PaintedButton *>(widget) != nullptr
+        || (qobject_cast<const QPushButton *>(widget) != nullptr
+            && widget->parentWidget()->objectName() == QLatin1String("titleFrame"));
+}
 
 /// Leaves room around the radio, and lets the ring be painted as it is.
 class RoomAround : public QProxyStyle
@@ -14,7 +30,7 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
     {
         const bool isMargin = metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin;
-        return isMargin ? 4 : QProxyStyle::pixelMetric(metric, option, widget);
+        return isMargin ? room : QProxyStyle::pixelMetric(metric, option, widget);
     }
 
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -66,9 +82,11 @@ RadioRing::RadioRing(QWidget *window)
     room->setParent(this);
     setStyle(room);
     auto *follower = new Follower(this);
-    const auto radios = window->findChildren<QRadioButton *>();
-    for (QRadioButton *radio : radios) {
-        radio->installEventFilter(follower);
+    const auto widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (isServed(widget)) {
+            widget->installEventFilter(follower);
+        }
     }
 }
 
@@ -86,14 +104,21 @@ bool RadioRing::eventFilter(QObject *watched, QEvent *event)
 
 void RadioRing::paintEvent(QPaintEvent *)
 {
-    const QWidget *radio = widget();
-    if (radio == nullptr) {
+    const QWidget *served = widget();
+    if (served == nullptr) {
         return;
     }
-    // Not around the empty end of a radio that is wider than its text.
-    const int empty = qMax(0, radio->width() - radio->sizeHint().width());
+    constexpr int width = 2;
+    QRectF ring = QRectF(rect()).adjusted(1, 1, -1, -1);
+    if (qobject_cast<const QRadioButton *>(served) != nullptr) {
+        // Not around the empty end of a radio that is wider than its text.
+        ring.setRight(ring.right() - qMax(0, served->width() - served->sizeHint().width()));
+    } else {
+        ring.adjust(room, room, -room, -room);
+    }
+    const qreal corner = served->inherits("ImageButton") ? ring.height() / 2 : 4;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(radio->palette().color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5 - empty, -0.5), 4, 4);
+    painter.setPen(QPen(QColor(palette::focus.value), width));
+    painter.drawRoundedRect(ring, corner, corner);
 }

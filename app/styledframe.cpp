@@ -1,5 +1,7 @@
 #include "app/styledframe.h"
 
+#include "widgets/palette.h"
+
 #include <QFile>
 
 StyledFrame::StyledFrame(QWidget *parent)
@@ -7,6 +9,10 @@ StyledFrame::StyledFrame(QWidget *parent)
 {
     QFile look(QStringLiteral(":/style/calora.qss"));
     if (look.open(QIODevice::ReadOnly)) {
-        setStyleSheet(QString::fromUtf8(look.readAll()));
+        QByteArray sheet = look.readAll();
+        for (const palette::Colour &colour : palette::all) {
+            sheet.replace(colour.name, colour.value);
+        }
+        setStyleSheet(QString::fromUtf8(sheet));
     }
 }

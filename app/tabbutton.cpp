@@ -1,5 +1,7 @@
 #include "app/tabbutton.h"
 
+#include "widgets/palette.h"
+
 #include <QPainter>
 
 TabButton::TabButton(QWidget *parent)
@@ -22,6 +24,6 @@ void TabButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.fillRect(0, height() - lineHeight, width(), lineHeight,
-                     QColor(marked ? QStringLiteral("#A50034") : QStringLiteral("#D6D6D7")));
+                     QColor((marked ? palette::accent : palette::line).value));
     drawText(painter, QRect(0, 0, width(), height() - lineHeight));
 }

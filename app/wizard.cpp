@@ -83,6 +83,12 @@ void MainDialog::setStepCompleted(bool completed, int step)
     }
     target.done = completed;
     target.errorMark->setVisible(!completed);
+    showWhetherSaveSaves();
+}
+
+void MainDialog::showWhetherSaveSaves()
+{
+    style::mark(ui->saveButton, "saves", stepsDone() && !state.settings.filePath.isEmpty());
 }
 
 void MainDialog::setSettingTabValid(bool valid, int tab)
@@ -187,6 +193,7 @@ void MainDialog::captionPage(int page)
         QFont font = caption->font();
         font.setBold(captioned == page);
         caption->setFont(font);
+        style::mark(caption, "here", captioned == page);
         ++captioned;
     }
 }

@@ -1,6 +1,9 @@
 #include "languages/languageitem.h"
 
 #include "ui_languageitem.h"
+#include "widgets/palette.h"
+
+#include <QPainter>
 
 LanguageItem::LanguageItem(QWidget *parent)
     : QWidget(parent)
@@ -11,6 +14,7 @@ LanguageItem::LanguageItem(QWidget *parent)
     ui->setupUi(this);
     // The line below the row is a border of its style sheet.
     setAttribute(Qt::WA_StyledBackground);
+    setAttribute(Qt::WA_Hover);
 }
 
 LanguageItem::~LanguageItem() = default;
@@ -18,5 +22,24 @@ LanguageItem::~LanguageItem() = default;
 void LanguageItem::setLanguage(const QString &name) { ui->labelLanguage->setText(name); }
 
 QString LanguageItem::language() const { return ui->labelLanguage->text(); }
+
+void LanguageItem::setInForce(bool isInForce)
+{
+    inForce = isInForce;
+    update();
+}
+
+void LanguageItem::paintEvent(QPaintEvent *)
+{
+    constexpr int markWidth = 3;
+    const QRect row = rect().adjusted(0, 0, 0, -1); // above its line
+    QPainter painter(this);
+    if (underMouse()) {
+        painter.fillRect(row, QColor(palette::ground.value));
+    }
+    if (inForce) {
+        painter.fillRect(QRect(row.topLeft(), QSize(markWidth, row.height())), QColor(palette::accent.value));
+    }
+}
 
 void LanguageItem::on_buttonModify_clicked() { emit clickedModifyButton(ui->labelLanguage->text()); }

@@ -21,12 +21,19 @@ public:
     void setLanguage(const QString &name);
     QString language() const;
 
+    /// Marks the language in force.
+    void setInForce(bool isInForce);
+
 signals:
     void clickedModifyButton(const QString &language);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private slots:
     void on_buttonModify_clicked();
 
 private:
     std::unique_ptr<Ui::LanguageItem> ui;
+    bool inForce = false;
 };

@@ -11,6 +11,7 @@
 #include <QDebug>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLabel>
 
 LanguageMenu::LanguageMenu(QWidget *parent)
     : QWidget(parent)
@@ -57,9 +58,19 @@ void LanguageMenu::takeKeys(const QString &language)
     ui->listWidget->setFocus(Qt::TabFocusReason);
 }
 
-const LanguageItem *LanguageMenu::rowAt(int index) const
+LanguageItem *LanguageMenu::rowAt(int index) const
 {
     return static_cast<LanguageItem *>(ui->listWidget->itemWidget(ui->listWidget->item(index)));
+}
+
+void LanguageMenu::showEvent(QShowEvent *event)
+{
+    const auto *shown = window()->findChild<QLabel *>(QStringLiteral("labelCurrentLanguage"));
+    for (int index = 0; shown != nullptr && index < ui->listWidget->count(); ++index) {
+        LanguageItem *row = rowAt(index);
+        row->setInForce(row->language() == shown->text());
+    }
+    QWidget::showEvent(event);
 }
 
 // Left to itself, the focus would go on to the next widget that takes it, which is New.
@@ -106,6 +117,7 @@ void LanguageMenu::on_newButton_clicked()
     UserLanguageEditPopup editor;
     editor.setNewLanguage(true);
     editor.setLanguageFilePath(QString());
+    editor.move(window()->geometry().center() - editor.rect().center());
     editor.exec();
 }
 

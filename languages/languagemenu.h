@@ -35,6 +35,7 @@ signals:
     void closed();
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -48,7 +49,7 @@ private slots:
 
 private:
     void closeMenu();
-    const LanguageItem *rowAt(int index) const;
+    LanguageItem *rowAt(int index) const;
 
     std::unique_ptr<Ui::LanguageMenu> ui;
 };

@@ -2,13 +2,64 @@
 
 #include "languages/languages.h"
 #include "ui_letteritem.h"
+#include "widgets/palette.h"
 #include "widgets/plaintext.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+LetterFrame::LetterFrame(QWidget *parent)
+    : QGroupBox(parent)
+{
+}
+
+void LetterFrame::setLine(QLineEdit *framed)
+{
+    line = framed;
+    line->setAttribute(Qt::WA_Hover);
+    line->installEventFilter(this);
+}
+
+bool LetterFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+        update();
+        break;
+    default:
+        break;
+    }
+    return QGroupBox::eventFilter(watched, event);
+}
+
+void LetterFrame::paintEvent(QPaintEvent *event)
+{
+    QGroupBox::paintEvent(event);
+    if (line == nullptr) {
+        return;
+    }
+    const bool focused = line->hasFocus();
+    const palette::Colour &colour = focused ? palette::focus
+        : line->underMouse()                ? palette::text
+                                            : palette::edge;
+    const qreal width = focused ? 2 : 1;
+    const QRectF frame = QRectF(line->geometry()).adjusted(-6, -5, 6, 5);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(colour.value), width));
+    painter.drawRoundedRect(frame.adjusted(width / 2, width / 2, -width / 2, -width / 2), 4, 4);
+}
 
 LetterItem::LetterItem(QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::LetterItem>())
 {
     ui->setupUi(this);
+    ui->groupBoxRow->setLine(ui->lineEdit);
     // A pixmap comes from the cache; a file name in the form would be looked up for each of the many rows.
     ui->ButtonRemove->setIcon(QPixmap(QStringLiteral(":/images/btn_language_popup_edit_delete.png")));
 }

@@ -1,5 +1,7 @@
 #include "pages/style.h"
 
+#include <QStyle>
+#include <QVariant>
 #include <QWidget>
 
 namespace style {
@@ -22,6 +24,16 @@ void apply(QWidget *widget, const QString &sheet)
 {
     if (widget->styleSheet() != sheet) {
         widget->setStyleSheet(sheet);
+    }
+}
+
+void mark(QWidget *widget, const char *property, bool value)
+{
+    if (widget->property(property).toBool() != value) {
+        widget->setProperty(property, value);
+        // A style sheet looks at properties when a widget is polished.
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
     }
 }
 

@@ -17,4 +17,7 @@ QString labelText(bool isEnabled);
 /// copies that are drawn stay in the pixmap cache.
 void apply(QWidget *widget, const QString &sheet);
 
+/// Sets a property that the window's style sheet asks for, and styles the widget anew if it changes.
+void mark(QWidget *widget, const char *property, bool value);
+
 } // namespace style

@@ -11,6 +11,8 @@ ValueList::ValueList(QWidget *parent)
 {
     // The wheel gives no focus.
     setFocusPolicy(Qt::StrongFocus);
+    // The twelve months and the item that stands for none.
+    setMaxVisibleItems(13);
 }
 
 QSize ValueList::sizeHint() const

@@ -1,6 +1,7 @@
 #include "support/tour.h"
 
 #include "languages/userlanguageeditpopup.h"
+#include "widgets/palette.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -67,11 +68,13 @@ QRect textPlace(const QWidget *widget)
     return widget->inherits("ImageButton") ? widget->rect().adjusted(19, 4, -19, -4) : QRect();
 }
 
-/// The dim look of what belongs to a disabled control, and the result's colour, are as they are on purpose.
+/// The dim look of what belongs to a disabled control, and the result's colour, are as they are on purpose. A
+/// bullet tells nothing.
 bool isFaintOnPurpose(const QWidget *widget)
 {
     return !widget->isEnabled() || widget->styleSheet().contains(QLatin1String("30%"))
-        || widget->objectName() == QLatin1String("messageLabel");
+        || widget->objectName() == QLatin1String("messageLabel")
+        || widget->property("role") == QLatin1String("bullet");
 }
 
 /// The widgets of the window whose text stands out too little.
@@ -128,6 +131,10 @@ private slots:
     void textsStandOut();
     void editorStandsOut();
     void findsFaintTexts();
+    void paletteStandsOut_data();
+    void paletteStandsOut();
+    void controlsHaveThePalettesEdge_data();
+    void controlsHaveThePalettesEdge();
 };
 
 void TestContrast::knowsContrast()
@@ -178,6 +185,72 @@ void TestContrast::findsFaintTexts()
     const QStringList found = faint(&window.dialog);
     QCOMPARE(found.size(), 2);
     QVERIFY(found.at(0).startsWith("saveButton") || found.at(1).startsWith("saveButton"));
+}
+
+// On paper and on the ground: 4.5 to 1 for what is read, 3 to 1 for what has to be seen.
+void TestContrast::paletteStandsOut_data()
+{
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<double>("required");
+    QTest::newRow("accent") << "#A50034" << 4.5;
+    QTest::newRow("open") << palette::open.value << 3.0;
+    QTest::newRow("done") << palette::done.value << 3.0;
+    QTest::newRow("focus") << palette::focus.value << 3.0;
+    QTest::newRow("edge") << palette::edge.value << 3.0;
+    QTest::newRow("text") << palette::text.value << 4.5;
+    QTest::newRow("quiet") << palette::quiet.value << 4.5;
+}
+
+void TestContrast::paletteStandsOut()
+{
+    QFETCH(QString, colour);
+    QFETCH(double, required);
+    const QRgb value = QColor(colour).rgb();
+    QVERIFY(contrast(value, qRgb(255, 255, 255)) >= required);
+    QVERIFY(contrast(value, QColor(palette::ground.value).rgb()) >= required);
+    // The marks of what is open are told from the accent by their shade.
+    if (colour == palette::open.value) {
+        QVERIFY(contrast(value, QColor(palette::accent.value).rgb()) > 1.5);
+    }
+}
+
+// The edge of each control, and the two pixels of blue that it has with the keyboard.
+void TestContrast::controlsHaveThePalettesEdge_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("control");
+    QTest::newRow("list") << "userTabButton"
+                          << "comboDateYear";
+    QTest::newRow("line") << "serviceTabButton"
+                          << "lineEditOfficeName";
+    QTest::newRow("button") << "userTabButton"
+                            << "openButton";
+    QTest::newRow("languages") << "userTabButton"
+                               << "languageCombobox";
+}
+
+void TestContrast::controlsHaveThePalettesEdge()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, control);
+    Window window;
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage);
+    Window::click(&window.dialog, qPrintable(button));
+    const QWidget *frame = Window::find(&window.dialog, "windowFrame");
+    const QWidget *bar = Window::find(frame, "toolbarGroupBox");
+    auto *widget = Window::find(control == "openButton" ? bar : frame, qPrintable(control));
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    widget->clearFocus();
+    const auto colourAt = [widget](int x) {
+        return widget->grab().toImage().pixelColor(x, widget->height() / 2);
+    };
+    QCOMPARE(colourAt(0), QColor(palette::edge.value));
+    QCOMPARE(colourAt(1), QColor(Qt::white));
+    widget->setFocus(Qt::TabFocusReason);
+    QCOMPARE(colourAt(0), QColor(palette::focus.value));
+    QCOMPARE(colourAt(1), QColor(palette::focus.value));
+    QCOMPARE(colourAt(2), QColor(Qt::white));
 }
 
 CALORA_TEST_MAIN(TestContrast)

@@ -325,8 +325,8 @@ void TestDipSwitchLoad::productDecidesWhatIsShown()
     load(documents::joined(odu, {{"product", "Awhp"}}));
     QVERIFY(!Window::shownItself(page, "radioDhwOnly"));
     QVERIFY(Window::shownItself(page, "labelDhwSpacing"));
-    // Two radios take the room of two radios.
-    QTRY_COMPARE(Window::find(page, "groupBoxDhw")->height(), Window::find(page, "groupBoxSolar")->height());
+    // Two radios take no room below their caption.
+    QTRY_COMPARE(Window::find(page, "groupBoxDhw")->height(), Window::find(page, "labelDWH")->height());
     QVERIFY(!Window::shownItself(page, "groupBoxOduFunctionMaster"));
     QVERIFY(!Window::enabled(page, "groupBoxOduFunctionMaster"));
     QCOMPARE(style("labelODUFunctionMaster"), labelDimmed);

@@ -3,6 +3,7 @@
 
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
+#include "widgets/palette.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -76,10 +77,12 @@ bool isChosen(QWidget *widget)
     return widget == (checked == group.end() ? group.first() : *checked);
 }
 
-/// The widget; a radio as it is seen in its window, with a few pixels around it.
+/// The widget; a radio or a button of the window as it is seen in its window, with a few pixels around it.
 QImage look(QWidget *widget)
 {
-    if (qobject_cast<QRadioButton *>(widget) == nullptr) {
+    const bool isRinged = qobject_cast<QRadioButton *>(widget) != nullptr
+        || (widget->parentWidget() != nullptr && widget->parentWidget()->objectName() == "titleFrame");
+    if (!isRinged) {
         return widget->grab().toImage();
     }
     QWidget *above = widget;
@@ -94,14 +97,27 @@ QImage look(QWidget *widget)
     return widget->window()->grab(place.adjusted(-around, -around, around, around)).toImage();
 }
 
-/// Whether the picture has a colour besides greys and the accent, such as the blue of a desktop's own focus.
+/// The blue of the focus, mixed with the accent where both meet, or the green of what is done.
+bool isOwnCold(QRgb pixel)
+{
+    constexpr int tolerance = 6;
+    const int hue = QColor(pixel).hsvHue();
+    const auto hueOf = [](const palette::Colour &colour) { return QColor(colour.value).hsvHue(); };
+    return qAbs(hue - hueOf(palette::done)) <= tolerance
+        || (hue >= hueOf(palette::focus) - tolerance && hue <= hueOf(palette::accent) + tolerance);
+}
+
+/// Whether the picture has a colour besides greys and the tool's own, such as the blue of a desktop's own
+/// focus.
 bool isForeign(const QImage &picture)
 {
     constexpr int tolerance = 12;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb pixel = picture.pixel(x, y);
-            if (qBlue(pixel) > qRed(pixel) + tolerance || qGreen(pixel) > qRed(pixel) + tolerance) {
+            const bool isCold = qBlue(pixel) > qRed(pixel) + tolerance
+                || qGreen(pixel) > qRed(pixel) + tolerance;
+            if (isCold && !isOwnCold(pixel)) {
                 return true;
             }
         }
@@ -243,11 +259,12 @@ void TestKeyboard::radioIsRinged()
                 QCOMPARE(with.pixelColor(x, y), without.pixelColor(x, y));
             }
         }
-        const QColor accent(0xA5, 0x00, 0x34);
+        const QColor blue(0x1D, 0x5F, 0xA6);
         const int middle = with.height() / 2;
-        QCOMPARE(with.pixelColor(inside.left() - 4, middle), accent);
+        QCOMPARE(with.pixelColor(inside.left() - 4, middle), blue);
         QCOMPARE(with.pixelColor(inside.left() - 2, middle), QColor(Qt::white));
-        QCOMPARE(with.pixelColor(inside.left() + radio->sizeHint().width() + 3, middle), accent);
+        QCOMPARE(with.pixelColor(inside.left() + radio->sizeHint().width() + 3, middle), blue);
+        QCOMPARE(with.pixelColor(inside.left() - 5, middle), blue);
     }
 }
 
@@ -382,7 +399,8 @@ void TestKeyboard::compareChoices(Window &window, QRadioButton *radio, const std
     }
     start->setFocus();
     const bool back = start == radios.last();
-    const bool inRow = radios.first()->y() == radios.last()->y();
+    const QWidget *neighbour = radios.at(radios.indexOf(start) + (back ? -1 : 1));
+    const bool inRow = start->y() == neighbour->y();
     QTest::keyClick(start,
                     inRow ? (back ? Qt::Key_Left : Qt::Key_Right) : (back ? Qt::Key_Up : Qt::Key_Down));
     auto *next = qobject_cast<QRadioButton *>(QApplication::focusWidget());

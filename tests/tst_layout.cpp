@@ -92,10 +92,7 @@ private slots:
     void controlsStandInOneColumn();
     void rowsBeginWithBullets_data();
     void rowsBeginWithBullets();
-    void pagesEndAtOneEdge_data();
-    void pagesEndAtOneEdge();
     void openHeadersEndStraight();
-    void guideGivesWay();
     void editorHasRoom();
     void menuHasRoom();
 };
@@ -218,41 +215,6 @@ void TestLayout::rowsBeginWithBullets()
     }
 }
 
-// The cards of every page reach from one margin to the other, or to the scroll bar.
-void TestLayout::pagesEndAtOneEdge_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize &size : {QSize(974, 612), QSize(1440, 800), QSize(1920, 1080)}) {
-        QTest::addRow("%d", size.width()) << size;
-    }
-}
-
-void TestLayout::pagesEndAtOneEdge()
-{
-    QFETCH(QSize, size);
-    Window window;
-    window.stopPainting();
-    window.dialog.resize(size);
-    QTRY_COMPARE(window.dialog.size(), size);
-    Tour tour(window, QStringLiteral("R32"));
-    for (const Tour::Stop &stop : tour.stops()) {
-        stop.show();
-        Tour::settle();
-        QRect cards;
-        const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QGroupBox *>();
-        for (const QGroupBox *box : boxes) {
-            if (box->isVisible() && box->property("role").isValid()) {
-                cards |= QRect(box->mapTo(&window.dialog, QPoint()), box->size());
-            }
-        }
-        if (!cards.isEmpty()) {
-            QCOMPARE(cards.left(), 164);
-            const int room = size.width() - 16 - cards.right() - 1;
-            QVERIFY2(room == 0 || room == 12, qPrintable(stop.name));
-        }
-    }
-}
-
 // An open section is one card: its header has no round corners in the middle.
 void TestLayout::openHeadersEndStraight()
 {
@@ -274,26 +236,6 @@ void TestLayout::openHeadersEndStraight()
         QVERIFY((corner(bottom) == line) == open);
         QCOMPARE(corner(bottom / 2), line);
     }
-}
-
-void TestLayout::guideGivesWay()
-{
-    Window window;
-    window.use(documents::standard("R32"));
-    window.dialog.setSideBarVisible(true);
-    window.showPage(MainDialog::DipSwitchPage);
-    const auto *options = Window::find(&window.dialog, "groupBoxOptions");
-    const auto *guide = Window::find(&window.dialog, "guide");
-    window.dialog.resize(974, 612);
-    QTRY_VERIFY(guide->x() > options->geometry().right());
-    window.speak(measure::lengthened);
-    QTRY_VERIFY(guide->y() > options->geometry().bottom());
-    window.dialog.resize(1440, 800);
-    QTRY_VERIFY(guide->x() > options->geometry().right());
-    window.dialog.resize(974, 612);
-    QTRY_VERIFY(guide->y() > options->geometry().bottom());
-    window.speak();
-    QTRY_VERIFY(guide->x() > options->geometry().right());
 }
 
 void TestLayout::editorHasRoom()

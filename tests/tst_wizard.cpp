@@ -320,7 +320,7 @@ void TestWizard::captionTellsTheShownPage()
             const QByteArray name = "labelSlide" + QByteArray::number(step);
             const QFont font = Window::find(&window->dialog, name.constData())->font();
             QVERIFY2(font.bold() == (page == step), name.constData());
-            QCOMPARE(font.pointSize(), 9);
+            QCOMPARE(font.pointSize(), 10);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "pages/installation/section.h"
 
 #include "app/maindialog.h"
+#include "pages/style.h"
 
 #include <QCoreApplication>
 #include <QFrame>
@@ -9,7 +10,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStyle>
 
 Section::Section(QWidget *parent)
     : Page(parent)
@@ -86,11 +86,7 @@ void Section::scrollIntoView()
 
 void Section::styleHeader(const QPushButton *hideButton, bool open)
 {
-    QWidget *header = hideButton->parentWidget();
-    header->setProperty("open", open);
-    // A style sheet looks at properties when a widget is polished.
-    header->style()->unpolish(header);
-    header->style()->polish(header);
+    style::mark(hideButton->parentWidget(), "open", open);
 }
 
 void Section::writeWhileExpanded(const QString &path, const QJsonValue &value) const

@@ -2,13 +2,12 @@
 
 #include "app/maindialog.h"
 #include "document/paths.h"
+#include "pages/product/choicerows.h"
 #include "pages/style.h"
 #include "ui_dipswitchsettingstatus.h"
 
 #include <QEvent>
 #include <QRegExpValidator>
-
-#include <algorithm>
 
 DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
     : Page(parent)
@@ -37,39 +36,54 @@ DipSwitchSettingStatus::~DipSwitchSettingStatus() = default;
 
 bool DipSwitchSettingStatus::event(QEvent *event)
 {
-    const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-    // A page that isn't shown isn't measured: the start would pay for it.
-    if (moved && isVisibleTo(window())) {
-        placeColumns();
+    if (event->type() == QEvent::Resize) {
+        placeRows();
     }
     return Page::event(event);
 }
 
-// The guide stands beside the options, or below them where long texts leave it no room.
-void DipSwitchSettingStatus::placeColumns()
+bool DipSwitchSettingStatus::eventFilter(QObject *watched, QEvent *event)
 {
-    const int options = ui->groupBoxOptions->minimumSizeHint().width();
-    const int guide = ui->guide->minimumSizeHint().width();
-    const QMargins margins = layout()->contentsMargins();
-    const int room = width() - margins.left() - margins.right();
-    ui->columns->setMinimumWidth(std::max(options, guide));
-    ui->layout_columns->setDirection(options + ui->layout_columns->spacing() + guide > room
-                                         ? QBoxLayout::TopToBottom
-                                         : QBoxLayout::LeftToRight);
+    if (event->type() == QEvent::LayoutRequest) {
+        placeRows();
+    }
+    return Page::eventFilter(watched, event);
+}
+
+// The guide beside the options has all the room that it needs; they scroll in what it leaves.
+void DipSwitchSettingStatus::placeRows()
+{
+    // A page that isn't shown isn't measured: the start would pay for it.
+    if (!isVisibleTo(window())) {
+        return;
+    }
+    constexpr int edges = 4;      // of the card
+    constexpr int roomOfBar = 12; // beside the rows
+    const QMargins page = layout()->contentsMargins();
+    const QMargins margins = ui->layout_optionRows->contentsMargins();
+    const int rowsWidth = width() - page.left() - page.right() - ui->guide->minimumSizeHint().width()
+        - ui->layout_columns->spacing() - edges - roomOfBar;
+    choiceRows->place(rowsWidth - margins.left() - margins.right());
+    QLayout *rows = ui->layout_optionRows;
+    const int height = rows->hasHeightForWidth() ? rows->totalHeightForWidth(rowsWidth)
+                                                 : rows->totalSizeHint().height();
+    ui->groupBoxOptions->setMaximumHeight(height + edges);
 }
 
 void DipSwitchSettingStatus::showEvent(QShowEvent *event)
 {
     Page::showEvent(event);
-    placeColumns();
     mainDialog->setCurrentStep(2);
     pageShown = true;
     loadJsonData();
     validationCheck();
+    placeRows();
 }
 
 void DipSwitchSettingStatus::initUi()
 {
+    makeChoiceRows();
+    ui->optionRows->installEventFilter(this);
     ui->radioFlowAlways->setChecked(true);
     // Up to four digits and one decimal: the document holds tenths.
     auto *pulses = new QRegExpValidator(
@@ -83,6 +97,61 @@ void DipSwitchSettingStatus::initUi()
                                 ui->DipSwitch31, ui->DipSwitch32, ui->DipSwitch33, ui->DipSwitch34}) {
         turn({{button, false}});
     }
+}
+
+void DipSwitchSettingStatus::makeChoiceRows()
+{
+    choiceRows = std::make_unique<ChoiceRows>(
+        std::vector<ChoiceRows::Row>{
+            {ui->layout_groupBoxDhw,
+             0,
+             ui->labelDWH,
+             {ui->radioDhwNotUse, ui->radioDhwUse, ui->radioDhwOnly, ui->labelDhwSpacing}},
+            {ui->layout_groupBoxSolar,
+             0,
+             ui->labelSolar,
+             {ui->radioSolarThermalKitNotuse, ui->radioSolarThermalKitUse}},
+            {ui->layout_groupBoxOperation,
+             0,
+             ui->labelOperation,
+             {ui->radioOperationHeating, ui->radioOperationBoth}},
+            {ui->layout_groupBoxFlowSwitch,
+             0,
+             ui->labelFlowSwitch,
+             {ui->radioFlowAlways, ui->radioFlowOnlyPump}},
+            {ui->layout_groupBoxElectricHeater,
+             0,
+             ui->labelElectric,
+             {ui->radioElectricHeaterNotuse, ui->radioElectricHeater1, ui->radioElectricHeaterBoth}},
+            {ui->layout_groupBoxThermostat,
+             0,
+             ui->labelThermostat,
+             {ui->radioThermostatNone, ui->radioThermostatUse}},
+            {ui->layout_groupBoxMeterAddress,
+             0,
+             ui->labelOrvometerInterface,
+             {ui->radioOrvometerInterfaceNotuse}},
+            {ui->layout_groupBoxMeterAddress,
+             ChoiceRows::nextLine,
+             ui->labelOrvoAddress,
+             {ui->radioOrvoAddressB0, ui->radioOrvoAddressB1}},
+            {ui->layout_groupBoxOduMasterSlave,
+             0,
+             ui->labelODUFunctionMaster,
+             {ui->radioOduMaster, ui->radioOduSlave}},
+            {ui->layout_groupBoxSilentModePriority,
+             0,
+             ui->labelSilentMode,
+             {ui->radioSilentODU, ui->radioSilentRemote}},
+            {ui->layout_groupBoxAdditionalAir,
+             0,
+             ui->labelAdditionalAir,
+             {ui->radioAdditionalAirNotUse, ui->radioAdditionalAirUse}},
+            {ui->layout_groupBoxAntifreeze,
+             0,
+             ui->labelAtifreeze,
+             {ui->radioAntifreezeNotuse, ui->radioAntifreezeUse}}},
+        std::vector<QLabel *>{ui->labelOrvoWHM1, ui->labelOrvoWHM2, ui->labelOrvoWHM3, ui->labelOrvoWHM4});
 }
 
 std::vector<QLineEdit *> DipSwitchSettingStatus::pulseEdits() const

@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+class ChoiceRows;
 class QLineEdit;
 class QPushButton;
 namespace Ui {
@@ -24,6 +25,8 @@ class DipSwitchSettingStatus : public Page
 public:
     explicit DipSwitchSettingStatus(QWidget *parent = nullptr);
     ~DipSwitchSettingStatus() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     bool event(QEvent *event) override;
@@ -92,7 +95,8 @@ private:
     using Switch = std::pair<QPushButton *, bool>;
     using Flag = std::pair<const char *, const char *>;
 
-    void placeColumns();
+    void makeChoiceRows();
+    void placeRows();
     void turn(std::initializer_list<Switch> switches);
     void saveFlags(std::initializer_list<Flag> flags);
     void choose(std::initializer_list<Switch> switches, std::initializer_list<Flag> flags);
@@ -115,5 +119,6 @@ private:
     void loadSilentModePriority(bool master);
 
     std::unique_ptr<Ui::DipSwitchSettingStatus> ui;
+    std::unique_ptr<ChoiceRows> choiceRows;
     bool pageShown = false;
 };

@@ -13,7 +13,7 @@ NUMBERED = re.compile(r"^[A-Za-z]+_\d+$")
 BARE = {"label", "pushButton", "radioButton", "checkBox", "comboBox", "spinBox", "toolButton", "widget"}
 
 # Containers that place their children themselves.
-PLACING = {"PageStack", "QScrollArea", "QStackedWidget", "QTabWidget", "QToolBox", "QSplitter", "QMainWindow", "QDockWidget"}
+PLACING = {"PageStack", "QScrollArea", "PageArea", "QStackedWidget", "QTabWidget", "QToolBox", "QSplitter", "QMainWindow", "QDockWidget"}
 
 FOCUSED = {"ContactLine", "ImageButton", "LanguageBox", "QCheckBox", "QComboBox", "QLineEdit", "QPushButton", "QSpinBox",
            "QDateEdit", "PlainPushButton", "PlainRadioButton", "QTimeEdit", "TabButton", "ValueList"}

@@ -1,0 +1,68 @@
+#include "pages/installation/sectionbody.h"
+
+#include "widgets/palette.h"
+
+#include <QEvent>
+#include <QGroupBox>
+#include <QLayout>
+#include <QPainter>
+
+namespace {
+
+/// The groups of rows of a body, those of a product's settings in it among them, from the top.
+QList<const QGroupBox *> groupsOf(const QWidget *body)
+{
+    QList<const QGroupBox *> groups;
+    const QLayout *layout = body->layout();
+    for (int index = 0; layout != nullptr && index < layout->count(); ++index) {
+        const QWidget *part = layout->itemAt(index)->widget();
+        if (part == nullptr || part->isHidden()) {
+            continue;
+        }
+        if (const auto *group = qobject_cast<const QGroupBox *>(part)) {
+            groups.append(group);
+        } else {
+            groups += groupsOf(part);
+        }
+    }
+    return groups;
+}
+
+} // namespace
+
+SectionBody::SectionBody(QWidget *parent)
+    : QFrame(parent)
+{
+}
+
+bool SectionBody::hasRows() const { return !groupsOf(this).isEmpty(); }
+
+QSize SectionBody::sizeHint() const { return hasRows() ? QFrame::sizeHint() : QSize(0, 0); }
+
+QSize SectionBody::minimumSizeHint() const { return hasRows() ? QFrame::minimumSizeHint() : QSize(0, 0); }
+
+bool SectionBody::hasHeightForWidth() const { return hasRows() && QFrame::hasHeightForWidth(); }
+
+bool SectionBody::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        update(); // the lines stand where no row is
+    }
+    return QFrame::event(event);
+}
+
+void SectionBody::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    const QList<const QGroupBox *> groups = groupsOf(this);
+    for (int index = 1; index < groups.size(); ++index) {
+        const QGroupBox *above = groups.at(index - 1);
+        const QGroupBox *below = groups.at(index);
+        const int bottom = above->mapTo(this, QPoint(0, above->height())).y();
+        const int top = below->mapTo(this, QPoint()).y();
+        constexpr int margin = 16;
+        painter.fillRect(margin, (bottom + top) / 2, width() - 2 * margin, 1,
+                         QColor(palette::hairline.value));
+    }
+}

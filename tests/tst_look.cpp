@@ -1,0 +1,420 @@
+#include "support/measure.h"
+#include "support/modal.h"
+#include "support/tour.h"
+
+#include "languages/languagemenu.h"
+#include "languages/userlanguageeditpopup.h"
+
+#include <QAbstractItemView>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QJsonDocument>
+#include <QLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace {
+
+QRect placeOf(const QWidget *widget)
+{
+    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
+}
+
+/// All cards that the shown page has.
+QRect cards(const Window &window)
+{
+    QRect all;
+    const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QGroupBox *>();
+    for (const QGroupBox *box : boxes) {
+        if (box->isVisible() && box->property("role").isValid()) {
+            all |= placeOf(box);
+        }
+    }
+    return all;
+}
+
+void resize(Window &window, const QSize &size)
+{
+    window.dialog.resize(size);
+    QTRY_COMPARE(window.dialog.size(), size);
+    Tour::settle();
+}
+
+QStringList languages()
+{
+    QStringList names = QDir(LANGUAGES_DIR).entryList({"*.json"}, QDir::Files);
+    names.replaceInStrings(QStringLiteral(".json"), QString());
+    return names;
+}
+
+void speak(Window &window, const QString &language)
+{
+    QFile file(QDir(LANGUAGES_DIR).filePath(language + ".json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    window.dialog.setLanguageDocument(QJsonDocument::fromJson(file.readAll()));
+    window.dialog.changeLanguage();
+    Tour::settle();
+}
+
+QScrollBar *barOf(const Window &window, const char *area)
+{
+    return Window::find<QScrollArea>(&window.dialog, area)->verticalScrollBar();
+}
+
+} // namespace
+
+// What makes the window one calm page: one column, one line for a decision, the guide beside the hand.
+class TestLook : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tabBarEndsWithTheCards_data() { sizes(); }
+    void tabBarEndsWithTheCards();
+    void tabsAreJoined();
+    void marksStandBesideTheTabsTexts_data() { everyLanguage(); }
+    void marksStandBesideTheTabsTexts();
+    void pagesAreOneColumn_data() { sizes(); }
+    void pagesAreOneColumn();
+    void captionsStandInOneLine_data() { everyLanguage(); }
+    void captionsStandInOneLine();
+    void dipSwitchPageShowsAll_data();
+    void dipSwitchPageShowsAll();
+    void pairsStandSideBySide();
+    void guideStandsBesideTheOptions_data() { everyLanguage(); }
+    void guideStandsBesideTheOptions();
+    void emptySectionHasNoStrip();
+    void stepCaptionsAreLargeEnough();
+    void saveIsPrimaryWhileItWouldSave();
+    void monthsNeedNoScrolling();
+    void popupLinesUpWithItsBox();
+    void popupMarksTheLanguageInForce();
+    void editorOpensInTheMiddle();
+
+private:
+    static void sizes();
+    static void everyLanguage();
+};
+
+void TestLook::sizes()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(974, 612), QSize(1440, 800), QSize(1920, 1080)}) {
+        QTest::addRow("%d", size.width()) << size;
+    }
+}
+
+void TestLook::everyLanguage()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList all = languages();
+    QCOMPARE(all.size(), 16);
+    for (const QString &language : all) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void TestLook::tabBarEndsWithTheCards()
+{
+    QFETCH(QSize, size);
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    resize(window, size);
+    for (int tab = MainDialog::FunctionTab; tab <= MainDialog::InstallationTab; ++tab) {
+        window.showPage(MainDialog::SettingPage, tab);
+        Tour::settle();
+        const QRect last = placeOf(Window::find(&window.dialog, "installationTabButton"));
+        const QRect first = placeOf(Window::find(&window.dialog, "functionTabButton"));
+        QCOMPARE(last.right(), cards(window).right());
+        QCOMPARE(first.left(), cards(window).left());
+    }
+}
+
+void TestLook::tabsAreJoined()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    int end = placeOf(Window::find(&window.dialog, "functionTabButton")).left();
+    for (const char *tab : {"function", "user", "service", "installation"}) {
+        const auto name = [tab](const char *kind) { return QByteArray(tab) + kind; };
+        const QRect place = placeOf(Window::find(&window.dialog, name("TabButton")));
+        QCOMPARE(place.left(), end);
+        end = place.left() + place.width();
+        QVERIFY(place.contains(placeOf(Window::find(&window.dialog, name("ValidationIcon")))));
+    }
+}
+
+void TestLook::marksStandBesideTheTabsTexts()
+{
+    QFETCH(QString, language);
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    speak(window, language);
+    resize(window, QSize(974, 612));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    Tour::settle();
+    for (const char *tab : {"function", "user", "service", "installation"}) {
+        const auto *button = Window::find(&window.dialog, QByteArray(tab) + "TabButton");
+        auto *mark = Window::find(&window.dialog, QByteArray(tab) + "ValidationIcon");
+        mark->show();
+        Tour::settle();
+        QFont font = button->font();
+        font.setPointSize(15);
+        const QString key = QString(tab).replace(0, 1, QString(tab).left(1).toUpper());
+        const int half = QFontMetrics(font).horizontalAdvance(window.dialog.languageTextOrKey(key)) / 2;
+        QVERIFY2(placeOf(button).center().x() + half < placeOf(mark).left(), tab);
+    }
+}
+
+void TestLook::pagesAreOneColumn()
+{
+    QFETCH(QSize, size);
+    Window window;
+    resize(window, size);
+    Tour tour(window, QStringLiteral("R32"));
+    QRect column;
+    int measured = 0;
+    for (const Tour::Stop &stop : tour.stops()) {
+        stop.show();
+        Tour::settle();
+        const QRect shown = cards(window);
+        if (stop.name.contains("select") || shown.isEmpty()) {
+            continue;
+        }
+        column = column.isNull() ? shown : column;
+        QVERIFY2(shown.left() == column.left() && shown.right() == column.right(), qPrintable(stop.name));
+        ++measured;
+    }
+    QVERIFY(measured > 8);
+    QVERIFY(column.width() <= 1040);
+    QVERIFY(column.width() == 1040 || size.width() < 1440);
+    // In the middle of what the steps and a scroll bar leave.
+    const int left = column.left() - 148;
+    const int right = size.width() - 12 - column.right() - 1;
+    QVERIFY(qAbs(left - right) <= 1);
+}
+
+void TestLook::captionsStandInOneLine()
+{
+    QFETCH(QString, language);
+    Window window;
+    speak(window, language);
+    QStringList broken;
+    int measured = 0;
+    Tour tour(window, QStringLiteral("R32"));
+    for (const Tour::Stop &stop : tour.stops()) {
+        stop.show();
+        Tour::settle();
+        const auto labels = Window::find(&window.dialog, "stackedWidget")->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            const QString role = label->property("role").toString();
+            const bool isCaption = role == "caption" || role == "heading"
+                || (label->wordWrap() && label->objectName().startsWith("label"));
+            if (isCaption && label->isVisible() && !label->text().contains('\n')) {
+                const int needed = label->fontMetrics().horizontalAdvance(label->text());
+                if (needed > label->contentsRect().width() - 2 * label->margin()) {
+                    broken.append(stop.name + ": " + label->text());
+                }
+                ++measured;
+            }
+        }
+    }
+    QVERIFY(measured > 100);
+    QCOMPARE(broken, QStringList());
+}
+
+void TestLook::dipSwitchPageShowsAll_data()
+{
+    QTest::addColumn<QString>("refrigerant");
+    QTest::newRow("R32") << "R32";
+    QTest::newRow("R410") << "R410";
+}
+
+void TestLook::dipSwitchPageShowsAll()
+{
+    QFETCH(QString, refrigerant);
+    Window window;
+    window.dialog.setSideBarVisible(true);
+    for (const QJsonDocument &document :
+         {documents::standard(refrigerant), documents::everything(refrigerant)}) {
+        window.use(document);
+        window.showPage(MainDialog::DipSwitchPage);
+        Tour::settle();
+        QCOMPARE(barOf(window, "dipswitchSettingScrollArea")->maximum(), 0);
+        QCOMPARE(barOf(window, "optionsScrollArea")->maximum(), 0);
+    }
+}
+
+void TestLook::pairsStandSideBySide()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    window.showPage(MainDialog::DipSwitchPage);
+    Tour::settle();
+    int column = 0;
+    for (const auto &[left, right] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"radioDhwNotUse", "radioDhwUse"},
+             {"radioOperationHeating", "radioOperationBoth"},
+             {"radioFlowAlways", "radioFlowOnlyPump"},
+             {"radioThermostatNone", "radioThermostatUse"},
+             {"radioOrvoAddressB0", "radioOrvoAddressB1"}}) {
+        const QRect first = placeOf(Window::find(&window.dialog, left));
+        const QRect second = placeOf(Window::find(&window.dialog, right));
+        QCOMPARE(first.top(), second.top());
+        column = column == 0 ? second.left() : column;
+        QVERIFY2(second.left() == column, right);
+    }
+}
+
+void TestLook::guideStandsBesideTheOptions()
+{
+    QFETCH(QString, language);
+    Window window;
+    window.use(documents::everything("R32"));
+    window.dialog.setSideBarVisible(true);
+    speak(window, language);
+    resize(window, QSize(974, 612));
+    window.showPage(MainDialog::DipSwitchPage);
+    Tour::settle();
+    const auto *guide = Window::find(&window.dialog, "guide");
+    QVERIFY(placeOf(guide).left() > placeOf(Window::find(&window.dialog, "groupBoxOptions")).right());
+    QScrollBar *bar = barOf(window, "optionsScrollArea");
+    QVERIFY(bar->maximum() > 0);
+    bar->setValue(bar->maximum());
+    QCOMPARE(guide->visibleRegion().boundingRect(), guide->rect());
+    const QStringList faults = measure::cutTexts(&window.dialog) + measure::misplaced(&window.dialog)
+        + measure::needlessScrolling(&window.dialog);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
+}
+
+// Cooling offers nothing while the heat pump doesn't cool.
+void TestLook::emptySectionHasNoStrip()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    Tour(window, QStringLiteral("R32")).expandSections();
+    Tour::settle();
+    int empty = 0;
+    for (const QFrame *body : window.dialog.findChildren<QFrame *>("frame")) {
+        const auto groups = body->findChildren<QGroupBox *>(QString(), Qt::FindDirectChildrenOnly);
+        const bool hasRows = std::any_of(groups.begin(), groups.end(),
+                                         [](const QGroupBox *group) { return group->isVisible(); });
+        if (body->inherits("SectionBody") && body->isVisible() && !hasRows) {
+            QVERIFY(body->height() <= 1);
+            ++empty;
+        }
+    }
+    QVERIFY(empty > 0);
+}
+
+void TestLook::stepCaptionsAreLargeEnough()
+{
+    const Window window;
+    for (const char *name : {"labelSlide1", "labelSlide2", "labelSlide3", "labelSlide4"}) {
+        auto *caption = Window::find(&window.dialog, name);
+        caption->ensurePolished();
+        QVERIFY(caption->font().pointSize() >= 10);
+    }
+}
+
+void TestLook::saveIsPrimaryWhileItWouldSave()
+{
+    Window window;
+    auto *save = Window::find<QPushButton>(Window::find(&window.dialog, "toolbarGroupBox"), "saveButton");
+    const auto isPrimary = [save] { return save->property("saves").toBool(); };
+    const auto complete = [&window](bool completed) {
+        for (const int step : {1, 2, 3}) {
+            window.dialog.setStepCompleted(completed, step);
+        }
+    };
+    QVERIFY(!isPrimary());
+    complete(true);
+    QVERIFY(!isPrimary()); // no document
+    complete(false);
+    Window::click(Window::find(&window.dialog, "toolbarGroupBox"), "newButton");
+    Window::click(&window.dialog, "radioButtonMiddleTemp");
+    Window::click(&window.dialog, "radioButtonR32");
+    QVERIFY(!isPrimary());
+    complete(true);
+    QVERIFY(isPrimary());
+    QVERIFY(save->styleSheet().isEmpty());
+    QCOMPARE(save->grab().toImage().pixelColor(8, 18), QColor(0xA5, 0x00, 0x34));
+    for (const int step : {1, 2, 3}) {
+        window.dialog.setStepCompleted(false, step);
+        QVERIFY(!isPrimary());
+        QVERIFY(save->isEnabled());
+        QCOMPARE(save->grab().toImage().pixelColor(8, 18), QColor(Qt::white));
+        window.dialog.setStepCompleted(true, step);
+        QVERIFY(isPrimary());
+    }
+    Window::click(Window::find(&window.dialog, "toolbarGroupBox"), "newButton");
+    QVERIFY(!isPrimary());
+}
+
+void TestLook::monthsNeedNoScrolling()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *months = Window::find<QComboBox>(&window.dialog, "comboDateMonth");
+    QCOMPARE(months->count(), 13);
+    months->showPopup();
+    QCOMPARE(months->view()->verticalScrollBar()->maximum(), 0);
+    months->hidePopup();
+}
+
+void TestLook::popupLinesUpWithItsBox()
+{
+    Window window;
+    const auto *box = Window::find(&window.dialog, "languageCombobox");
+    Window::click(&window.dialog, "languageCombobox");
+    const auto *menu = window.dialog.findChild<LanguageMenu *>();
+    QVERIFY(menu->isVisible());
+    QCOMPARE(menu->width(), 176);
+    QCOMPARE(placeOf(menu).left(), placeOf(box).left());
+    QCOMPARE(placeOf(menu).right(), placeOf(box).right());
+}
+
+void TestLook::popupMarksTheLanguageInForce()
+{
+    Window window;
+    Window::click(&window.dialog, "languageCombobox");
+    const auto *menu = window.dialog.findChild<LanguageMenu *>();
+    const QString inForce = Window::find<QLabel>(&window.dialog, "labelCurrentLanguage")->text();
+    int marked = 0;
+    for (const QLabel *name : menu->findChildren<QLabel *>("labelLanguage")) {
+        QWidget *row = name->parentWidget();
+        const bool isMarked = row->grab().toImage().pixelColor(1, 20) == QColor(0xA5, 0x00, 0x34);
+        QCOMPARE(isMarked, name->text() == inForce);
+        marked += isMarked ? 1 : 0;
+    }
+    QCOMPARE(marked, 1);
+}
+
+void TestLook::editorOpensInTheMiddle()
+{
+    Window window;
+    window.dialog.move(60, 40);
+    QTRY_COMPARE(window.dialog.pos(), QPoint(60, 40));
+    Window::click(&window.dialog, "languageCombobox");
+    const auto *menu = window.dialog.findChild<LanguageMenu *>();
+    QPoint apart(100, 100);
+    QVERIFY(modal::drive<UserLanguageEditPopup>([menu] { Window::click(menu, "newButton"); },
+                                                [&](UserLanguageEditPopup *editor) {
+                                                    apart = editor->geometry().center()
+                                                        - window.dialog.geometry().center();
+                                                    Window::click(editor, "closeButton");
+                                                }));
+    QVERIFY(apart.manhattanLength() <= 2);
+}
+
+CALORA_TEST_MAIN(TestLook)
+#include "tst_look.moc"
