@@ -309,7 +309,7 @@ QAccessibleInterface *ofWidget(QWidget *widget, const QString &className)
         return new AccessibleRow(widget);
     }
     static const QStringList groups{QStringLiteral("QGroupBox"), QStringLiteral("QFrame"),
-                                    QStringLiteral("QWidget")};
+                                    QStringLiteral("QWidget"), QStringLiteral("SectionBody")};
     return groups.contains(className) ? new Group(widget) : nullptr;
 }
 
