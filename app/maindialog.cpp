@@ -109,9 +109,9 @@ void MainDialog::initUi()
     }
     ui->sideGroupBox->hide();
     ui->newButton->setFocus(); // not the first button of the title bar
-    addShortcut(Qt::CTRL + Qt::Key_N, ui->newButton);
-    addShortcut(Qt::CTRL + Qt::Key_O, ui->openButton);
-    addShortcut(Qt::CTRL + Qt::Key_S, ui->saveButton);
+    addShortcut(QKeySequence::New, ui->newButton);
+    addShortcut(QKeySequence::Open, ui->openButton);
+    addShortcut(QKeySequence::Save, ui->saveButton);
     ui->labelVersion->setText(QStringLiteral("Orvo Heating Configurator SW ver. 1.0 / RMC SW ver. 3.03.1b"));
     initLanguages();
 }
@@ -175,11 +175,14 @@ void MainDialog::initSettingInstallationUi()
     connect(this, &MainDialog::changeInstallationLanguage, system,
             &InstallationSystemSetting::changeLanguage);
 
-    const auto refresh = &InstallationSystemSetting::refreshInstallationPageSignal;
-    connect(system, refresh, cool, &InstallationCool::refresh);
-    connect(system, refresh, heat, &InstallationHeat::refresh);
-    connect(system, refresh, automatic, &InstallationaAuto::refresh);
-    connect(system, refresh, hotWater, &InstallationDWH::refresh);
+    connect(system, &InstallationSystemSetting::refreshInstallationPageSignal, cool,
+            &InstallationCool::refresh);
+    connect(system, &InstallationSystemSetting::refreshInstallationPageSignal, heat,
+            &InstallationHeat::refresh);
+    connect(system, &InstallationSystemSetting::refreshInstallationPageSignal, automatic,
+            &InstallationaAuto::refresh);
+    connect(system, &InstallationSystemSetting::refreshInstallationPageSignal, hotWater,
+            &InstallationDWH::refresh);
     connect(cool, &InstallationCool::refreshInstallationPageSignal, automatic, &InstallationaAuto::refresh);
     connect(heat, &InstallationHeat::refreshInstallationPageSignal, automatic, &InstallationaAuto::refresh);
 }

@@ -20,9 +20,9 @@ QMap<int, int> Units::makeTable()
                                           34,  44,  54,  64,  74,  84, 94, 104, 114};
     QMap<int, int> table;
     int fahrenheit = -56;
-    for (int celsius = lowest; celsius <= highest; ++celsius) {
-        table.insert(celsius, fahrenheit);
-        if (std::find(doubled.begin(), doubled.end(), celsius) == doubled.end()) {
+    for (int degrees = lowest; degrees <= highest; ++degrees) {
+        table.insert(degrees, fahrenheit);
+        if (std::find(doubled.begin(), doubled.end(), degrees) == doubled.end()) {
             fahrenheit += 2;
         }
     }

@@ -17,8 +17,8 @@ constexpr auto speed = "SettingInfo.installation.pumpRPM.pumpRPMValue";
 
 bool isSet(const QJsonObject &document, const char *path)
 {
-    const QString word = reading::at(document, QLatin1String(path)).toString();
-    return word.compare(QLatin1String("SET"), Qt::CaseInsensitive) == 0;
+    const QString flag = reading::at(document, QLatin1String(path)).toString();
+    return flag.compare(QLatin1String("SET"), Qt::CaseInsensitive) == 0;
 }
 
 QString number(int value, const QString &unit) { return QString::number(value) + unit; }

@@ -35,9 +35,9 @@ std::optional<Texts> Texts::load(const QString &name)
     Texts texts;
     for (auto each = map.begin(); each != map.end(); ++each) {
         // The window breaks long captions.
-        const QString text = each->toString().remove(brokenWord).simplified();
-        if (!text.isEmpty()) {
-            texts.texts.insert(each.key(), text);
+        const QString shown = each->toString().remove(brokenWord).simplified();
+        if (!shown.isEmpty()) {
+            texts.texts.insert(each.key(), shown);
         }
     }
     return texts;

@@ -182,11 +182,11 @@ QString Page::captionOf(const QString &key) const { return mainDialog->languageV
 void Page::setCaptions(const std::vector<CaptionRow> &rows)
 {
     for (const CaptionRow &row : rows) {
-        const QString caption = mainDialog->languageValue(QLatin1String(row.key));
+        const QString shown = mainDialog->languageValue(QLatin1String(row.key));
         if (auto *label = qobject_cast<QLabel *>(row.widget)) {
-            plaintext::setText(label, caption);
+            plaintext::setText(label, shown);
         } else if (auto *button = qobject_cast<QAbstractButton *>(row.widget)) {
-            plaintext::setText(button, caption);
+            plaintext::setText(button, shown);
         }
     }
 }
@@ -217,8 +217,8 @@ void Page::offerGroup(QWidget *group, bool offered)
 void Page::enable(bool enabled, std::initializer_list<QWidget *> captions,
                   std::initializer_list<QWidget *> widgets)
 {
-    for (QWidget *caption : captions) {
-        style::apply(caption, style::labelText(enabled));
+    for (QWidget *label : captions) {
+        style::apply(label, style::labelText(enabled));
     }
     for (QWidget *widget : widgets) {
         widget->setEnabled(enabled);

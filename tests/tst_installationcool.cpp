@@ -64,7 +64,6 @@ void TestInstallationCool::writes_data()
         QTest::newRow(water::rowName(control, before, QString::fromUtf8(item)).constData())
             << before << QString::fromUtf8(item) << written;
     };
-    const QString air = root + "settempLimit.coolAir.";
     row("comboForcerWater", {}, "20°C", {{root + "UFH_stop.watertemp", 20}});
     row("comboTemperatureWaterMin", {}, "17°C", {{lowLimit, 17}});
     row("comboTemperatureWaterMin", {}, "20°C",
@@ -201,7 +200,6 @@ void TestInstallationCool::shownWhen_data()
     const auto row = [](const char *group, const QVariantMap &values, bool shown) {
         QTest::newRow(water::rowName(group, values).constData()) << values << shown;
     };
-    const QString basisFlag = flag("is_coolwatercontrolbasis");
     for (const char *group : {"groupBoxTempRange", "groupBoxForcedStop"}) {
         row(group, {}, true);
         row(group, {{flag("is_cool"), "x"}}, true);

@@ -60,7 +60,6 @@ void TestInstallationHeat::writes_data()
     row("comboTemperatureWaterMax", {}, "35°C", {{highLimit, 35}});
     row("comboTemperatureWaterMax", {{constant + "ctrTemp", 60}}, "50°C",
         {{highLimit, 50}, {constant + "ctrTemp", 50}, {constant + "ctrTempMainZone", 50}});
-    const QVariantMap both{{constant + "ctrTemp", 40}, {constant + "ctrTempMainZone", 40}};
     row("comboControlWaterTemp", {{mainZone, "SET"}}, "40°C", {{constant + "ctrTemp", 40}});
     row("comboControlMainZoneTemp", {{mainZone, "SET"}}, "30°C", {{constant + "ctrTempMainZone", 30}});
     row("comboReferenceWater", seasons(1, 2, 3, 4), "Inlet",

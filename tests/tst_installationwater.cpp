@@ -91,7 +91,7 @@ private:
     static QByteArray control() { return QByteArray(QTest::currentDataTag()).split(' ').value(1); }
 
     std::unique_ptr<Driver<QWidget>> driver;
-    Side side;
+    Side side{};
 };
 
 void TestInstallationWater::addSides()

@@ -16,10 +16,7 @@
 
 namespace {
 
-QRect placeOf(const QWidget *widget)
-{
-    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
-}
+QRect placeOf(const QWidget *widget) { return {widget->mapTo(widget->window(), QPoint()), widget->size()}; }
 
 /// All cards that the shown page has.
 QRect cards(const Window &window)
@@ -165,7 +162,7 @@ void TestLook::marksStandBesideTheTabsTexts()
         Tour::settle();
         QFont font = button->font();
         font.setPointSize(15);
-        const QString key = QString(tab).replace(0, 1, QString(tab).left(1).toUpper());
+        const QString key = QString(tab).replace(0, 1, QString(QString(tab).at(0).toUpper()));
         const int half = QFontMetrics(font).horizontalAdvance(window.dialog.languageTextOrKey(key)) / 2;
         QVERIFY2(placeOf(button).center().x() + half < placeOf(mark).left(), tab);
     }

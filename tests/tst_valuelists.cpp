@@ -93,8 +93,8 @@ void TestValueLists::tableIsFilledAnew()
     QCOMPARE(before, Units::makeTable());
     QCOMPARE(dialog().celsiusToFahrenheit(5), 40);
     QCOMPARE(dialog().fahrenheitToCelsius(40), 4);
-    QCOMPARE(dialog().textWithoutTwoChars("35°C"), 35);
-    QCOMPARE(dialog().textWithoutOneChar("12K"), 12);
+    QCOMPARE(MainDialog::textWithoutTwoChars("35°C"), 35);
+    QCOMPARE(MainDialog::textWithoutOneChar("12K"), 12);
 }
 
 void TestValueLists::unitIsAnyText()
@@ -184,8 +184,8 @@ void TestValueLists::fillsInSilence()
     QSignalSpy texts(combo, &QComboBox::currentTextChanged);
     QSignalSpy indices(combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
     dialog().setRangeValueInComboBox(combo, 1, 3, MainDialog::Kelvin, 1);
-    dialog().setComboItems(combo, {"a", "b"}, 1);
-    dialog().refillComboItems(combo, {"c", "d"}, -1);
+    MainDialog::setComboItems(combo, {"a", "b"}, 1);
+    MainDialog::refillComboItems(combo, {"c", "d"}, -1);
     QCOMPARE(texts.size() + indices.size(), 0);
     QVERIFY(!combo->signalsBlocked());
     combo->setCurrentIndex(1);
@@ -361,14 +361,14 @@ void TestValueLists::fillsTexts()
     const QStringList items{"x", "y", "z"};
     combo->addItems({"old", "older"});
     combo->setCurrentIndex(1);
-    dialog().setComboItems(combo, items, index);
+    MainDialog::setComboItems(combo, items, index);
     QCOMPARE(Window::items(combo), items);
     QCOMPARE(combo->currentIndex(), set);
-    dialog().refillComboItems(combo, items, index);
+    MainDialog::refillComboItems(combo, items, index);
     QCOMPARE(Window::items(combo), items);
     QCOMPARE(combo->currentIndex(), refilled);
     for (const char *round : {"emptied", "empty already"}) {
-        dialog().refillComboItems(combo, {}, index);
+        MainDialog::refillComboItems(combo, {}, index);
         QVERIFY2(combo->currentIndex() == -1, round);
         QVERIFY2(combo->count() == 0, round);
     }
@@ -396,7 +396,7 @@ void TestValueLists::checksALine()
     line->setVisible(shown);
     line->setEnabled(enabled);
     line->setText(text);
-    QTEST(dialog().checkValidationLineEdit(line), "passes");
+    QTEST(MainDialog::checkValidationLineEdit(line), "passes");
 }
 
 void TestValueLists::checksAList_data()
@@ -422,7 +422,7 @@ void TestValueLists::checksAList()
     combo->setCurrentIndex(index);
     combo->setVisible(shown);
     combo->setEnabled(enabled);
-    QTEST(dialog().checkValidationComboBox(combo), "passes");
+    QTEST(MainDialog::checkValidationComboBox(combo), "passes");
 }
 
 void TestValueLists::checksRadios()
@@ -439,27 +439,27 @@ void TestValueLists::checksRadios()
             radio->setChecked(bit(number++));
         }
         const bool pairPasses = bit(0) || bit(1) || bit(2) || bit(3) || bit(4) || bit(5);
-        QCOMPARE(dialog().checkValidationRadio(first, second, nullptr), pairPasses);
-        QCOMPARE(dialog().checkValidationRadio(first, second, third), pairPasses || bit(8));
+        QCOMPARE(MainDialog::checkValidationRadio(first, second, nullptr), pairPasses);
+        QCOMPARE(MainDialog::checkValidationRadio(first, second, third), pairPasses || bit(8));
     }
 }
 
 void TestValueLists::checksRadiosOfAHiddenPage()
 {
-    QVERIFY(!dialog().checkValidationRadio(radios[0], radios[1], nullptr));
+    QVERIFY(!MainDialog::checkValidationRadio(radios[0], radios[1], nullptr));
     host->hide();
-    QVERIFY(dialog().checkValidationRadio(radios[0], radios[1], nullptr));
-    QVERIFY(dialog().checkValidationLineEdit(line));
+    QVERIFY(MainDialog::checkValidationRadio(radios[0], radios[1], nullptr));
+    QVERIFY(MainDialog::checkValidationLineEdit(line));
     combo->addItem("Select");
-    QVERIFY(dialog().checkValidationComboBox(combo));
+    QVERIFY(MainDialog::checkValidationComboBox(combo));
 }
 
 void TestValueLists::tellsAFailedCheck()
 {
     combo->addItem("Select");
-    QVERIFY(!dialog().checkValidationComboBox(combo));
-    QVERIFY(!dialog().checkValidationRadio(radios[0], radios[1], radios[2]));
-    QVERIFY(!dialog().checkValidationLineEdit(line));
+    QVERIFY(!MainDialog::checkValidationComboBox(combo));
+    QVERIFY(!MainDialog::checkValidationRadio(radios[0], radios[1], radios[2]));
+    QVERIFY(!MainDialog::checkValidationLineEdit(line));
     QCOMPARE(messages::all(),
              (QStringList{
                  "MainDialog::checkValidationComboBox Object Name: \"list\" validation check failed",
@@ -469,9 +469,9 @@ void TestValueLists::tellsAFailedCheck()
     combo->hide();
     line->hide();
     radios[0]->hide();
-    QVERIFY(dialog().checkValidationComboBox(combo));
-    QVERIFY(dialog().checkValidationRadio(radios[0], radios[1], radios[2]));
-    QVERIFY(dialog().checkValidationLineEdit(line));
+    QVERIFY(MainDialog::checkValidationComboBox(combo));
+    QVERIFY(MainDialog::checkValidationRadio(radios[0], radios[1], radios[2]));
+    QVERIFY(MainDialog::checkValidationLineEdit(line));
     QVERIFY(messages::all().isEmpty());
 }
 

@@ -27,7 +27,8 @@ JsonList::JsonList(QObject *window)
 bool JsonList::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {
-        if (auto *dialog = qobject_cast<QFileDialog *>(static_cast<QChildEvent *>(event)->child())) {
+        QObject *child = static_cast<QChildEvent *>(event)->child();
+        if (auto *dialog = qobject_cast<QFileDialog *>(child)) {
             dialog->setStyleSheet(plainLook());
             dialog->installEventFilter(this);
             new PlainQuestions(dialog);

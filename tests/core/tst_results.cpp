@@ -32,11 +32,11 @@ void TestResults::joins()
         }
     }
     QVERIFY(joined() && results.installationValid && results.settingDone && !results.serviceValid);
-    for (const auto &parts : {sections, tabs, steps}) {
-        for (bool Results::*part : parts) {
+    for (const auto *parts : {&sections, &tabs, &steps}) {
+        for (bool Results::*part : *parts) {
             results.*part = false;
             QVERIFY(!joined());
-            QCOMPARE(results.installationValid, parts.begin() != sections.begin());
+            QCOMPARE(results.installationValid, parts != &sections);
             results.*part = true;
         }
     }

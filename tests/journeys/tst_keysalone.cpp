@@ -4,6 +4,7 @@
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QTimer>
 
