@@ -126,9 +126,13 @@ void TestLanguageKeys::act(const QString &action) const
     } else if (action == "a row's button") {
         Window::click(list()->viewport(), "buttonModify");
     } else if (action == "the editor") {
-        QVERIFY(modal::drive<UserLanguageEditPopup>(
-            [this] { Window::click(menu(), "newButton"); },
-            [](UserLanguageEditPopup *editor) { Window::click(editor, "closeButton"); }));
+        QVERIFY(modal::drive<UserLanguageEditPopup>([this] { Window::click(menu(), "newButton"); },
+                                                    [](UserLanguageEditPopup *editor) {
+                                                        // A window that is closed before it has got the focus
+                                                        // may leave it with none.
+                                                        QVERIFY(QTest::qWaitForWindowActive(editor));
+                                                        Window::click(editor, "closeButton");
+                                                    }));
     } else if (action == "a file loaded") {
         filedialogs::answer([this] { Window::click(menu(), "loadButton"); },
                             languagefolder::file("Other.json"));
