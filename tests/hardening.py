@@ -64,6 +64,8 @@ def check_commands(path):
     commands = [(entry["file"], shlex.split(entry["command"])) for entry in json.loads(path.read_text(encoding="utf-8"))]
     options = {}
     for file, words in commands:
+        if file.endswith(".rc"):
+            continue  # a resource, which isn't compiled
         target = re.search(r"CMakeFiles/([\w-]+)\.dir/", words[words.index("-o") + 1]).group(1)
         options.setdefault(target, []).append((file, [word for word in words if OPTION.match(word)]))
     [(_, wanted)] = options["hardening-probe"]

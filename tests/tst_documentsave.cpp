@@ -161,7 +161,11 @@ void TestDocumentSave::laterSaveDoesNotAsk()
 
 void TestDocumentSave::questionNamesTheFileLetterForLetter()
 {
+#ifdef Q_OS_WIN
+    const QString name = QStringLiteral("&lt;b&gt;a.json"); // no name has a "<" there
+#else
     const QString name = QStringLiteral("<b>a.json");
+#endif
     put(window->path(name), unsorted);
     window->dialog.openNewJsonFile("R32");
     window->completeSteps();

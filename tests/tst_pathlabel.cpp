@@ -44,8 +44,10 @@ private:
 void TestPathLabel::opensFilesOfOddNames_data()
 {
     QTest::addColumn<QString>("name");
+#ifndef Q_OS_WIN // where no name has a "<"
     QTest::newRow("markup") << "<title>x.json";
     QTest::newRow("picture") << "<img src=x>.json";
+#endif
     QTest::newRow("entities") << "A&lt;b&gt;.json";
     QTest::newRow("ampersand") << "A&B &&.json";
     QTest::newRow("umlauts") << QString::fromUtf8("Wärmepumpe Müller.json");

@@ -28,9 +28,14 @@ inline Outcome run(const QStringList &arguments, const QByteArray &input = {})
     if (!process.waitForFinished(120000)) {
         return {};
     }
+    const auto text = [](QByteArray told) {
+#ifdef Q_OS_WIN
+        told.replace("\r\n", "\n"); // how lines end there
+#endif
+        return QString::fromUtf8(told);
+    };
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+            text(process.readAllStandardOutput()), text(process.readAllStandardError())};
 }
 
 /// What `check --json` says of each file, by the file's name.
