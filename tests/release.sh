@@ -27,7 +27,8 @@ expect() { # exit code, text, argument...
 
 command git clone --quiet . "$clone"
 # As they are now, whatever has been committed.
-for file in scripts/release CMakeLists.txt CHANGELOG.md packaging/linux/metainfo.xml.in cmake/Packaging.cmake cmake/PackagingLinux.cmake; do
+for file in scripts/release CMakeLists.txt CHANGELOG.md packaging/linux/metainfo.xml.in cmake/Packaging.cmake cmake/PackagingLinux.cmake \
+    SECURITY.md; do
     cp "$file" "$clone/$file"
 done
 change CMakeLists.txt 's/^\(project(calora-configurator VERSION\) [0-9.]*/\1 7.3/'
@@ -48,8 +49,10 @@ rm "$clone/new"
 expect 1 "says that 7.3 isn't released" 7.3
 expect 1 'placeholder as address' 7.3
 expect 1 'placeholder as identifier' 7.3
+expect 1 'SECURITY.md still tells of a placeholder' 7.3
 expect 1 "hasn't the tag v7.3" 7.3
 change CHANGELOG.md 's/^## 7.3 (not released)/## 7.3 (1 May 2027)/'
+change SECURITY.md '/placeholder/d'
 change cmake/Packaging.cmake 's/example\.org/example.com/'
 change cmake/PackagingLinux.cmake 's/io\.github\.calora/com.example.calora/'
 commit published

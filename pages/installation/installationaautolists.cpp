@@ -70,6 +70,7 @@ void InstallationaAuto::valueChanged(int modelName, int selectedTemp, bool isRef
         return;
     }
     const bool leads = row->mainZone != autoengine::none && mainZoneOff();
+    // Oddity 20: a box that loses its item here writes nothing.
     const Range list = autoengine::offered(*row, tempRange.at(row->slot), leads,
                                            [this](int each) { return current(each); });
     offer(box(modelName), list);
@@ -91,7 +92,7 @@ void InstallationaAuto::refreshTempRange(int type)
     }
 }
 
-// Oddity 20: what the text says is saved, also where narrowing the lists has blanked the box.
+// What the user chose is saved, also where narrowing the lists has blanked the box meanwhile.
 void InstallationaAuto::choose(int modelName, const QString &text)
 {
     const autoengine::Row *row = autoengine::row(modelName);

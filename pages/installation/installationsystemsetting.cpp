@@ -199,7 +199,8 @@ void InstallationSystemSetting::saveJsonData(const QString &path, const QJsonVal
 
 QJsonValue InstallationSystemSetting::parseJsonData(const QString &path) { return read(path); }
 
-// Selections run with the signals live: in an open section each writes back what it shows.
+// Selections run with the signals live: in an open section each writes back what it shows. None writes what a
+// later one reads.
 void InstallationSystemSetting::loadJsonData()
 {
     const QString product = word(paths::product);

@@ -7,7 +7,6 @@ from languagefile import ENGLISH, FOLDER, PLACES, english, findings_in, places
 from tree import ROOT, allowed, finish, own_files
 
 RESERVED = FOLDER / "reserved-keys.txt"  # in the file, but not asked for
-UNANSWERED = Path(__file__).with_name("languages-unanswered.txt")  # asked for, but not in the file
 
 LITERAL = re.compile(r'"((?:\\.|[^"\\\n])*)"')
 TEXT = r'(?:QStringLiteral\(|QLatin1String\()?"([^"\n]+)"'
@@ -30,7 +29,7 @@ def asked(text):
 
 def main():
     keys = set(english())
-    reserved, unanswered = allowed(RESERVED), allowed(UNANSWERED)
+    reserved = allowed(RESERVED)
     mentioned, findings = set(), []
     for path in own_files("app/*.cpp", "app/*.h", "document/*", "forms/*.ui", "languages/*", "pages/*", "rules/*", "widgets/*"):
         text = (ROOT / path).read_text(encoding="utf-8")
@@ -38,12 +37,11 @@ def main():
         if path.suffix != ".ui":
             mentioned.update(LITERAL.findall(text))
         for position, key in asked(text):
-            if key not in keys | unanswered:
+            if key not in keys:
                 line = text.count("\n", 0, position) + 1
                 findings.append(f"{path}:{line}: no key {key!r} in {ENGLISH.name}")
     findings += [f"nobody asks for the key {key!r} of {ENGLISH.name}" for key in sorted(keys - mentioned - reserved)]
     findings += [f"{RESERVED.name}: {key!r} is not a key" for key in sorted(reserved - keys)]
-    findings += [f"{UNANSWERED.name}: {key!r} is a key by now" for key in sorted(unanswered & keys)]
     findings += [f"{PLACES.name}: {key!r} is neither there nor in a form, or not in {ENGLISH.name}" for key in sorted(keys ^ set(places()))]
     if set(places()) == keys:
         findings += [f"{path.name}: {finding}" for path in sorted(FOLDER.glob("*.json"))

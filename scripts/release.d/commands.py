@@ -12,8 +12,8 @@ TABLE = Path(__file__).with_name("commands.tsv")
 # The guide's own commands are those of scripts/test-package and scripts/test-installer.
 DOCUMENTS = [ROOT / "README.md", ROOT / "CONTRIBUTING.md", ROOT / "packaging/README.md", *sorted((ROOT / "docs").glob("*.md")),
              ROOT / "docs/guide/README.md"]
-LINE = re.compile(r"^ {4}((?:scripts/|cmake |ninja |ctest |sudo |git |gpg |osslsigncode |sha256sum )\S.*)$", re.M)
-INLINE = re.compile(r"`(scripts/(?![\w-]+\.d/)[^`/]+)`")
+LINE = re.compile(r"^ {4}((?:scripts/|cmake |ninja |ctest |sudo |git |gpg |osslsigncode |sha256sum |jsonschema )\S.*)$", re.M)
+INLINE = re.compile(r"`((?:CALORA_\w+=\S+ )?scripts/(?![\w-]+\.d/)[^`/ ]+(?: [^`]*)?)`")
 
 
 def told():
