@@ -70,7 +70,9 @@ QString spoken(const QString &text)
 
 QString given(const QWidget *widget)
 {
-    return spoken(mainDialog->languageTextOrKey(widget->accessibleName()));
+    // A damaged language may have a text for the empty key.
+    const QString name = widget->accessibleName();
+    return name.isEmpty() ? name : spoken(mainDialog->languageTextOrKey(name));
 }
 
 QString caption(const QWidget *row)

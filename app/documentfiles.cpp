@@ -1,6 +1,7 @@
 // New, Open and Save, as far as the window takes part: what it shows of the document, and its file dialogs.
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/product/productselection.h"
 #include "ui_maindialog.h"
 
@@ -39,7 +40,7 @@ bool MainDialog::openNewJsonFile(const QString &refrigerant)
     forgetShownPages();
     showWhetherSaveSaves();
     ui->pathLabel->showPath(refrigerant.toUpper());
-    setTempUnit(state.settings.value(QStringLiteral("SettingInfo.user.tempUnit.tempConversion")).toString());
+    setTempUnit(state.settings.value(QLatin1String(paths::tempConversion)).toString());
     return true;
 }
 
@@ -51,12 +52,12 @@ bool MainDialog::openJsonFile()
     if (selectedFile.isEmpty() || !state.settings.open(selectedFile)) {
         return false;
     }
-    forgetShownPages();
     ui->pathLabel->showPath(selectedFile);
     ui->productSelectionButton->setEnabled(false);
     setStepCompleted(true, 1);
     // The product page is shown for an instant, so that it loads itself.
     ui->stackedWidget->setCurrentIndex(ProductPage);
+    forgetShownPages(); // the one that was shown until now, too
     ui->stackedWidget->setCurrentIndex(DipSwitchPage);
     return true;
 }

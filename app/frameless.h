@@ -29,7 +29,7 @@ public:
         BottomRightEdge = 128
     };
 
-    /// Without `resizable` no edge is ever found. The target deletes this before it is destroyed.
+    /// Without `resizable` no edge is ever found. A member of the target, or a child of it.
     FrameLess(QWidget *target, bool resizable);
     ~FrameLess() override;
 

@@ -20,8 +20,6 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QDebug>
-#include <QDir>
 #include <QKeyEvent>
 
 namespace {

@@ -18,6 +18,7 @@ constexpr const char *airTempLocation = "SettingInfo.installation.sensorDefine.a
 constexpr const char *settempSelect = "SettingInfo.installation.sensorDefine.settemp_select";
 constexpr const char *hotWaterHighLimit = "SettingInfo.installation.settempLimit.hotWater.high_limit";
 constexpr const char *silentPriority = "SettingInfo.installation.silentModePriority";
+constexpr const char *tempConversion = "SettingInfo.user.tempUnit.tempConversion";
 
 } // namespace paths
 

@@ -106,7 +106,8 @@ void LanguageMenu::on_listWidget_itemClicked(QListWidgetItem *item)
     Languages &languages = Languages::instance();
     languages.saveName(row->language());
     languages.load(languages.iniPath);
-    closeMenu();
+    emit closed();
+    close();
 }
 
 void LanguageMenu::on_newButton_clicked()

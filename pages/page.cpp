@@ -187,6 +187,8 @@ void Page::setCaptions(const std::vector<CaptionRow> &rows)
             plaintext::setText(label, shown);
         } else if (auto *button = qobject_cast<QAbstractButton *>(row.widget)) {
             plaintext::setText(button, shown);
+        } else {
+            qFatal("%s shows no caption", qPrintable(row.widget->objectName()));
         }
     }
 }

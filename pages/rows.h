@@ -9,7 +9,7 @@ class QWidget;
 // Rows of a page: each says a control once, and the page loads, saves and checks it by its row. A path that
 // one row or slot alone uses stands there; one that several places ask for stands in document/paths.h.
 
-/// A label, radio or button that shows the text of a language key.
+/// A label or radio that shows the text of a language key.
 struct CaptionRow {
     QWidget *widget;
     const char *key;

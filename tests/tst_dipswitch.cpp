@@ -42,6 +42,7 @@ void TestDipSwitch::startsOffAndUnchecked()
     }
     QCOMPARE(bank(&fresh, 1) + bank(&fresh, 2) + bank(&fresh, 3), QStringLiteral("0000000000000000"));
     QVERIFY(style("labelPCB").isEmpty());
+    QCOMPARE(Window::find<QLabel>(&fresh, "labelDhwSpacing")->text(), QString());
     const QValidator *validator = Window::find<QLineEdit>(&fresh, "lineEditWHM1")->validator();
     QVERIFY(validator != nullptr);
     QCOMPARE(validator->parent(), &fresh);

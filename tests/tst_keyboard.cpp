@@ -97,14 +97,33 @@ QImage look(QWidget *widget)
     return widget->window()->grab(place.adjusted(-around, -around, around, around)).toImage();
 }
 
-/// The blue of the focus, mixed with the accent where both meet, or the green of what is done.
+QVector3D awayFromWhite(QRgb pixel)
+{
+    return {255.0F - float(qRed(pixel)), 255.0F - float(qGreen(pixel)), 255.0F - float(qBlue(pixel))};
+}
+
+/// The blue of the focus, mixed with white and with the accent where they meet.
+bool isFocus(QRgb pixel)
+{
+    constexpr float tolerance = 12;
+    const auto away = [](const palette::Colour &colour) { return awayFromWhite(QColor(colour.value).rgb()); };
+    const QVector3D focus = away(palette::focus);
+    const QVector3D accent = away(palette::accent);
+    const QVector3D across = QVector3D::crossProduct(focus, accent);
+    const QVector3D own = awayFromWhite(pixel);
+    // How much of each is in it.
+    const auto share = [&across, &own](const QVector3D &of, const QVector3D &other) {
+        const QVector3D beside = QVector3D::crossProduct(across, other);
+        return QVector3D::dotProduct(own, beside) / QVector3D::dotProduct(of, beside);
+    };
+    return qAbs(own.distanceToPlane(QVector3D(), across.normalized())) <= tolerance
+        && share(focus, accent) >= 0 && share(accent, focus) * accent.length() >= -tolerance;
+}
+
+/// Or the green of what is done.
 bool isOwnCold(QRgb pixel)
 {
-    constexpr int tolerance = 6;
-    const int hue = QColor(pixel).hsvHue();
-    const auto hueOf = [](const palette::Colour &colour) { return QColor(colour.value).hsvHue(); };
-    return qAbs(hue - hueOf(palette::done)) <= tolerance
-        || (hue >= hueOf(palette::focus) - tolerance && hue <= hueOf(palette::accent) + tolerance);
+    return isFocus(pixel) || qAbs(QColor(pixel).hsvHue() - QColor(palette::done.value).hsvHue()) <= 6;
 }
 
 /// Whether the picture has a colour besides greys and the tool's own, such as the blue of a desktop's own
@@ -114,7 +133,7 @@ bool isForeign(const QImage &picture)
     constexpr int tolerance = 12;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            const QRgb pixel = picture.pixel(x, y);
+            const QRgb pixel = picture.pixelColor(x, y).rgb();
             const bool isCold = qBlue(pixel) > qRed(pixel) + tolerance
                 || qGreen(pixel) > qRed(pixel) + tolerance;
             if (isCold && !isOwnCold(pixel)) {

@@ -180,6 +180,7 @@ void TestLanguageMenu::opensAndCloses()
 void TestLanguageMenu::boxLeavesRoomForThePopup()
 {
     const auto *box = Window::find(&dialog(), "languageCombobox");
+    QCOMPARE(box->minimumWidth(), 100);
     Window::find<QLabel>(&dialog(), "labelLanguage")->setText("L");
     dialog().resize(dialog().minimumSize());
     QTRY_COMPARE(dialog().width(), 974);

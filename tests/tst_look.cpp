@@ -1,5 +1,6 @@
 #include "support/measure.h"
 #include "support/modal.h"
+#include "support/testfiles.h"
 #include "support/tour.h"
 
 #include "languages/languagemenu.h"
@@ -13,6 +14,7 @@
 #include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -84,6 +86,8 @@ private slots:
     void emptySectionHasNoStrip();
     void stepCaptionsAreLargeEnough();
     void saveIsPrimaryWhileItWouldSave();
+    void saveIsPrimaryForAnOpenedFile();
+    void saveIsPrimaryForANewDocument();
     void monthsNeedNoScrolling();
     void popupLinesUpWithItsBox();
     void popupMarksTheLanguageInForce();
@@ -190,6 +194,7 @@ void TestLook::pagesAreOneColumn()
     QVERIFY(measured > 8);
     QVERIFY(column.width() <= 1040);
     QVERIFY(column.width() == 1040 || size.width() < 1440);
+    QVERIFY(size.width() >= 1440 || column.left() - 148 <= 16); // all that there is
     // In the middle of what the steps and a scroll bar leave.
     const int left = column.left() - 148;
     const int right = size.width() - 12 - column.right() - 1;
@@ -354,6 +359,54 @@ void TestLook::saveIsPrimaryWhileItWouldSave()
     }
     Window::click(Window::find(&window.dialog, "toolbarGroupBox"), "newButton");
     QVERIFY(!isPrimary());
+}
+
+void TestLook::saveIsPrimaryForAnOpenedFile()
+{
+    Window window;
+    auto *bar = Window::find(&window.dialog, "toolbarGroupBox");
+    const auto isPrimary = [bar] { return Window::find(bar, "saveButton")->property("saves").toBool(); };
+    const auto open = [bar](const QString &file) {
+        filedialogs::answer([bar] { Window::click(bar, "openButton"); }, file);
+    };
+    const auto completeSteps = [&window] {
+        for (const int step : {1, 2, 3}) {
+            window.dialog.setStepCompleted(true, step);
+        }
+    };
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("plant.json");
+    testfiles::put(file, documents::standard("R32").toJson());
+    completeSteps();
+    QVERIFY(!isPrimary()); // no document
+    open(QString());
+    QVERIFY(!isPrimary());
+    open(file);
+    QVERIFY(isPrimary());
+    window.dialog.setStepCompleted(false, 2);
+    QVERIFY(!isPrimary());
+    open(QString());
+    QVERIFY(!isPrimary());
+    completeSteps();
+    window.speak("~");
+    QVERIFY(isPrimary());
+    Window::click(bar, "saveButton");
+    QVERIFY(isPrimary());
+    Window::click(bar, "newButton");
+    QVERIFY(!isPrimary());
+}
+
+// Whoever calls it, and whatever the steps are.
+void TestLook::saveIsPrimaryForANewDocument()
+{
+    Window window;
+    for (const int step : {1, 2, 3}) {
+        window.dialog.setStepCompleted(true, step);
+    }
+    QVERIFY(window.dialog.openNewJsonFile("R32"));
+    QVERIFY(Window::find(Window::find(&window.dialog, "toolbarGroupBox"), "saveButton")
+                ->property("saves")
+                .toBool());
 }
 
 void TestLook::monthsNeedNoScrolling()

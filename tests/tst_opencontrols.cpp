@@ -1,3 +1,4 @@
+#include "support/testfiles.h"
 #include "support/window.h"
 
 #include "app/tabbutton.h"
@@ -13,6 +14,9 @@
 #include "pages/product/dipswitchsettingstatus.h"
 
 #include <QAccessible>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -85,6 +89,7 @@ private slots:
     void pagesOfAnotherDocumentAreNamed();
     void productPageNamesWhatIsOpen();
     void languageIsFollowed();
+    void textOfNoKeyNamesNothing();
     void nothingIsLogged();
 
 private:
@@ -257,6 +262,15 @@ void TestOpenControls::pagesOfAnotherDocumentAreNamed()
     QCOMPARE(tells("userValidationIcon"), QString("Date"));
     window->dialog.startNewDocument();
     QCOMPARE(tells("userValidationIcon"), QString("User"));
+
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    QCOMPARE(tells("userValidationIcon"), QString("Date"));
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("plant.json");
+    testfiles::put(file, documents::standard("R32").toJson());
+    filedialogs::answer([this] { Window::click(&window->dialog, "openButton"); }, file);
+    QCOMPARE(window->dialog.document(), documents::standard("R32"));
+    QCOMPARE(tells("userValidationIcon"), QString("User"));
 }
 
 void TestOpenControls::productPageNamesWhatIsOpen()
@@ -283,6 +297,20 @@ void TestOpenControls::languageIsFollowed()
              QString("User~"));
     window->speak();
     QCOMPARE(tells("labelErrorSetting"), QString("Function, Date, Installation"));
+}
+
+// The language editor can write such an entry.
+void TestOpenControls::textOfNoKeyNamesNothing()
+{
+    QJsonObject texts = QJsonDocument::fromJson(testfiles::content(":/language/English.json")).object();
+    texts.insert(QString(), "x");
+    window->dialog.setLanguageDocument(QJsonDocument(texts));
+    window->dialog.changeLanguage();
+    QCOMPARE(told(Window::find(&window->dialog, "saveButton"), QAccessible::Name), QString("Save"));
+    window->use(documents::standard("R32"));
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *radio = Window::find<QRadioButton>(&window->dialog, "radioCelicious");
+    QCOMPARE(told(radio, QAccessible::Name), radio->text());
 }
 
 void TestOpenControls::nothingIsLogged()

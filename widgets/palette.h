@@ -15,6 +15,9 @@ struct Colour {
 
 /// Where one is and what one chose.
 inline constexpr Colour accent{"@accent", "#A50034"};
+/// Under the mouse, and pressed.
+inline constexpr Colour over{"@over", "#BF1F52"};
+inline constexpr Colour press{"@press", "#7D0027"};
 /// What is still open.
 inline constexpr Colour open{"@open", "#D62B1F"};
 /// What is done.
@@ -36,7 +39,7 @@ inline constexpr Colour ground{"@ground", "#F2F2F2"};
 /// Behind the caption of the step that is shown.
 inline constexpr Colour tint{"@tint", "#F9ECF0"};
 
-inline constexpr std::array all{accent, open, done,     focus, text,   quiet,
-                                edge,   line, hairline, pale,  ground, tint};
+inline constexpr std::array all{accent, over, press, open,     done, focus,  text,
+                                quiet,  edge, line,  hairline, pale, ground, tint};
 
 } // namespace palette

@@ -1,6 +1,7 @@
 #include "pages/operation/settinguser.h"
 
 #include "app/maindialog.h"
+#include "document/paths.h"
 #include "pages/style.h"
 #include "ui_settinguser.h"
 
@@ -40,7 +41,7 @@ QStringList timerItems(const QString &second)
 }
 
 // The text of the key for no choice, then the numbers.
-QStringList choices(const char *key, int first, int last)
+QStringList itemsFrom(const char *key, int first, int last)
 {
     QStringList items{mainDialog->languageValue(QLatin1String(key))};
     for (int value = first; value <= last; ++value) {
@@ -49,13 +50,13 @@ QStringList choices(const char *key, int first, int last)
     return items;
 }
 
-QStringList years() { return choices("Year", 2015, 2037); }
+QStringList years() { return itemsFrom("Year", 2015, 2037); }
 
-QStringList months() { return choices("Month", 1, 12); }
+QStringList months() { return itemsFrom("Month", 1, 12); }
 
 QStringList days(const QComboBox *month)
 {
-    return choices("UserDay", 1, daysOf(month->currentText().toInt()));
+    return itemsFrom("UserDay", 1, daysOf(month->currentText().toInt()));
 }
 
 // What isn't listed shows nothing, and the slot writes what it makes of that.
@@ -80,11 +81,11 @@ SettingUser::SettingUser(QWidget *parent)
     , ui(std::make_unique<Ui::SettingUser>())
 {
     ui->setupUi(this);
-    choices = {{"SettingInfo.user.tempUnit.tempConversion",
-                {{ui->radioCelicious, "CENTIGRADE"}, {ui->radioFahreheit, "FAHRENHEIT"}}},
-               {"SettingInfo.user.summerTime.enable",
-                {{ui->radioSummerTimeNotuse, "CLR"}, {ui->radioSummerTimeUse, "SET"}}},
-               {"SettingInfo.user.themeSet", {{ui->radioWhite, "white"}, {ui->radioBlack, "black"}}}};
+    choices = {
+        {paths::tempConversion, {{ui->radioCelicious, "CENTIGRADE"}, {ui->radioFahreheit, "FAHRENHEIT"}}},
+        {"SettingInfo.user.summerTime.enable",
+         {{ui->radioSummerTimeNotuse, "CLR"}, {ui->radioSummerTimeUse, "SET"}}},
+        {"SettingInfo.user.themeSet", {{ui->radioWhite, "white"}, {ui->radioBlack, "black"}}}};
     initUi();
 }
 

@@ -108,13 +108,10 @@ ChoiceRows::Plan ChoiceRows::planFor(int room) const
 void ChoiceRows::place(int room)
 {
     const Plan plan = planFor(room);
-    if (plan == current) {
-        return;
-    }
-    current = plan;
-    for (std::size_t index = 0; index < rows.size(); ++index) {
+    for (std::size_t index = 0; !(plan == current) && index < rows.size(); ++index) {
         place(rows.at(index), plan.captions, plan.first, plan.sideBySide.at(index));
     }
+    current = plan;
     for (QLabel *caption : further) {
         const int others = caption->parentWidget()->minimumSizeHint().width() - caption->minimumWidth();
         const int width = plan.captions == 0 ? narrowCaptions : plan.captions;

@@ -9,12 +9,14 @@
 #include <QEvent>
 #include <QRegExpValidator>
 
+#include <algorithm>
+
 DipSwitchSettingStatus::DipSwitchSettingStatus(QWidget *parent)
     : Page(parent)
     , ui(std::make_unique<Ui::DipSwitchSettingStatus>())
 {
     ui->setupUi(this);
-    // In the order of the check. Three of them several flags tell, which their slots save.
+    // In the order of the check. Three of them depend on several flags; their slots save these.
     choices = {
         {nullptr, {{ui->radioDhwUse}, {ui->radioDhwOnly}, {ui->radioDhwNotUse}}},
         {flags::sun, {{ui->radioSolarThermalKitNotuse, "CLR"}, {ui->radioSolarThermalKitUse, "SET"}}},
