@@ -17,11 +17,31 @@ void collect(const QJsonObject &object, const QString &prefix, QVariantMap &leav
     }
 }
 
-QVariantMap leaves(const QJsonDocument &document)
+/// What differs, without a look into groups that are the same.
+void compare(const QJsonObject &before, const QJsonObject &after, const QString &prefix, QVariantMap &changes)
 {
-    QVariantMap result;
-    collect(document.object(), QString(), result);
-    return result;
+    QStringList names = before.keys() + after.keys();
+    names.removeDuplicates();
+    for (const QString &name : qAsConst(names)) {
+        const QJsonValue old = before.value(name);
+        const QJsonValue now = after.value(name);
+        if (old == now) {
+            continue;
+        }
+        const QString path = prefix + name;
+        if (!old.toObject().isEmpty() && !now.toObject().isEmpty()) {
+            compare(old.toObject(), now.toObject(), path + QLatin1Char('.'), changes);
+            continue;
+        }
+        QVariantMap gone;
+        QVariantMap come;
+        collect({{name, old}}, prefix, gone);
+        collect({{name, now}}, prefix, come);
+        for (auto leaf = gone.begin(); leaf != gone.end(); ++leaf) {
+            changes.insert(leaf.key(), QVariant());
+        }
+        changes = documents::joined(changes, come);
+    }
 }
 
 QJsonObject set(QJsonObject object, const QStringList &names, const QVariant &value)
@@ -97,19 +117,7 @@ QVariantMap documents::joined(QVariantMap values, const QVariantMap &more)
 
 QVariantMap documents::changes(const QJsonDocument &before, const QJsonDocument &after)
 {
-    const QVariantMap old = leaves(before);
-    const QVariantMap now = leaves(after);
     QVariantMap result;
-    for (auto leaf = now.begin(); leaf != now.end(); ++leaf) {
-        if (!old.contains(leaf.key()) || old.value(leaf.key()) != leaf.value()
-            || old.value(leaf.key()).type() != leaf.value().type()) {
-            result.insert(leaf.key(), leaf.value());
-        }
-    }
-    for (auto leaf = old.begin(); leaf != old.end(); ++leaf) {
-        if (!now.contains(leaf.key())) {
-            result.insert(leaf.key(), QVariant());
-        }
-    }
+    compare(before.object(), after.object(), QString(), result);
     return result;
 }

@@ -180,6 +180,23 @@ QStringList effects::ofControl(const QString &name, const Scene &scene)
     return paths + ofLoads(words(QLatin1String(row->loads)), scene);
 }
 
+QStringList effects::own(const QString &name, const Scene &scene)
+{
+    const ControlRow *row = controlRow(name);
+    const QStringList told = words(QLatin1String(row->paths));
+    // Of a choice with several paths, one or another changes.
+    const bool depends = told.size() > 1
+        && name.section(QLatin1Char('/'), 1).startsWith(QLatin1String("radio"));
+    QStringList paths;
+    for (const QString &path : told) {
+        if (!depends && !path.startsWith(QLatin1Char('@'))
+            && (paths.isEmpty() || path.startsWith(QLatin1Char('~')))) {
+            paths += expand(path, QLatin1String(loadRow(QLatin1String(row->page)).root), &scene);
+        }
+    }
+    return paths;
+}
+
 bool effects::isBelowMissingGroup(const QString &name, const Scene &scene)
 {
     const ControlRow *row = controlRow(name);

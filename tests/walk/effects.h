@@ -9,6 +9,8 @@ namespace effects {
 
 /// The paths that a touch of the control may write, with all loads that it causes.
 QStringList ofControl(const QString &name, const Scene &scene);
+/// Of these, what each change of the control writes; nothing where that depends.
+QStringList own(const QString &name, const Scene &scene);
 /// Whether a group that the control's own value lies in is missing, so that the value goes into its place.
 bool isBelowMissingGroup(const QString &name, const Scene &scene);
 /// The pages whose loads such a touch causes.

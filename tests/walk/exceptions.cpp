@@ -103,6 +103,13 @@ bool monthTakenBack(const Scene &scene, const QWidget &widget, int)
         && scene.number(QStringLiteral("SettingInfo.user.DateInfo.mday")) == -9999;
 }
 
+bool dayWithoutMonth(const Scene &scene, const QWidget &widget, int)
+{
+    const QString date = QStringLiteral("SettingInfo.user.DateInfo.");
+    return combo(widget).currentIndex() < 0 && scene.number(date + QStringLiteral("mday")) == -9999
+        && scene.number(date + QStringLiteral("month")) == -9999;
+}
+
 bool firstForBlank(const Scene &, const QWidget &widget, int expected)
 {
     return expected < 0 && combo(widget).currentIndex() == 0;
@@ -121,12 +128,6 @@ bool tankOnlyWithoutHeater(const Scene &scene, const QWidget &widget, int)
 {
     return qobject_cast<const QRadioButton *>(&widget)->isChecked()
         && !scene.has(QStringLiteral("is_boosterht_onlyMode"));
-}
-
-bool secondOilRecovery(const Scene &scene, const QWidget &widget, int)
-{
-    return qobject_cast<const QRadioButton *>(&widget)->isChecked()
-        && scene.text(installation("combination200.combiOilRecover")) == Scene::set();
 }
 
 bool tankOnlyOfAnotherProduct(const Scene &scene, const QWidget &widget, int)
@@ -171,10 +172,10 @@ const std::vector<Standing> &standings()
          firstForBlank},
         {"month taken back", "going back to no month keeps the number of the month",
          "SettingUser/comboDateMonth", monthTakenBack},
+        {"day without a month", "a load that finds no month takes back the day, and shows it where it can",
+         "SettingUser/comboDateDay", dayWithoutMonth},
         {"inlet in the list of the timer", "the timer's list lands in the box of the inlet temperature",
          "InstallationDWH/comboInletWaterMax", inletInTimerList},
-        {"oil recovery of the second type", "a load shows neither type for it, a choice shows it",
-         "InstallationSystemAquabox/radioOpt2", secondOilRecovery},
         {"hot water only for another product", "it is shown as it was, and loaded for a module alone",
          "DipSwitchSettingStatus/radioDhwOnly", tankOnlyOfAnotherProduct},
         {"hot water only without heater",

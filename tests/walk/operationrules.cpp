@@ -79,7 +79,7 @@ ComboRule::Shown summerTime(const QString &path)
 
 std::optional<int> brightness(const Scene &scene, const QComboBox &combo)
 {
-    QString shown = scene.text(user("backlightControl.brightness"));
+    QString shown = scene.word(user("backlightControl.brightness"));
     return shown.isEmpty()
         ? std::nullopt
         : std::optional<int>(find(combo, shown.remove(QStringLiteral("BRIGHTNESS")) + QLatin1Char('%')));
@@ -87,7 +87,7 @@ std::optional<int> brightness(const Scene &scene, const QComboBox &combo)
 
 std::optional<int> screenSaver(const Scene &scene, const QComboBox &combo)
 {
-    QString shown = scene.text(user("backlightControl.dimmTimeSet"));
+    QString shown = scene.word(user("backlightControl.dimmTimeSet"));
     if (shown.isEmpty()) {
         return std::nullopt;
     }

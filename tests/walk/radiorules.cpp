@@ -103,14 +103,15 @@ std::optional<QString> meter(const Scene &scene)
     }
 }
 
-/// A stored choice of the second checks neither.
+/// A stored choice of the second leaves the radios as they are.
 std::optional<QString> oilRecovery(const Scene &scene)
 {
     if (!scene.isSet(installation("combination200.combiValue"))) {
         return QString();
     }
-    return pick(scene.word(installation("combination200.combiOilRecover")) == QLatin1String("CLR"),
-                "radioOpt1", "");
+    return scene.word(installation("combination200.combiOilRecover")) == QLatin1String("CLR")
+        ? std::optional<QString>(QStringLiteral("radioOpt1"))
+        : std::nullopt;
 }
 
 bool locksAreLoaded(const Scene &scene)

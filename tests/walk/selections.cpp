@@ -5,8 +5,6 @@
 #include "walk/radiorules.h"
 #include "walk/scene.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 std::vector<ComboRule> joinedRules()
@@ -29,8 +27,9 @@ const std::vector<ComboRule> &comboRules()
 QStringList radiosOf(const RadioRule &rule)
 {
     QStringList names = QString::fromLatin1(rule.radios).split(QLatin1Char(' '));
-    names.replaceInStrings(QRegularExpression(QStringLiteral("^")),
-                           QLatin1String(rule.page) + QLatin1Char('/'));
+    for (QString &name : names) {
+        name.prepend(QLatin1String(rule.page) + QLatin1Char('/'));
+    }
     return names;
 }
 
@@ -70,18 +69,22 @@ void Selections::loaded(const QStringList &pages)
     }
 }
 
-QStringList Selections::complaints(const Scene &scene)
+QStringList Selections::complaints(const Scene &scene, const QString &page)
 {
-    return ofCombos(scene) + ofRadios(scene) + ofTexts(scene) + seasonal.complaints(scene);
+    QStringList result = ofCombos(scene, page) + ofRadios(scene, page) + ofTexts(scene);
+    if (QStringLiteral("InstallationaAuto/").startsWith(page)) {
+        result += seasonal.complaints(scene);
+    }
+    return result;
 }
 
-QStringList Selections::ofCombos(const Scene &scene) const
+QStringList Selections::ofCombos(const Scene &scene, const QString &page) const
 {
     QStringList result;
     for (const ComboRule &rule : comboRules()) {
         const QString name = QLatin1String(rule.name);
         const auto *combo = scene.control<QComboBox>(name);
-        if (!combo->isVisible()) {
+        if (!combo->isVisible() || !name.startsWith(page)) {
             continue;
         }
         const auto items = rule.items(scene);
@@ -107,13 +110,13 @@ QStringList Selections::ofCombos(const Scene &scene) const
     return result;
 }
 
-QStringList Selections::ofRadios(const Scene &scene) const
+QStringList Selections::ofRadios(const Scene &scene, const QString &page) const
 {
     QStringList result;
     for (const RadioRule &rule : radioRules()) {
         const QStringList radios = radiosOf(rule);
         const auto expected = rule.checked(scene);
-        if (!expected || !scene.control(radios.first())->isVisible()
+        if (!expected || !scene.control(radios.first())->isVisible() || !radios.first().startsWith(page)
             || checkedOf(scene, radios) == *expected) {
             continue;
         }

@@ -12,14 +12,15 @@ public:
     /// Pages have been shown.
     void loaded(const QStringList &pages);
 
-    QStringList complaints(const Scene &scene);
+    /// Of all controls, or of those whose name begins so: "Page/".
+    QStringList complaints(const Scene &scene, const QString &page = QString());
 
     /// The combo boxes and radios that have a rule.
     static QStringList ruled();
 
 private:
-    QStringList ofCombos(const Scene &scene) const;
-    QStringList ofRadios(const Scene &scene) const;
+    QStringList ofCombos(const Scene &scene, const QString &page) const;
+    QStringList ofRadios(const Scene &scene, const QString &page) const;
     static QStringList ofTexts(const Scene &scene);
 
     exceptions::Traces traces;
