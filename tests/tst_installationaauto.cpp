@@ -11,48 +11,6 @@ using automode::seasonalPlant;
 using automode::seasonalRoot;
 using automode::sensing;
 
-namespace {
-
-/// What a choice in a box writes; the second path only while the main zone is off.
-struct Case {
-    const char *box;
-    const char *path;
-    const char *mainZonePath;
-    int celsius;
-    int fahrenheit;
-    int celsiusOfFahrenheit;
-};
-
-// °F stands for the lowest °C that shows it: 112 °F is 44 °C and 45 °C.
-const Case cases[] = {{"OutdoorOutdoorMax", "autoOp_outtemp.max", "", 30, 86, 30},
-                      {"OutdoorOutdoorMin", "autoOp_outtemp.min", "", 5, 40, 4},
-                      {"OutdoorIndoorMax", "autoOp_tempair.max", "", 25, 76, 24},
-                      {"OutdoorIndoorMin", "autoOp_tempair.min", "", 18, 64, 18},
-                      {"OutdoorWaterMax", "autoOp_tempwater.high_limit", "", 50, 94, 34},
-                      {"OutdoorWaterMin", "autoOp_tempwater.low_limit", "", 28, 82, 28},
-                      {"HeatingOutdoorMax", "heatOutTemp.max", "", 20, 68, 20},
-                      {"HeatingOutdoorMin", "heatOutTemp.min", "", -20, -2, -20},
-                      {"CoolingOutdoorMax", "coolOutTemp.max", "", 45, 112, 44},
-                      {"CoolingOutdoorMin", "coolOutTemp.min", "", 25, 76, 24},
-                      {"HeatingIndoorMax", "heatAirTemp.max", "heatAirTempMainZone.max", 27, 80, 27},
-                      {"HeatingIndoorMin", "heatAirTemp.min", "heatAirTempMainZone.min", 22, 72, 22},
-                      {"CoolingIndoorMax", "coolAirTemp.max", "coolAirTempMainZone.max", 24, 76, 24},
-                      {"CoolingIndoorMin", "coolAirTemp.min", "coolAirTempMainZone.min", 17, 62, 17},
-                      {"HeatingWaterMax", "heatWaterTemp.max", "heatWaterTempMainZone.max", 50, 122, 50},
-                      {"HeatingWaterMin", "heatWaterTemp.min", "heatWaterTempMainZone.min", 35, 94, 34},
-                      {"CoolingWaterMax", "coolWaterTemp.max", "coolWaterTempMainZone.max", 22, 72, 22},
-                      {"CoolingWaterMin", "coolWaterTemp.min", "coolWaterTempMainZone.min", 17, 62, 17},
-                      {"MainZoneHeatingIndoorMax", "heatAirTempMainZone.max", "", 28, 82, 28},
-                      {"MainZoneHeatingIndoorMin", "heatAirTempMainZone.min", "", 18, 64, 18},
-                      {"MainZoneIndoorMax", "coolAirTempMainZone.max", "", 29, 84, 29},
-                      {"MainZoneIndoorMin", "coolAirTempMainZone.min", "", 25, 76, 24},
-                      {"MainZoneHeatingWaterMax", "heatWaterTempMainZone.max", "", 44, 112, 44},
-                      {"MainZoneHeatingWaterMin", "heatWaterTempMainZone.min", "", 22, 72, 22},
-                      {"MainZoneWaterMax", "coolWaterTempMainZone.max", "", 26, 78, 26},
-                      {"MainZoneWaterMin", "coolWaterTempMainZone.min", "", 21, 70, 21}};
-
-} // namespace
-
 // The Auto mode section: what each control writes, what a load shows and which rows stand on the page.
 class TestInstallationaAuto : public QObject
 {
@@ -69,14 +27,12 @@ private slots:
     void textsFollowTheLanguage();
     void circuitCaptionsKeepTheirFormUntilTheLanguageChanges();
     void endCaptions();
-    void boxesWrite_data();
-    void boxesWrite();
+    void smallLettersKeepTheMainZone();
     void closedSectionWritesNothing();
     void nothingIsWrittenWithoutDocument();
     void modeIsWritten_data();
     void modeIsWritten();
     void modeIsLoaded();
-    void storedValuesAreShown();
     void rowsFollowTheFlags_data();
     void rowsFollowTheFlags();
     void unknownSensingChangesNoRow();
@@ -86,8 +42,6 @@ private slots:
     void alwaysValid();
 
 private:
-    static void addWrite(const Case &each, const char *use, bool fahrenheit);
-
     std::unique_ptr<automode::Section> section;
 };
 
@@ -217,54 +171,13 @@ void TestInstallationaAuto::endCaptions()
     section->window.speak();
 }
 
-void TestInstallationaAuto::addWrite(const Case &each, const char *use, bool fahrenheit)
+// Any text but "CLR" as it stands counts as the main zone in use.
+void TestInstallationaAuto::smallLettersKeepTheMainZone()
 {
-    const QString path = (QString(each.path).startsWith("autoOp") ? root : seasonalRoot) + each.path;
-    const bool outdoorMode = QString(each.box).startsWith("Outdoor");
-    const int value = fahrenheit ? each.celsiusOfFahrenheit : each.celsius;
-    QVariantMap written{{path, value}};
-    if (*each.mainZonePath != '\0' && qstrcmp(use, "CLR") == 0) {
-        written.insert(seasonalRoot + each.mainZonePath, value);
-    }
-    QTest::newRow(qPrintable(QString("%1, %2, %3").arg(each.box, use, fahrenheit ? "°F" : "°C")))
-        << QString("combo") + each.box << (outdoorMode ? QVariantMap() : seasonalPlant(use))
-        << QByteArray(fahrenheit ? "FAHRENHEIT" : "CENTIGRADE")
-        << (fahrenheit ? QString("%1°F").arg(each.fahrenheit) : QString("%1°C").arg(each.celsius)) << written;
-}
-
-void TestInstallationaAuto::boxesWrite_data()
-{
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QVariantMap>("document");
-    QTest::addColumn<QByteArray>("unit");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QVariantMap>("written");
-    for (const Case &each : cases) {
-        addWrite(each, "SET", false);
-        addWrite(each, "SET", true);
-        if (*each.mainZonePath != '\0') {
-            addWrite(each, "CLR", false);
-            addWrite(each, "CLR", true);
-            // Any text but "CLR" as it stands counts as the main zone in use.
-            addWrite(each, "clr", false);
-            addWrite(each, "clr", true);
-        }
-    }
-}
-
-void TestInstallationaAuto::boxesWrite()
-{
-    QFETCH(QString, box);
-    QFETCH(QVariantMap, document);
-    QFETCH(QByteArray, unit);
-    QFETCH(QString, item);
-    QFETCH(QVariantMap, written);
-    section->load(document, "R32", unit);
-    section->window.dialog.setAutoSectionValid(false);
-    auto *combo = Window::find<QComboBox>(section->page, qPrintable(box));
-    QCOMPARE(section->window.changes([&] { Window::choose(combo, item); }), written);
-    QCOMPARE(combo->currentText(), item);
-    QVERIFY(section->window.dialog.members().results.autoSectionValid);
+    section->load(seasonalPlant("clr"));
+    QCOMPARE(
+        section->window.changes([this] { Window::choose(section->page, "comboHeatingWaterMax", "50°C"); }),
+        (QVariantMap{{seasonalRoot + "heatWaterTemp.max", 50}}));
 }
 
 void TestInstallationaAuto::closedSectionWritesNothing()
@@ -340,31 +253,6 @@ void TestInstallationaAuto::modeIsLoaded()
     }
     section->load(join({seasonalPlant("SET"), {{path, "NONE"}}}));
     QVERIFY(Window::checked(section->page, "radioBoth"));
-}
-
-void TestInstallationaAuto::storedValuesAreShown()
-{
-    section->load(seasonalPlant("SET"));
-    const QMap<QString, int> values{
-        {"OutdoorOutdoorMax", 15},        {"OutdoorOutdoorMin", -10},       {"OutdoorIndoorMax", 21},
-        {"OutdoorIndoorMin", 16},         {"OutdoorWaterMax", 65},          {"OutdoorWaterMin", 20},
-        {"HeatingOutdoorMax", 16},        {"HeatingOutdoorMin", -10},       {"CoolingOutdoorMax", 40},
-        {"CoolingOutdoorMin", 30},        {"HeatingIndoorMax", 29},         {"HeatingIndoorMin", 24},
-        {"CoolingIndoorMax", 22},         {"CoolingIndoorMin", 18},         {"HeatingWaterMax", 45},
-        {"HeatingWaterMin", 30},          {"CoolingWaterMax", 20},          {"CoolingWaterMin", 16},
-        {"MainZoneHeatingIndoorMax", 26}, {"MainZoneHeatingIndoorMin", 20}, {"MainZoneIndoorMax", 26},
-        {"MainZoneIndoorMin", 20},        {"MainZoneHeatingWaterMax", 40},  {"MainZoneHeatingWaterMin", 25},
-        {"MainZoneWaterMax", 24},         {"MainZoneWaterMin", 18}};
-    QCOMPARE(values.size(), 26);
-    for (auto value = values.begin(); value != values.end(); ++value) {
-        const QString box = "combo" + value.key();
-        QVERIFY2(section->shown(qPrintable(box)) == QString("%1°C").arg(value.value()), qPrintable(box));
-    }
-    // A value outside its list lands on an end of it and stays in the document.
-    section->window.use(
-        documents::with(section->window.dialog.document(), {{seasonalRoot + "heatWaterTemp.max", 70}}));
-    QCOMPARE(section->window.changes([this] { section->page->refresh(); }), QVariantMap());
-    QCOMPARE(section->shown("comboHeatingWaterMax"), QString("65°C"));
 }
 
 void TestInstallationaAuto::rowsFollowTheFlags_data()

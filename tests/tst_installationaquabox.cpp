@@ -47,13 +47,6 @@ private slots:
 
     void languageKeepsPositions();
     void listsAndTheirDefaults();
-    void writes_data();
-    void writes();
-    void nightTypeIsWrittenAsItsKey();
-    void checksRadios_data();
-    void checksRadios();
-    void showsValues_data();
-    void showsValues();
     void showsGroups_data();
     void showsGroups();
     void valuesOfHiddenGroupsAreNotLoaded();
@@ -138,118 +131,6 @@ void TestInstallationAquabox::listsAndTheirDefaults()
     const QStringList untranslated = Window::items(module, "comboKnightType");
     section->window.speak();
     QCOMPARE(untranslated, (QStringList{"STEP0", "STEP1", "STEP2", "STEP3"}));
-}
-
-void TestInstallationAquabox::writes_data()
-{
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QVariantMap>("before");
-    QTest::addColumn<QVariantMap>("after");
-    const auto row = [](const char *control, const char *item, const QVariantMap &before,
-                        const QVariantMap &after) {
-        QTest::addRow("%s %s", control, item) << QByteArray(control) << QString(item) << before << after;
-    };
-    const auto pair = [row](const char *first, const char *second, const QString &path) {
-        row(first, "", {{path, "SET"}}, {{path, "CLR"}});
-        row(second, "", {{path, "CLR"}}, {{path, "SET"}});
-    };
-    pair("radioStandbyNotuse", "radioStandbyUse", standby);
-    pair("radioHsmodeNotuse", "radioHsmodeUse", hsMode);
-    pair("radioCombinationNotuse", "radioCombinationUse", combination);
-    pair("radioRefrigerantNotuse", "radioRefrigerantUse", leakSensor);
-    row("radioOpt1", "", {{combination, "SET"}, {oilRecovery, "SET"}}, {{oilRecovery, "CLR"}});
-    row("radioOpt2", "", {{combination, "SET"}, {oilRecovery, "CLR"}}, {{oilRecovery, "SET"}});
-    row("comboKnightType", "STEP3", {}, {{nightType, "STEP3"}});
-    row("comboKnightType", "STEP0", {{nightType, "STEP1"}}, {{nightType, "STEP0"}});
-    row("comboWater", "15", {}, {{flowRate, 15}});
-    row("comboWater", "92", {{flowRate, 20}}, {{flowRate, 92}});
-}
-
-void TestInstallationAquabox::writes()
-{
-    QFETCH(QByteArray, control);
-    QFETCH(QString, item);
-    QFETCH(QVariantMap, before);
-    QFETCH(QVariantMap, after);
-    load(aquabox(before));
-    open();
-    QCOMPARE(section->window.changes([&] {
-        if (item.isEmpty()) {
-            Window::click(module, control.constData());
-        } else {
-            Window::choose(module, control.constData(), item);
-        }
-    }),
-             after);
-}
-
-void TestInstallationAquabox::nightTypeIsWrittenAsItsKey()
-{
-    load(aquabox());
-    open();
-    section->window.speak("~");
-    const QVariantMap changes = section->window.changes(
-        [this] { Window::choose(module, "comboKnightType", QStringLiteral("STEP3~")); });
-    section->window.speak();
-    QCOMPARE(changes, (QVariantMap{{nightType, "STEP3"}}));
-}
-
-void TestInstallationAquabox::checksRadios_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QStringList>("radios");
-    QTest::addColumn<QString>("expected");
-    const auto pair = [](const QString &path, const QString &first, const QString &second,
-                         const QString &other) {
-        const QStringList radios{first, second};
-        QTest::addRow("%s clr", qPrintable(first)) << path << "clr" << radios << first;
-        QTest::addRow("%s set", qPrintable(first)) << path << "set" << radios << second;
-        QTest::addRow("%s other", qPrintable(first)) << path << "x" << radios << other;
-    };
-    pair(standby, "radioStandbyNotuse", "radioStandbyUse", "");
-    pair(hsMode, "radioHsmodeNotuse", "radioHsmodeUse", "");
-    pair(combination, "radioCombinationNotuse", "radioCombinationUse", "radioCombinationNotuse");
-    pair(leakSensor, "radioRefrigerantNotuse", "radioRefrigerantUse", "");
-}
-
-void TestInstallationAquabox::checksRadios()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, word);
-    QFETCH(QStringList, radios);
-    QFETCH(QString, expected);
-    load(aquabox({{path, expected == radios.first() ? "SET" : "CLR"}}));
-    load(aquabox({{path, word}}));
-    for (const QString &radio : qAsConst(radios)) {
-        QCOMPARE(checked(qPrintable(radio)), radio == expected);
-    }
-}
-
-void TestInstallationAquabox::showsValues_data()
-{
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char *name, const char *control, const QVariantMap &values, const char *shown) {
-        QTest::addRow("%s %s", control, name) << QByteArray(control) << values << QString(shown);
-    };
-    row("value", "comboKnightType", {{nightType, "STEP3"}}, "STEP3");
-    row("unknown", "comboKnightType", {{nightType, "STEP9"}}, "STEP0");
-    row("empty", "comboKnightType", {{nightType, ""}}, "STEP0");
-    row("value", "comboWater", {{flowRate, 50}}, "50");
-    row("too low", "comboWater", {{flowRate, 14}}, "15");
-}
-
-void TestInstallationAquabox::showsValues()
-{
-    QFETCH(QByteArray, control);
-    QFETCH(QVariantMap, values);
-    QFETCH(QString, shown);
-    load(aquabox(values));
-    QCOMPARE(Window::shown(module, control.constData()), shown);
-    QCOMPARE(section->document(), documents::with(documents::standard("R32"), aquabox(values)));
 }
 
 void TestInstallationAquabox::showsGroups_data()

@@ -33,11 +33,8 @@ private slots:
     void startsClosedWithoutDocument();
     void writes_data();
     void writes();
-    void fahrenheit();
-    void loads_data();
-    void loads();
-    void listsOffer_data();
-    void listsOffer();
+    void otherCircuitBeyondTheLimitsLeavesTheList_data();
+    void otherCircuitBeyondTheLimitsLeavesTheList();
     void shownWhen_data();
     void shownWhen();
     void enabledWhen_data();
@@ -64,16 +61,12 @@ void TestInstallationCool::writes_data()
         QTest::newRow(water::rowName(control, before, QString::fromUtf8(item)).constData())
             << before << QString::fromUtf8(item) << written;
     };
-    row("comboForcerWater", {}, "20°C", {{root + "UFH_stop.watertemp", 20}});
-    row("comboTemperatureWaterMin", {}, "17°C", {{lowLimit, 17}});
     row("comboTemperatureWaterMin", {}, "20°C",
         {{lowLimit, 20}, {constant + "ctrTemp", 20}, {constant + "ctrTempMainZone", 20}});
-    row("comboTemperatureWaterMax", {}, "22°C", {{highLimit, 22}});
     row("comboTemperatureWaterMax", {{constant + "ctrTemp", 24}}, "23°C",
         {{highLimit, 23}, {constant + "ctrTemp", 23}, {constant + "ctrTempMainZone", 23}});
     row("comboControlWaterTemp", {{mainZone, "SET"}, {constant + "ctrTempMainZone", 22}}, "20°C",
         {{constant + "ctrTemp", 20}});
-    row("comboControlMainZoneTemp", {{mainZone, "SET"}}, "20°C", {{constant + "ctrTempMainZone", 20}});
     const QVariantMap before = seasons(1, 2, 3, 4);
     row("radioFanCoilNotuse", documents::joined(before, {{fanCoil, "CLR"}}), "",
         documents::joined(seasons(16, 20, 28, 35), {{fanCoil, "SET"}}));
@@ -95,56 +88,7 @@ void TestInstallationCool::writes()
     QVERIFY(messages::contain("InstallationCool::SettingUser validation succeed!"));
 }
 
-void TestInstallationCool::fahrenheit()
-{
-    driver->open({}, QStringLiteral("FAHRENHEIT"));
-    QCOMPARE(driver->items("comboTemperatureIndoorMin"), range(60, 72, "°F", 2));
-    QCOMPARE(driver->items("comboTemperatureWaterMax"), range(72, 80, "°F", 2));
-    QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("64°F"));
-    QCOMPARE(driver->choose("comboTemperatureIndoorMin", "68°F"),
-             (QVariantMap{{root + "settempLimit.coolAir.low_limit", 20}}));
-    // 24 and 25 °C both show 76 °F: the lower one is stored.
-    QCOMPARE(driver->choose("comboTemperatureIndoorMax", "76°F"),
-             (QVariantMap{{root + "settempLimit.coolAir.high_limit", 24}}));
-}
-
-void TestInstallationCool::loads_data()
-{
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QString>("expected");
-
-    const auto row = [](const char *control, const QString &path, const QVariant &value,
-                        const char *expected) {
-        QTest::addRow("%s %s", control, qPrintable(value.toString()))
-            << QVariantMap{{path, value}} << QString::fromUtf8(expected);
-    };
-    row("comboForcerWater", root + "UFH_stop.watertemp", 21, "21°C");
-    row("comboForcerWater", root + "UFH_stop.watertemp", 40, "25°C");
-    row("comboForcerWater", root + "UFH_stop.watertemp", 0, "16°C");
-    row("comboTemperatureWaterMin", lowLimit, 17, "17°C");
-    row("comboTemperatureWaterMax", highLimit, 26, "26°C");
-    row("comboControlWaterTemp", constant + "ctrTemp", 23, "23°C");
-    row("comboControlMainZoneTemp", constant + "ctrTempMainZone", 22, "22°C");
-    row("radioFanCoilNotuse", fanCoil, "set", "true");
-    row("radioFanCoilUse", fanCoil, "clr", "true");
-    row("radioFanCoilNotuse", fanCoil, "x", "false");
-    row("radioFanCoilUse", fanCoil, "x", "false");
-}
-
-void TestInstallationCool::loads()
-{
-    QFETCH(QVariantMap, values);
-    QFETCH(QString, expected);
-    const QByteArray control = water::rowControl();
-    driver->load(values);
-    if (control.startsWith("radio")) {
-        QCOMPARE(QVariant(driver->checked(control.constData())).toString(), expected);
-    } else {
-        QCOMPARE(driver->shown(control.constData()), expected);
-    }
-}
-
-void TestInstallationCool::listsOffer_data()
+void TestInstallationCool::otherCircuitBeyondTheLimitsLeavesTheList_data()
 {
     QTest::addColumn<QVariantMap>("values");
     QTest::addColumn<int>("low");
@@ -153,37 +97,12 @@ void TestInstallationCool::listsOffer_data()
     const auto row = [](const char *combo, const QVariantMap &values, int low, int high) {
         QTest::newRow(water::rowName(combo, values).constData()) << values << low << high;
     };
-    row("comboTemperatureIndoorMin", {}, 16, 22);
-    row("comboTemperatureIndoorMin", {{flag("isCoolAir16"), "set"}}, 16, 22);
-    row("comboTemperatureIndoorMin", {{flag("isCoolAir16"), "CLR"}}, 18, 22);
-    row("comboTemperatureIndoorMax", {}, 24, 30);
-    row("comboForcerWater", {}, 16, 25);
-    row("comboTemperatureWaterMin", {}, 16, 20);
-    row("comboTemperatureWaterMax", {}, 22, 27);
-    row("comboTemperatureWaterMax", {{flag("is_coolwatercontrolbasis"), "CLR"}}, 20, 25);
-    row("comboTemperatureWaterMin", {{flag("is_coolwatercontrolbasis"), "clr"}}, 16, 18);
-    row("comboTemperatureWaterMin", {{flag("isR32"), "CLR"}, {flag("isR410CoolExpand"), "set"}}, 16, 20);
-    row("comboTemperatureWaterMin", {{flag("isR32"), "CLR"}}, -1, -1);
-    row("comboTemperatureWaterMin", {{basis, "entrance"}}, 20, 20);
-    row("comboTemperatureWaterMin", {{fanCoil, "clr"}}, 5, 20);
-    row("comboTemperatureWaterMin", {{fanCoil, "CLR"}, {basis, "ENTRANCE"}}, 10, 20);
-    row("comboTemperatureWaterMin", {{fanCoil, "CLR"}, {flag("isCoolTempMin5"), "clr"}}, 6, 20);
-    row("comboTemperatureWaterMin", {{fanCoil, "CLR"}, {flag("isCoolTempMin5"), "x"}}, -1, -1);
-    row("comboTemperatureWaterMin", {{fanCoil, "x"}}, 16, 18);
-    row("comboControlWaterTemp", {}, 18, 24);
-    row("comboControlMainZoneTemp", {}, 18, 24);
-    const QVariantMap constants{{constant + "ctrTemp", 20}, {constant + "ctrTempMainZone", 22}};
-    row("comboControlWaterTemp", constants, 18, 24);
-    row("comboControlWaterTemp", documents::joined(constants, {{mainZone, "SET"}}), 18, 22);
-    row("comboControlMainZoneTemp", documents::joined(constants, {{mainZone, "set"}}), 20, 24);
-    // A circuit's value beyond the limits leaves the whole list.
     row("comboControlWaterTemp", {{mainZone, "SET"}, {constant + "ctrTempMainZone", 17}}, 18, 24);
     row("comboControlMainZoneTemp", {{mainZone, "SET"}, {constant + "ctrTemp", 25}}, 18, 24);
-    row("comboControlMainZoneTemp",
-        documents::joined(constants, {{mainZone, "SET"}, {flag("isWaterCtrBasisAir"), "CLR"}}), 18, 24);
+    row("comboControlMainZoneTemp", {{mainZone, "SET"}, {flag("isWaterCtrBasisAir"), "CLR"}}, 18, 24);
 }
 
-void TestInstallationCool::listsOffer()
+void TestInstallationCool::otherCircuitBeyondTheLimitsLeavesTheList()
 {
     QFETCH(QVariantMap, values);
     QFETCH(int, low);

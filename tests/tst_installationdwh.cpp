@@ -23,16 +23,7 @@ private slots:
     void startsClosed();
     void opensAndCloses();
     void languageKeepsPositions();
-    void showsStoredValues_data();
-    void showsStoredValues();
-    void checksStoredRadios_data();
-    void checksStoredRadios();
-    void listWritesItsValue_data();
-    void listWritesItsValue();
     void timerItemLosesTwoDigits();
-    void translatedStepWritesItsKey();
-    void radioWritesItsWord_data();
-    void radioWritesItsWord();
     void disinfectionEnablesItsSchedule();
     void scheduleFollowsTheRadio();
     void loadWritesBackWhatHasNoItem_data();
@@ -111,137 +102,6 @@ void TestInstallationDwh::languageKeepsPositions()
     QVERIFY(!messages::contain("InstallationDWH::SettingUser"));
 }
 
-void TestInstallationDwh::showsStoredValues_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const char *key, const QVariant &value, const char *text) {
-        QTest::addRow("%s %s", name, text) << QByteArray(name) << at(key) << value << QString(text);
-    };
-    row("comboHotWaterMin", "settempLimit.hotWater.low_limit", 30, "30°C");
-    row("comboHotWaterMin", "settempLimit.hotWater.low_limit", 29, "40°C");
-    row("comboHotWaterMin", "settempLimit.hotWater.low_limit", 0, "30°C");
-    row("comboHotWaterMax", "settempLimit.hotWater.high_limit", 55, "55°C");
-    row("comboHotWaterMax", "settempLimit.hotWater.high_limit", 90, "80°C");
-    row("comboTankWaterMin", "hotwater_logic.hysterisis", 30, "30K");
-    row("comboTankWaterMin", "hotwater_logic.hysterisis", 31, "30K");
-    row("comboInletWaterMax", "hotwater_logic.compMaxTemp", 48, "48°C");
-    row("comboInletWaterMax", "hotwater_logic.compMaxTemp", 60, "55°C");
-    row("comboTankHeatingHysterisis", "hotwater_addData.hysterisis", 2, "2K");
-    row("comboHeatingDurationTime", "hotwater_timer.maintain_time", 6, "30min");
-    row("comboHeatingDurationTime", "hotwater_timer.maintain_time", 19, "95min");
-    row("comboHeatingDurationTime", "hotwater_timer.maintain_time", 0, "");
-    row("comboStopDurationTime", "hotwater_timer.restrict_time", 1, "30min");
-    row("comboStopDurationTime", "hotwater_timer.restrict_time", 20, "600min");
-    row("comboStopDurationTime", "hotwater_timer.restrict_time", 21, "");
-    row("comboHeatPump", "waterThermoOnOff", "STEP3", "STEP3");
-    row("comboHeatPump", "waterThermoOnOff", "STEP4", "STEP0");
-    row("comboHeatPump", "waterThermoOnOff", "", "STEP0");
-    row("comboSchedule1", "disinfect_time.day", 5, "Fri");
-    row("comboSchedule1", "disinfect_time.day", 7, "");
-    row("comboSchedule2", "disinfect_time.start", 23, "23:00");
-    row("comboSchedule2", "disinfect_time.start", 8, "08:00");
-    row("comboMaxTemp", "disinfect_data.maxTemp", 61, "61°C");
-    row("comboMaxTemp", "disinfect_data.maxTemp", 50, "80°C");
-    row("comboMaxTempDuration", "disinfect_data.howLong", 10, "30min");
-    row("comboMaxTempDuration", "disinfect_data.howLong", 5, "5min");
-    row("comboMaxTempDuration", "disinfect_data.howLong", 4, "");
-    row("comboMaxTempDuration", "disinfect_data.howLong", 17, "");
-    row("comboCutOffDuration", "disinfect_data.cutOffTime", 12, "12Hour");
-    row("comboCutOffDuration", "disinfect_data.cutOffTime", 0, "");
-}
-
-void TestInstallationDwh::showsStoredValues()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QString, path);
-    QFETCH(QVariant, value);
-    QFETCH(QString, text);
-    section->load(everything + QVariantMap{{path, value}});
-    QCOMPARE(section->shown(name.constData()), text);
-}
-
-void TestInstallationDwh::checksStoredRadios_data()
-{
-    QTest::addColumn<QVariant>("word");
-    QTest::addColumn<bool>("used");
-    QTest::newRow("SET") << QVariant("SET") << true;
-    QTest::newRow("set") << QVariant("set") << true;
-    QTest::newRow("CLR") << QVariant("CLR") << false;
-    QTest::newRow("other") << QVariant("USE") << false;
-    QTest::newRow("missing") << QVariant() << false;
-}
-
-void TestInstallationDwh::checksStoredRadios()
-{
-    QFETCH(QVariant, word);
-    QFETCH(bool, used);
-    section->load(
-        everything
-        + QVariantMap{{at("hotwater_addData.UFH_priority"), word}, {at("disinfect_time.enable"), word}});
-    QCOMPARE(Window::checked(section->page, "radioUnderFloorUse"), used);
-    QCOMPARE(Window::checked(section->page, "radioUnderFloorNotUse"), !used);
-    QCOMPARE(Window::checked(section->page, "radioDisinfectionUse"), used);
-    QCOMPARE(Window::checked(section->page, "radioDisinfectionNotUse"), !used);
-    QCOMPARE(Window::enabled(section->page, "groupBoxDisinfectSub"), used);
-}
-
-void TestInstallationDwh::listWritesItsValue_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("unit");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *name, const char *key, const char *item, const QVariant &value,
-                        const char *unit = "CENTIGRADE") {
-        QTest::addRow("%s %s", name, item)
-            << QByteArray(name) << at(key) << QString(unit) << QString(item) << value;
-    };
-    row("comboHotWaterMin", "settempLimit.hotWater.low_limit", "35°C", 35);
-    row("comboHotWaterMin", "settempLimit.hotWater.low_limit", "90°F", 32, "FAHRENHEIT");
-    row("comboHotWaterMax", "settempLimit.hotWater.high_limit", "60°C", 60);
-    row("comboHotWaterMax", "settempLimit.hotWater.high_limit", "140°F", 60, "FAHRENHEIT");
-    row("comboTankWaterMin", "hotwater_logic.hysterisis", "30K", 30);
-    row("comboTankWaterMin", "hotwater_logic.hysterisis", "10K", -12, "FAHRENHEIT");
-    row("comboTankWaterMin", "hotwater_logic.hysterisis", "7K", 0, "FAHRENHEIT");
-    row("comboInletWaterMax", "hotwater_logic.compMaxTemp", "40°C", 40);
-    row("comboInletWaterMax", "hotwater_logic.compMaxTemp", "122°F", 50, "FAHRENHEIT");
-    row("comboTankHeatingHysterisis", "hotwater_addData.hysterisis", "4K", 4);
-    row("comboTankHeatingHysterisis", "hotwater_addData.hysterisis", "2K", -17, "FAHRENHEIT");
-    row("comboHeatingDurationTime", "hotwater_timer.maintain_time", "5min", 1);
-    row("comboHeatingDurationTime", "hotwater_timer.maintain_time", "95min", 19);
-    row("comboStopDurationTime", "hotwater_timer.restrict_time", "0min", 0);
-    row("comboStopDurationTime", "hotwater_timer.restrict_time", "600min", 20);
-    row("comboHeatPump", "waterThermoOnOff", "STEP3", "STEP3");
-    row("comboSchedule1", "disinfect_time.day", "Sun", 0);
-    row("comboSchedule1", "disinfect_time.day", "Sat", 6);
-    row("comboSchedule2", "disinfect_time.start", "00:00", 0);
-    row("comboMaxTemp", "disinfect_data.maxTemp", "80°C", 80);
-    // Two temperatures are shown as 148°F.
-    row("comboMaxTemp", "disinfect_data.maxTemp", "148°F", 64, "FAHRENHEIT");
-    row("comboMaxTempDuration", "disinfect_data.howLong", "5min", 5);
-    row("comboMaxTempDuration", "disinfect_data.howLong", "60min", 16);
-    row("comboCutOffDuration", "disinfect_data.cutOffTime", "12Hour", 12);
-}
-
-void TestInstallationDwh::listWritesItsValue()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QString, path);
-    QFETCH(QString, unit);
-    QFETCH(QString, item);
-    QFETCH(QVariant, value);
-    section->load(everything, unit);
-    const QVariantMap written = section->window.changes(
-        [&] { Window::choose(section->page, name.constData(), item); });
-    QCOMPARE(written, (QVariantMap{{path, value}}));
-    QVERIFY(messages::contain("InstallationDWH::SettingUser validation succeed!"));
-    QCOMPARE(section->shown(name.constData()), item);
-}
-
 // The timer's list has no unit that the slot could take off.
 void TestInstallationDwh::timerItemLosesTwoDigits()
 {
@@ -249,41 +109,6 @@ void TestInstallationDwh::timerItemLosesTwoDigits()
     const QVariantMap written = section->window.changes(
         [this] { Window::choose(section->page, "comboInletWaterMax", "1380"); });
     QCOMPARE(written, (QVariantMap{{at("hotwater_logic.compMaxTemp"), 13}}));
-}
-
-void TestInstallationDwh::translatedStepWritesItsKey()
-{
-    section->load(everything);
-    section->window.speak("~");
-    const QVariantMap written = section->window.changes(
-        [this] { Window::choose(section->page, "comboHeatPump", "STEP2~"); });
-    QCOMPARE(written, (QVariantMap{{at("waterThermoOnOff"), "STEP2"}}));
-}
-
-void TestInstallationDwh::radioWritesItsWord_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("word");
-    const auto row = [](const char *name, const char *key, const char *before, const char *word) {
-        QTest::newRow(name) << at(key) << QString(before) << QString(word);
-    };
-    row("radioUnderFloorNotUse", "hotwater_addData.UFH_priority", "SET", "CLR");
-    row("radioUnderFloorUse", "hotwater_addData.UFH_priority", "CLR", "SET");
-    row("radioDisinfectionNotUse", "disinfect_time.enable", "SET", "CLR");
-    row("radioDisinfectionUse", "disinfect_time.enable", "CLR", "SET");
-}
-
-void TestInstallationDwh::radioWritesItsWord()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, before);
-    QFETCH(QString, word);
-    section->load(everything + QVariantMap{{path, before}});
-    const QVariantMap written = section->window.changes(
-        [this] { Window::click(section->page, QTest::currentDataTag()); });
-    QCOMPARE(written, (QVariantMap{{path, word}}));
-    QVERIFY(messages::contain("InstallationDWH::SettingUser validation succeed!"));
 }
 
 void TestInstallationDwh::disinfectionEnablesItsSchedule()

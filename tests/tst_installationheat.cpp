@@ -13,7 +13,6 @@ using water::seasons;
 namespace {
 
 const QString constant = QStringLiteral("SettingInfo.func.waterCtrBasisAirHeat.");
-const QString air = root + QStringLiteral("settempLimit.heatAir.");
 const QString lowLimit = root + QStringLiteral("settempLimit.heatWater.low_limit");
 const QString highLimit = root + QStringLiteral("settempLimit.heatWater.high_limit");
 const QString basis = root + QStringLiteral("heatWaterControlBasis");
@@ -32,11 +31,8 @@ private slots:
 
     void writes_data();
     void writes();
-    void fahrenheit();
-    void loads_data();
-    void loads();
-    void listsOffer_data();
-    void listsOffer();
+    void otherCircuitBeyondTheLimitsLeavesTheList_data();
+    void otherCircuitBeyondTheLimitsLeavesTheList();
     void defaultDocuments();
 
 private:
@@ -54,14 +50,10 @@ void TestInstallationHeat::writes_data()
         QTest::newRow(water::rowName(control, before, QString::fromUtf8(item)).constData())
             << before << QString::fromUtf8(item) << written;
     };
-    row("comboTemperatureWaterMin", {}, "34°C", {{lowLimit, 34}});
     row("comboTemperatureWaterMin", {{constant + "ctrTemp", 30}}, "31°C",
         {{lowLimit, 31}, {constant + "ctrTemp", 31}, {constant + "ctrTempMainZone", 31}});
-    row("comboTemperatureWaterMax", {}, "35°C", {{highLimit, 35}});
     row("comboTemperatureWaterMax", {{constant + "ctrTemp", 60}}, "50°C",
         {{highLimit, 50}, {constant + "ctrTemp", 50}, {constant + "ctrTempMainZone", 50}});
-    row("comboControlWaterTemp", {{mainZone, "SET"}}, "40°C", {{constant + "ctrTemp", 40}});
-    row("comboControlMainZoneTemp", {{mainZone, "SET"}}, "30°C", {{constant + "ctrTempMainZone", 30}});
     row("comboReferenceWater", seasons(1, 2, 3, 4), "Inlet",
         documents::joined(seasons(16, 20, 28, 35), {{basis, "ENTRANCE"}, {highLimit, 55}}));
     row("comboReferenceWater", documents::joined(seasons(1, 2, 3, 4), {{basis, "ENTRANCE"}, {highLimit, 55}}),
@@ -77,47 +69,7 @@ void TestInstallationHeat::writes()
     QVERIFY(messages::contain("InstallationHeat::SettingUser validation succeed!"));
 }
 
-void TestInstallationHeat::fahrenheit()
-{
-    driver->open({}, QStringLiteral("FAHRENHEIT"));
-    QCOMPARE(driver->items("comboTemperatureIndoorMin"), range(60, 72, "°F", 2));
-    QCOMPARE(driver->items("comboTemperatureWaterMax"), range(94, 148, "°F", 2));
-    QCOMPARE(driver->shown("comboTemperatureWaterMin"), QStringLiteral("68°F"));
-    QCOMPARE(driver->choose("comboTemperatureIndoorMax", "76°F"), (QVariantMap{{air + "high_limit", 24}}));
-    QCOMPARE(driver->choose("comboTemperatureWaterMax", "122°F"), (QVariantMap{{highLimit, 50}}));
-}
-
-void TestInstallationHeat::loads_data()
-{
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QString>("expected");
-
-    const auto row = [](const char *control, const QString &path, const QVariant &value,
-                        const char *expected) {
-        const QVariantMap values{{path, value}};
-        QTest::newRow(water::rowName(control, values).constData()) << values << QString::fromUtf8(expected);
-    };
-    row("comboTemperatureWaterMin", lowLimit, 25, "25°C");
-    row("comboTemperatureWaterMax", highLimit, 50, "50°C");
-    row("comboControlWaterTemp", constant + "ctrTemp", 45, "45°C");
-    row("comboControlWaterTemp", constant + "ctrTemp", 80, "65°C");
-    row("comboControlMainZoneTemp", constant + "ctrTempMainZone", 44, "44°C");
-}
-
-void TestInstallationHeat::loads()
-{
-    QFETCH(QVariantMap, values);
-    QFETCH(QString, expected);
-    const QByteArray control = water::rowControl();
-    driver->load(values);
-    if (control.startsWith("radio")) {
-        QCOMPARE(QVariant(driver->checked(control.constData())).toString(), expected);
-    } else {
-        QCOMPARE(driver->shown(control.constData()), expected);
-    }
-}
-
-void TestInstallationHeat::listsOffer_data()
+void TestInstallationHeat::otherCircuitBeyondTheLimitsLeavesTheList_data()
 {
     QTest::addColumn<QVariantMap>("values");
     QTest::addColumn<int>("low");
@@ -126,27 +78,11 @@ void TestInstallationHeat::listsOffer_data()
     const auto row = [](const char *combo, const QVariantMap &values, int low, int high) {
         QTest::newRow(water::rowName(combo, values).constData()) << values << low << high;
     };
-    row("comboTemperatureIndoorMin", {{flag("isCoolAir16"), "CLR"}}, 16, 22);
-    row("comboTemperatureIndoorMax", {}, 24, 30);
-    row("comboTemperatureWaterMin", {}, 20, 34);
-    row("comboTemperatureWaterMin", {{heater, "set"}}, 15, 34);
-    row("comboTemperatureWaterMax", {}, 35, 65);
-    row("comboTemperatureWaterMax", {{basis, "exit"}}, 35, 65);
-    row("comboTemperatureWaterMax", {{basis, "x"}}, 35, 55);
-    row("comboTemperatureWaterMax", {{flag("isR32"), "CLR"}}, 35, 57);
-    row("comboTemperatureWaterMax", {{flag("isR32"), "CLR"}, {basis, "ENTRANCE"}}, 35, 50);
-    row("comboControlWaterTemp", {}, 20, 65);
-    row("comboControlMainZoneTemp", {}, 20, 65);
-    const QVariantMap constants{{constant + "ctrTemp", 45}, {constant + "ctrTempMainZone", 30}};
-    row("comboControlWaterTemp", constants, 20, 65);
-    row("comboControlWaterTemp", documents::joined(constants, {{mainZone, "SET"}}), 30, 65);
-    row("comboControlMainZoneTemp", documents::joined(constants, {{mainZone, "set"}}), 20, 45);
-    // A circuit's value beyond the limits leaves the whole list.
     row("comboControlWaterTemp", {{mainZone, "SET"}, {constant + "ctrTempMainZone", 70}}, 20, 65);
     row("comboControlMainZoneTemp", {{mainZone, "SET"}, {constant + "ctrTemp", 10}}, 20, 65);
 }
 
-void TestInstallationHeat::listsOffer()
+void TestInstallationHeat::otherCircuitBeyondTheLimitsLeavesTheList()
 {
     QFETCH(QVariantMap, values);
     QFETCH(int, low);

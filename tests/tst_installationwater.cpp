@@ -70,10 +70,8 @@ private slots:
     void constantIsNamedByCircuits();
     void languageKeepsPositions_data() { addSides(); }
     void languageKeepsPositions();
-    void writes_data();
-    void writes();
-    void loads_data();
-    void loads();
+    void oneCircuitWritesBothConstants_data();
+    void oneCircuitWritesBothConstants();
     void unknownWordsLeaveTheControls_data() { addSides(); }
     void unknownWordsLeaveTheControls();
     void shownWhen_data();
@@ -188,7 +186,7 @@ void TestInstallationWater::languageKeepsPositions()
     driver->window.speak();
 }
 
-void TestInstallationWater::writes_data()
+void TestInstallationWater::oneCircuitWritesBothConstants_data()
 {
     QTest::addColumn<QVariantMap>("before");
     QTest::addColumn<QString>("item"); // none for a radio
@@ -200,81 +198,23 @@ void TestInstallationWater::writes_data()
             QTest::newRow(each.name + (' ' + water::rowName(control, before, item)))
                 << before << item << written;
         };
-        const QString type = each.constant + "ctrType";
-        const QString option = each.pump + "option";
         const QVariantMap one{{each.constant + "ctrTemp", each.inside}};
         const QVariantMap main{{each.constant + "ctrTempMainZone", each.inside}};
         const QVariantMap both = documents::joined(one, main);
         const QString item = degrees(each.inside);
-        row("comboTemperatureIndoorMin", {}, "20°C", {{each.air + "low_limit", 20}});
-        row("comboTemperatureIndoorMax", {}, "25°C", {{each.air + "high_limit", 25}});
-        row("radioControlTypeAuto", {}, "", {{type, "AUTO"}});
-        row("radioControlTypeManual", {{type, "AUTO"}}, "", {{type, "MANUAL"}});
         row("comboControlWaterTemp", {}, item, both);
         row("comboControlWaterTemp", {{mainZone, "clr"}}, item, both);
         row("comboControlWaterTemp", {{mainZone, "x"}}, item, one);
-        row("comboTNIndoorAirTemp", {}, "STEP2", {{each.airThermo, "STEP2"}});
-        row("comboTNIndoorAirTemp", {{each.airThermo, "STEP1"}}, "STEP0", {{each.airThermo, "STEP0"}});
-        row("comboTNIndoorWaterTemp", {}, "STEP3", {{each.waterThermo, "STEP3"}});
-        row("radioWaterPumpNotuse", {{option, "CLR"}}, "", {{option, "SET"}});
-        row("radioWaterPumpUse", {{option, "SET"}}, "", {{option, "CLR"}});
-        row("comboWaterPumpOnTimer", {{option, "CLR"}}, "10min", {{each.pump + "timeOn", 10}});
-        row("comboWaterPumpOffTimer", {{option, "CLR"}}, "60min", {{each.pump + "time", 60}});
     }
 }
 
-void TestInstallationWater::writes()
+void TestInstallationWater::oneCircuitWritesBothConstants()
 {
     QFETCH(QVariantMap, before);
     QFETCH(QString, item);
     driver->open(before);
     QTEST(driver->operate(control().constData(), item), "written");
     QVERIFY(messages::contain(side.page + "::SettingUser validation succeed!"));
-}
-
-void TestInstallationWater::loads_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("expected");
-
-    for (const Side &each : sides()) {
-        const auto row = [&each](const char *control, const QString &path, const QVariant &value,
-                                 const char *expected) {
-            QTest::addRow("%s %s %s", each.name, control, qPrintable(value.toString()))
-                << path << value << QString::fromUtf8(expected);
-        };
-        row("comboReferenceWater", each.basis, "EXIT", "Outlet");
-        row("comboReferenceWater", each.basis, "exit", "Outlet");
-        row("comboReferenceWater", each.basis, "ENTRANCE", "Inlet");
-        row("comboReferenceWater", each.basis, "entrance", "Inlet");
-        row("comboTemperatureIndoorMin", each.air + "low_limit", 19, "19°C");
-        row("comboTemperatureIndoorMax", each.air + "high_limit", 26, "26°C");
-        row("comboTNIndoorAirTemp", each.airThermo, "STEP3", "STEP3");
-        row("comboTNIndoorAirTemp", each.airThermo, "STEP4", "STEP0");
-        row("comboTNIndoorAirTemp", each.airThermo, "", "STEP0");
-        row("comboTNIndoorWaterTemp", each.waterThermo, "STEP1", "STEP1");
-        row("comboTNIndoorWaterTemp", each.waterThermo, "", "STEP0");
-        row("comboWaterPumpOnTimer", each.pump + "timeOn", 60, "60min");
-        row("comboWaterPumpOffTimer", each.pump + "time", 30, "30min");
-        row("comboWaterPumpOffTimer", each.pump + "time", 0, "1min");
-        row("radioControlTypeManual", each.constant + "ctrType", "manual", "true");
-        row("radioControlTypeAuto", each.constant + "ctrType", "auto", "true");
-        row("radioWaterPumpNotuse", each.pump + "option", "set", "true");
-        row("radioWaterPumpUse", each.pump + "option", "clr", "true");
-    }
-}
-
-void TestInstallationWater::loads()
-{
-    QFETCH(QString, path);
-    QFETCH(QVariant, value);
-    driver->load({{path, value}});
-    if (control().startsWith("radio")) {
-        QTEST(QVariant(driver->checked(control().constData())).toString(), "expected");
-    } else {
-        QTEST(driver->shown(control().constData()), "expected");
-    }
 }
 
 void TestInstallationWater::unknownWordsLeaveTheControls()

@@ -26,8 +26,6 @@ private slots:
     void cleanupTestCase() { window.reset(); }
 
     void passesAtStartUntilNew();
-    void listsHoldFixedItems_data();
-    void listsHoldFixedItems();
     void languageChangeKeepsTheSelection();
     void otherLanguageShowsTheDefrostMode();
     void groupsHoldTheirControls_data();
@@ -35,15 +33,11 @@ private slots:
     void defaultsShowAndStay_data();
     void defaultsShowAndStay();
     void showingMarksTheStep();
-    void radiosWrite_data();
-    void radiosWrite();
     void defrostModeNeedsFlagAndMaster_data();
     void defrostModeNeedsFlagAndMaster();
-    void defrostModeSavesItsKey();
     void defrostModeShowsAndFallsBack();
     void chainFailsWhereNothingIsChosen_data();
     void chainFailsWhereNothingIsChosen();
-    void everyChangeIsChecked();
     void writesNothingWithoutDocument();
 
 private:
@@ -79,28 +73,6 @@ void TestSettingFunction::passesAtStartUntilNew()
     Window::click(&window->dialog, "newButton");
     QVERIFY(!valid());
     QVERIFY(Window::shownItself(&window->dialog, "functionValidationIcon"));
-}
-
-void TestSettingFunction::listsHoldFixedItems_data()
-{
-    QTest::addColumn<QStringList>("items");
-    QStringList numbers;
-    for (int value = 0; value < 60; ++value) {
-        numbers.append((value < 10 ? "0" : "") + QString::number(value));
-    }
-    QTest::newRow("comboSilentStartHour") << QStringList(numbers.mid(0, 24));
-    QTest::newRow("comboSilentStartMin") << numbers;
-    QTest::newRow("comboSilentEndHour") << QStringList(numbers.mid(0, 24));
-    QTest::newRow("comboSilentEndMin") << numbers;
-    QTest::newRow("comboDefrostMode") << QStringList{"STEP0", "STEP1", "STEP2", "STEP3"};
-}
-
-void TestSettingFunction::listsHoldFixedItems()
-{
-    QFETCH(QStringList, items);
-    QCOMPARE(Window::items(page, QTest::currentDataTag()), items);
-    const SettingFunction fresh;
-    QCOMPARE(Window::items(&fresh, QTest::currentDataTag()), items);
 }
 
 void TestSettingFunction::languageChangeKeepsTheSelection()
@@ -199,37 +171,6 @@ void TestSettingFunction::showingMarksTheStep()
     QVERIFY(focused(3, "settingButton"));
 }
 
-void TestSettingFunction::radiosWrite_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("word");
-    const std::vector<std::pair<QByteArray, QString>> releases{
-        {"radioSlientModeNotuse", "silentTimer.set"},
-        {"radioAllButtonNone", "lock.buttonLock"},
-        {"radioOnOffButtonNone", "lock.onoffLock"},
-        {"radioOperationModeButtonNone", "lock.modelock"},
-        {"radioDhwOnOffNone", "lock.hotwaterOnOfflock"}};
-    for (const auto &[radio, key] : releases) {
-        const QString path = func + key;
-        QTest::newRow(radio) << path << QStringLiteral("SET") << QStringLiteral("CLR");
-        const QByteArray other = QByteArray(radio).replace("Notuse", "Use").replace("None", "Use");
-        QTest::newRow(other) << path << QStringLiteral("CLR") << QStringLiteral("SET");
-    }
-}
-
-void TestSettingFunction::radiosWrite()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, before);
-    QFETCH(QString, word);
-    show({{"IduFuncList.is_hotwater", "SET"}, {path, before}});
-    messages::clear();
-    const QVariantMap changes = window->changes([this] { Window::click(page, QTest::currentDataTag()); });
-    QCOMPARE(changes, (QVariantMap{{path, word}}));
-    QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
-}
-
 void TestSettingFunction::defrostModeNeedsFlagAndMaster_data()
 {
     QTest::addColumn<QString>("flag");
@@ -254,16 +195,6 @@ void TestSettingFunction::defrostModeNeedsFlagAndMaster()
     show({{"IduFuncList.isDefrostMode", flag}, {"SettingInfo.installation.OduFunctionMS", master}});
     QCOMPARE(Window::shownItself(page, "groupBoxOdeFunction"), shown);
     QCOMPARE(Window::enabled(page, "groupBoxOdeFunction"), shown);
-}
-
-void TestSettingFunction::defrostModeSavesItsKey()
-{
-    show(withDefrostMode);
-    for (const char *step : {"STEP1", "STEP2", "STEP3", "STEP0"}) {
-        messages::clear();
-        QCOMPARE(changesOf("comboDefrostMode", step), (QVariantMap{{func + "installDefrostMode", step}}));
-        QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
-    }
 }
 
 void TestSettingFunction::defrostModeShowsAndFallsBack()
@@ -316,19 +247,6 @@ void TestSettingFunction::chainFailsWhereNothingIsChosen()
     QVERIFY(Window::shownItself(&window->dialog, "functionValidationIcon"));
     Window::click(page, second.constData());
     QVERIFY(valid());
-}
-
-void TestSettingFunction::everyChangeIsChecked()
-{
-    QVariantMap values = withDefrostMode;
-    values.insert(func + "silentTimer.set", "SET");
-    show(values);
-    for (const char *combo : {"comboSilentStartHour", "comboSilentStartMin", "comboSilentEndHour",
-                              "comboSilentEndMin", "comboDefrostMode"}) {
-        messages::clear();
-        Window::choose(Window::find<QComboBox>(page, combo), 3);
-        QVERIFY2(messages::contain("SettingFunction::validationCheck succeed!"), combo);
-    }
 }
 
 void TestSettingFunction::writesNothingWithoutDocument()

@@ -36,8 +36,6 @@ private slots:
     void unknownAllLockCountsAsLocked_data();
     void unknownAllLockCountsAsLocked();
     void lockedLoadLeavesTheOtherRadios();
-    void locksShow_data();
-    void locksShow();
     void hotWaterLockNeedsTheTank();
     void unusedLockSlotsWork_data();
     void unusedLockSlotsWork();
@@ -149,34 +147,6 @@ void TestSettingLocks::lockedLoadLeavesTheOtherRadios()
     for (const char *radio : {"radioOnOffButtonNone", "radioOperationModeButtonNone", "radioDhwOnOffNone"}) {
         QVERIFY2(Window::checked(page, radio), radio);
     }
-}
-
-void TestSettingLocks::locksShow_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("checked");
-    const std::vector<std::tuple<const char *, QByteArray>> locks{{"onoffLock", "radioOnOffButton"},
-                                                                  {"modelock", "radioOperationModeButton"},
-                                                                  {"hotwaterOnOfflock", "radioDhwOnOff"}};
-    for (const auto &[key, radio] : locks) {
-        const QString path = func + "lock." + key;
-        QTest::addRow("%s SET", key) << path << QVariant("SET") << radio + "Use";
-        QTest::addRow("%s clr", key) << path << QVariant("clr") << radio + "None";
-        QTest::addRow("%s unknown", key) << path << QVariant("x") << radio + "Use";
-        QTest::addRow("%s missing", key) << path << QVariant() << radio + "Use";
-    }
-}
-
-void TestSettingLocks::locksShow()
-{
-    QFETCH(QString, path);
-    QFETCH(QVariant, value);
-    QFETCH(QByteArray, checked);
-    show({{path, value.toString() == "clr" ? "SET" : "CLR"}});
-    QVERIFY(!Window::checked(page, checked.constData()));
-    show({{path, value}});
-    QVERIFY(Window::checked(page, checked.constData()));
 }
 
 void TestSettingLocks::hotWaterLockNeedsTheTank()

@@ -31,7 +31,6 @@ private slots:
     void silentModeEnablesItsTimes();
     void hoursAreSavedByHalfDays_data();
     void hoursAreSavedByHalfDays();
-    void minutesAreSaved();
     void timesShow_data();
     void timesShow();
     void timesAreSelectedInOrder();
@@ -210,14 +209,6 @@ void TestSettingSilentTimes::hoursAreSavedByHalfDays()
         window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
         QCOMPARE(Window::shown(page, combo), QString(QTest::currentDataTag()));
     }
-}
-
-void TestSettingSilentTimes::minutesAreSaved()
-{
-    show({{func + "silentTimer.set", "SET"}});
-    QCOMPARE(changesOf("comboSilentStartMin", "07"), (QVariantMap{{startClock + ".min", 7}}));
-    QCOMPARE(changesOf("comboSilentEndMin", "59"), (QVariantMap{{endClock + ".min", 59}}));
-    QCOMPARE(changesOf("comboSilentEndMin", "00"), (QVariantMap{{endClock + ".min", 0}}));
 }
 
 void TestSettingSilentTimes::timesShow_data()

@@ -23,19 +23,14 @@ private slots:
     void defaultsShowAndStay_data();
     void defaultsShowAndStay();
     void showingLeavesTheStepMarks();
-    void radiosShow_data();
-    void radiosShow();
-    void radiosWrite_data();
-    void radiosWrite();
+    void unknownWords_data();
+    void unknownWords();
     void unitDrivesTheTool();
-    void combosWrite_data();
-    void combosWrite();
     void backlightShows_data();
     void backlightShows();
     void valuesThatAreNotListedPass();
     void chainGoesInOrder();
     void chainTakesRadiosFirst();
-    void everyChangeIsChecked();
     void blocksAllLists();
     void stylesOfEnabledAndDimmed();
     void writesIntoAnEmptyDocument();
@@ -185,7 +180,7 @@ void TestSettingUser::showingLeavesTheStepMarks()
     QCOMPARE(style("productSelectionButton"), product);
 }
 
-void TestSettingUser::radiosShow_data()
+void TestSettingUser::unknownWords_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QVariant>("value");
@@ -193,27 +188,16 @@ void TestSettingUser::radiosShow_data()
     QTest::addColumn<QString>("unchecked");
     const QString celsius("radioCelicious");
     const QString fahrenheit("radioFahreheit");
-    const QString off("radioSummerTimeNotuse");
-    const QString on("radioSummerTimeUse");
     const QString white("radioWhite");
     const QString black("radioBlack");
-    QTest::newRow("fahrenheit") << tempConversion << QVariant("fahrenheit") << fahrenheit << celsius;
-    QTest::newRow("centigrade") << tempConversion << QVariant("centigrade") << celsius << fahrenheit;
-    QTest::newRow("summer time") << summerTime << QVariant("set") << on << off;
-    QTest::newRow("no summer time") << summerTime << QVariant("CLR") << off << on;
-    QTest::newRow("summer time again") << summerTime << QVariant("SET") << on << off;
-    QTest::newRow("unknown summer time") << summerTime << QVariant("x") << off << on;
-    QTest::newRow("summer time missing") << summerTime << QVariant() << off << on;
     QTest::newRow("black") << theme << QVariant("BLACK") << black << white;
-    QTest::newRow("white") << theme << QVariant("White") << white << black;
-    QTest::newRow("black again") << theme << QVariant("black") << black << white;
     QTest::newRow("unknown theme keeps black") << theme << QVariant("x") << black << white;
     QTest::newRow("theme missing keeps black") << theme << QVariant() << black << white;
     QTest::newRow("unknown unit") << tempConversion << QVariant("x") << QString() << celsius;
     QTest::newRow("unit missing") << tempConversion << QVariant() << QString() << fahrenheit;
 }
 
-void TestSettingUser::radiosShow()
+void TestSettingUser::unknownWords()
 {
     QFETCH(QString, path);
     QFETCH(QVariant, value);
@@ -230,35 +214,6 @@ void TestSettingUser::radiosShow()
     QCOMPARE(window->dialog.document(), documents::with(documents::standard("R410"), {{path, value}}));
 }
 
-void TestSettingUser::radiosWrite_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<bool>("checks");
-    const auto row = [](const char *radio, const QString &path, const QString &before, const QString &word,
-                        bool checks = true) { QTest::newRow(radio) << path << before << word << checks; };
-    row("radioCelicious", tempConversion, "FAHRENHEIT", "CENTIGRADE");
-    row("radioFahreheit", tempConversion, "CENTIGRADE", "FAHRENHEIT");
-    row("radioSummerTimeNotuse", summerTime, "SET", "CLR");
-    row("radioSummerTimeUse", summerTime, "CLR", "SET", false);
-    row("radioWhite", theme, "black", "white");
-    row("radioBlack", theme, "white", "black");
-}
-
-void TestSettingUser::radiosWrite()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, before);
-    QFETCH(QString, word);
-    QFETCH(bool, checks);
-    show(documents::joined(dated, {{path, before}}));
-    messages::clear();
-    const QVariantMap changes = window->changes([this] { Window::click(page, QTest::currentDataTag()); });
-    QCOMPARE(changes, (QVariantMap{{path, word}}));
-    QCOMPARE(messages::contain("SettingUser::SettingUser validation succeed!"), checks);
-}
-
 void TestSettingUser::unitDrivesTheTool()
 {
     show();
@@ -270,44 +225,6 @@ void TestSettingUser::unitDrivesTheTool()
     // Loading the page leaves the tool's unit alone.
     show({{tempConversion, "FAHRENHEIT"}});
     QCOMPARE(window->dialog.tempUnit(), QStringLiteral("CENTIGRADE"));
-}
-
-void TestSettingUser::combosWrite_data()
-{
-    QTest::addColumn<QByteArray>("combo");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *combo, const QString &item, const QString &path, const QVariant &value) {
-        QTest::addRow("%s %s", combo, qPrintable(item)) << QByteArray(combo) << item << path << value;
-    };
-    row("comboBrightness", "0%", brightness, "BRIGHTNESS0");
-    row("comboBrightness", "20%", brightness, "BRIGHTNESS20");
-    row("comboBrightness", "30%", brightness, "BRIGHTNESS30");
-    row("comboScreenSaverTimer", "15s", timer, "BACKLIGHT15S");
-    row("comboScreenSaverTimer", "60s", timer, "BACKLIGHT60S");
-    row("comboDateYear", "2015", year, 2015);
-    row("comboDateYear", "2037", year, 2037);
-    row("comboDateYear", "Year", year, unset);
-    row("comboDateMonth", "12", month, 12);
-    row("comboDateDay", "31", mday, 31);
-    row("comboDateDay", "Day", mday, unset);
-    row("comboStartMonth", "1", startMonth, 1);
-    row("comboStartDay", "31", startDay, 31);
-    row("comboStartDay", "Day", startDay, unset);
-    row("comboEndMonth", "11", endMonth, 11);
-    row("comboEndDay", "1", endDay, 1);
-    row("comboEndDay", "Day", endDay, unset);
-}
-
-void TestSettingUser::combosWrite()
-{
-    QFETCH(QByteArray, combo);
-    QFETCH(QString, item);
-    QFETCH(QString, path);
-    QFETCH(QVariant, value);
-    show(documents::joined(dated, {{summerTime, "SET"}}));
-    QCOMPARE(changesOf(combo.constData(), item), (QVariantMap{{path, value}}));
 }
 
 void TestSettingUser::backlightShows_data()
@@ -386,18 +303,6 @@ void TestSettingUser::chainTakesRadiosFirst()
         Window::invoke(page, "validationCheck");
         QVERIFY2(!valid(), first);
         Window::find<QRadioButton>(page, first)->setChecked(true);
-    }
-}
-
-void TestSettingUser::everyChangeIsChecked()
-{
-    show(documents::joined(dated, {{summerTime, "SET"}}));
-    for (const char *name :
-         {"comboScreenSaverTimer", "comboBrightness", "comboDateYear", "comboDateMonth", "comboDateDay",
-          "comboStartMonth", "comboStartDay", "comboEndMonth", "comboEndDay"}) {
-        messages::clear();
-        Window::choose(combo(name), 2);
-        QCOMPARE(messages::all().filter("SettingUser::").size(), 1);
     }
 }
 

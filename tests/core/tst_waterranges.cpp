@@ -1,110 +1,68 @@
 #include "rules/waterranges.h"
 
+#include "rules/hotwaterranges.h"
+#include "support/ranges.h"
+
 #include <QTest>
 
 using waterranges::Circuits;
+using waterranges::CoolWords;
 
-// Which water temperatures cooling and heating offer, without a window.
+using RangeOf = std::function<Range(const ranges::Word &word)>;
+Q_DECLARE_METATYPE(RangeOf)
+
+// Which temperatures of water are offered, without a window: the ranges by tests/data/ranges.tsv for all
+// words, what brings values into them by hand.
 class TestWaterRanges : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void coolLowByWords_data();
-    void coolLowByWords();
-    void coolHighByExpansion_data();
-    void coolHighByExpansion();
-    void heatLimits();
+    void rangesOfAllWords_data();
+    void rangesOfAllWords();
     void clampsIntoTheRange();
     void keepsConstantsInLine_data();
     void keepsConstantsInLine();
     void listsStopAtTheOtherCircuit();
 };
 
-void TestWaterRanges::coolLowByWords_data()
+void TestWaterRanges::rangesOfAllWords_data()
 {
-    QTest::addColumn<QStringList>(
-        "words"); // FCU_disable, flag, isR32, isR410CoolExpand, basis, isCoolTempMin5
-    QTest::addColumn<int>("low");
-    QTest::addColumn<int>("high");
-
-    const auto row = [](const char *words, int low, int high) {
-        QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' ')) << low << high;
+    using ranges::Word;
+    QTest::addColumn<RangeOf>("range");
+    const auto cool = [](const Word &word) -> CoolWords {
+        return {word("UFH_stop.FCU_disable"), word("is_coolwatercontrolbasis"), word("isR32"),
+                word("isR410CoolExpand"),     word("coolWaterControlBasis"),    word("isCoolTempMin5")};
     };
-    // Without a fan coil unit
-    row("SET CLR SET SET EXIT SET", 16, 18);
-    row("SET CLR CLR CLR ENTRANCE CLR", 16, 18);
-    row("SET SET SET CLR ENTRANCE SET", 20, 20);
-    row("SET SET CLR SET ENTRANCE CLR", 20, 20);
-    row("SET SET SET CLR EXIT x", 16, 20);
-    row("SET SET CLR SET EXIT SET", 16, 20);
-    row("SET SET SET CLR x SET", 16, 18);
-    row("SET SET CLR CLR EXIT SET", -1, -1);
-    row("SET x SET SET EXIT SET", -1, -1);
-    // With one, by a bottom of 6
-    row("CLR SET SET CLR ENTRANCE CLR", 11, 20);
-    row("CLR SET CLR SET EXIT CLR", 6, 20);
-    row("CLR SET SET CLR x CLR", 6, 18);
-    row("CLR SET CLR CLR EXIT CLR", 6, 18);
-    row("CLR CLR SET SET ENTRANCE CLR", 6, 18);
-    row("CLR x SET SET EXIT CLR", 6, 18);
-    // and of 5
-    row("CLR SET SET CLR ENTRANCE SET", 10, 20);
-    row("CLR SET CLR SET EXIT SET", 5, 20);
-    row("CLR SET SET CLR x SET", 5, 18);
-    row("CLR SET CLR CLR ENTRANCE SET", 5, 18);
-    row("CLR CLR SET SET EXIT SET", 5, 18);
-    row("CLR SET SET CLR EXIT x", -1, -1);
-    row("CLR CLR CLR CLR x x", -1, -1);
-    // With neither
-    row("x SET SET SET ENTRANCE SET", 16, 18);
-    row("x CLR CLR CLR EXIT x", 16, 18);
+    const auto isSet = [](const QString &word) { return word == QLatin1String("SET"); };
+    QTest::newRow("coolLow") << RangeOf([=](const Word &word) { return waterranges::coolLow(cool(word)); });
+    QTest::newRow("coolHigh") << RangeOf([=](const Word &word) { return waterranges::coolHigh(cool(word)); });
+    QTest::newRow("heatLow") << RangeOf(
+        [=](const Word &word) { return waterranges::heatLow(isSet(word("is_installed_heater"))); });
+    QTest::newRow("heatHigh") << RangeOf([=](const Word &word) {
+        return waterranges::heatHigh(isSet(word("isR32")), word("heatWaterControlBasis") == "EXIT");
+    });
+    const auto hot = [](const Word &word) -> hotwater::Words {
+        return {word("product"),   word("isCoolTempMin5"), word("isHotwaterTankHeaterUse"),
+                word("isHsModel"), word("isR32"),          word("hotWaterTankHeater.tankHeaterUse")};
+    };
+    QTest::newRow("hotWaterLow") << RangeOf([=](const Word &word) { return hotwater::lowLimit(hot(word)); });
+    QTest::newRow("hotWaterHigh") << RangeOf(
+        [=](const Word &word) { return hotwater::highLimit(hot(word)); });
+    QTest::newRow("compressor") << RangeOf(
+        [](const Word &word) { return hotwater::compressorLimit(word("is_indoor_model"), word("isR32")); });
+    QTest::newRow("disinfection") << RangeOf(
+        [](const Word &word) { return hotwater::disinfection(word("hotWaterTankHeater.tankHeaterUse")); });
 }
 
-void TestWaterRanges::coolLowByWords()
+void TestWaterRanges::rangesOfAllWords()
 {
-    QFETCH(QStringList, words);
-    const Range range = waterranges::coolLow({words[0], words[1], words[2], words[3], words[4], words[5]});
-    QTEST(range.low, "low");
-    QTEST(range.high, "high");
-}
-
-void TestWaterRanges::coolHighByExpansion_data()
-{
-    QTest::addColumn<QStringList>("words"); // flag, isR32, isR410CoolExpand
-    QTest::addColumn<int>("low");
-    QTest::addColumn<int>("high");
-    QTest::newRow("R32") << QStringList{"SET", "SET", "CLR"} << 22 << 27;
-    QTest::newRow("R410 expanded") << QStringList{"SET", "CLR", "SET"} << 22 << 27;
-    QTest::newRow("both") << QStringList{"SET", "SET", "SET"} << 22 << 27;
-    QTest::newRow("neither") << QStringList{"SET", "CLR", "CLR"} << 20 << 25;
-    QTest::newRow("no basis") << QStringList{"CLR", "SET", "SET"} << 20 << 25;
-    QTest::newRow("unknown basis") << QStringList{"x", "SET", "SET"} << 20 << 25;
-}
-
-void TestWaterRanges::coolHighByExpansion()
-{
-    QFETCH(QStringList, words);
-    const Range range = waterranges::coolHigh({"SET", words[0], words[1], words[2], "EXIT", "SET"});
-    QTEST(range.low, "low");
-    QTEST(range.high, "high");
-}
-
-void TestWaterRanges::heatLimits()
-{
-    QCOMPARE(waterranges::heatLow(true).low, 15);
-    QCOMPARE(waterranges::heatLow(false).low, 20);
-    for (const bool heater : {true, false}) {
-        QCOMPARE(waterranges::heatLow(heater).high, 34);
-    }
-    QCOMPARE(waterranges::heatHigh(true, true).high, 65);
-    QCOMPARE(waterranges::heatHigh(true, false).high, 55);
-    QCOMPARE(waterranges::heatHigh(false, true).high, 57);
-    QCOMPARE(waterranges::heatHigh(false, false).high, 50);
-    for (const bool r32 : {true, false}) {
-        QCOMPARE(waterranges::heatHigh(r32, true).low, 35);
-        QCOMPARE(waterranges::heatHigh(r32, false).low, 35);
-    }
+    QFETCH(RangeOf, range);
+    const QString list = QLatin1String(QTest::currentDataTag());
+    ranges::forAllWords(list, [&](const ranges::Word &word) {
+        const Range found = range(word);
+        QCOMPARE(std::make_pair(found.low, found.high), ranges::of(list, word));
+    });
 }
 
 void TestWaterRanges::clampsIntoTheRange()

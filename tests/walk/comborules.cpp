@@ -1,5 +1,6 @@
 #include "walk/comborules.h"
 
+#include "support/ranges.h"
 #include "walk/scene.h"
 
 namespace {
@@ -30,6 +31,19 @@ ComboRule::Items temperatures(const comborules::LimitsOf &limits)
 comborules::LimitsOf comborules::always(int low, int high)
 {
     return [low, high](const Scene &) { return Limits{low, high}; };
+}
+
+comborules::LimitsOf comborules::byWords(const char *list)
+{
+    return [name = QLatin1String(list)](const Scene &scene) {
+        const auto limits = ranges::of(name, [&scene](const QString &key) {
+            const bool isFlag = key.startsWith(QLatin1String("is"));
+            return scene.word(key == QLatin1String("product") ? key
+                                  : isFlag                    ? QStringLiteral("IduFuncList.") + key
+                                           : QStringLiteral("SettingInfo.installation.") + key);
+        });
+        return Limits{limits.first, limits.second};
+    };
 }
 
 ComboRule::Items comborules::plain(int low, int high, int step, const char *suffixKey)

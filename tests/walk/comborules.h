@@ -32,6 +32,8 @@ using LimitsOf = std::function<Limits(const Scene &)>;
 
 /// Fixed limits.
 LimitsOf always(int low, int high);
+/// Those of tests/data/ranges.tsv.
+LimitsOf byWords(const char *list);
 
 // Items
 ComboRule::Items plain(int low, int high, int step = 1, const char *suffixKey = nullptr);

@@ -1,10 +1,11 @@
-// The lists of the hot water section.
+// The lists of the hot water section; the limits of most stand in tests/data/ranges.tsv.
 
 #include "walk/comborules.h"
 #include "walk/scene.h"
 
 namespace {
 
+using comborules::byWords;
 using comborules::plain;
 using comborules::temperature;
 
@@ -22,51 +23,9 @@ bool isSet(const Scene &scene, const char *name) { return flag(scene, name) == S
 
 bool isClear(const Scene &scene, const char *name) { return flag(scene, name) == QLatin1String("CLR"); }
 
-Limits minimum(const Scene &scene) { return {30, isClear(scene, "isCoolTempMin5") ? 45 : 40}; }
-
-Limits maximumOfHeatPump(const Scene &scene)
-{
-    const QString use = scene.word(installation("hotWaterTankHeater.tankHeaterUse"));
-    const bool heaterless = use == QLatin1String("NOTUSE") || use == QLatin1String("ONLY_DISINFECT");
-    if (isSet(scene, "isHotwaterTankHeaterUse") && heaterless) {
-        return {50, isSet(scene, "isR32") ? 55 : 50};
-    }
-    return {50, 80};
-}
-
-Limits maximumOfModule(const Scene &scene)
-{
-    if (!isClear(scene, "isHotwaterTankHeaterUse")) {
-        return {0, 0};
-    }
-    if (isSet(scene, "isCoolTempMin5") && isSet(scene, "isHsModel")) {
-        return {55, 55};
-    }
-    return {50, isSet(scene, "isCoolTempMin5") && isClear(scene, "isHsModel") ? 50 : 80};
-}
-
-Limits maximum(const Scene &scene)
-{
-    const QString product = scene.word(QStringLiteral("product"));
-    return product == QLatin1String("AWHP")   ? maximumOfHeatPump(scene)
-        : product == QLatin1String("AQUABOX") ? maximumOfModule(scene)
-                                              : Limits{0, 0};
-}
-
 Limits tankWater(const Scene &scene)
 {
     return {1, scene.text(QStringLiteral("IduFuncList.isHotwaterTankHeaterUse")) == Scene::set() ? 30 : 20};
-}
-
-Limits inlet(const Scene &scene)
-{
-    const QString model = flag(scene, "is_indoor_model");
-    const QStringList known{QStringLiteral("INTEGRAL"), QStringLiteral("SERIES0"),
-                            QStringLiteral("NORTHERN_EUROPE"), QStringLiteral("GERMANY")};
-    if (known.contains(model)) {
-        return {40, isSet(scene, "isR32") ? 55 : 50};
-    }
-    return {40, model == QLatin1String("CASCADE") ? 80 : 50};
 }
 
 /// With the timer, the list that was meant for it lands in the inlet's box.
@@ -80,14 +39,7 @@ std::optional<QStringList> inletItems(const Scene &scene)
     if (timer && isClear(scene, "isHotwaterTimerExpand")) {
         return plain(0, 600, 30)(scene);
     }
-    return temperature("", QString(), inlet).items(scene);
-}
-
-Limits disinfection(const Scene &scene)
-{
-    const bool unused = scene.word(installation("hotWaterTankHeater.tankHeaterUse"))
-        == QLatin1String("NOTUSE");
-    return {unused ? 40 : 60, 80};
+    return temperature("", QString(), byWords("compressor")).items(scene);
 }
 
 QStringList wholeHours()
@@ -105,9 +57,9 @@ std::vector<ComboRule> comborules::ofHotWater()
 {
     return {
         temperature("InstallationDWH/comboHotWaterMin", installation("settempLimit.hotWater.low_limit"),
-                    minimum),
+                    byWords("hotWaterLow")),
         temperature("InstallationDWH/comboHotWaterMax", installation("settempLimit.hotWater.high_limit"),
-                    maximum),
+                    byWords("hotWaterHigh")),
         kelvin("InstallationDWH/comboTankWaterMin", installation("hotwater_logic.hysterisis"), tankWater),
         {"InstallationDWH/comboInletWaterMax", inletItems,
          atTemperature(installation("hotwater_logic.compMaxTemp"))},
@@ -123,7 +75,8 @@ std::vector<ComboRule> comborules::ofHotWater()
          atIndex(installation("disinfect_time.day"), 0)},
         {"InstallationDWH/comboSchedule2", fixed(wholeHours()),
          atIndex(installation("disinfect_time.start"), 0)},
-        temperature("InstallationDWH/comboMaxTemp", installation("disinfect_data.maxTemp"), disinfection),
+        temperature("InstallationDWH/comboMaxTemp", installation("disinfect_data.maxTemp"),
+                    byWords("disinfection")),
         {"InstallationDWH/comboMaxTempDuration", plain(5, 60, 5, "OperationMinute"),
          atIndex(installation("disinfect_data.howLong"), 5)},
         {"InstallationDWH/comboCutOffDuration", plain(1, 12, 1, "Hour"),

@@ -55,12 +55,12 @@ void TestControls::eachWrites_data()
     QTest::newRow("R32") << documents::standard("R32") << celsius << "";
     QTest::newRow("R410, other language") << documents::standard("R410") << celsius << "~";
     QTest::newRow("heat pump") << everything("R32") << celsius << "";
-    QTest::newRow("heat pump, one circuit")
-        << everything("R32",
-                      {{installation("circuitMainZone.enableMainZone"), "CLR"},
-                       {installation("UFH_stop.FCU_disable"), "CLR"}})
-        << celsius << "";
-    QTest::newRow("heat pump, °F") << everything("R32") << fahrenheit << "";
+    const QString timer = QStringLiteral("IduFuncList.isHotwaterTimerExpand");
+    const QVariantMap one{{installation("circuitMainZone.enableMainZone"), "CLR"},
+                          {installation("UFH_stop.FCU_disable"), "CLR"},
+                          {timer, "CLR"}};
+    QTest::newRow("heat pump, one circuit") << everything("R32", one) << celsius << "";
+    QTest::newRow("heat pump, °F") << everything("R32", {{timer, "SET"}}) << fahrenheit << "";
     QTest::newRow("module, other language") << everything("R410") << celsius << "~";
 }
 

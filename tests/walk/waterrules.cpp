@@ -1,4 +1,5 @@
-// The lists of the cooling and the heating section and of the outdoor mode.
+// The lists of the cooling and the heating section and of the outdoor mode; limits of water in
+// tests/data/ranges.tsv.
 
 #include "walk/comborules.h"
 #include "walk/scene.h"
@@ -7,6 +8,7 @@ namespace {
 
 using comborules::always;
 using comborules::atIndex;
+using comborules::byWords;
 using comborules::clamped;
 using comborules::keyed;
 using comborules::temperature;
@@ -19,64 +21,7 @@ QString limit(const char *key) { return installation(QStringLiteral("settempLimi
 
 bool flag(const Scene &scene, const char *name) { return scene.has(QLatin1String(name)); }
 
-bool clear(const Scene &scene, const char *name)
-{
-    return scene.word(QStringLiteral("IduFuncList.") + QLatin1String(name)) == QLatin1String("CLR");
-}
-
 QString basis(const Scene &scene, const char *key) { return scene.word(installation(QLatin1String(key))); }
-
-/// The wider cooling lists of newer units.
-bool coolingExpands(const Scene &scene)
-{
-    return flag(scene, "is_coolwatercontrolbasis")
-        && (flag(scene, "isR32") || flag(scene, "isR410CoolExpand"));
-}
-
-Limits coolWaterMax(const Scene &scene) { return coolingExpands(scene) ? Limits{22, 27} : Limits{20, 25}; }
-
-Limits coolWaterMinWithoutFan(const Scene &scene, bool expands, const QString &reference)
-{
-    if (clear(scene, "is_coolwatercontrolbasis")) {
-        return {16, 18};
-    }
-    if (!expands) {
-        return {-1, -1};
-    }
-    if (reference == QLatin1String("ENTRANCE")) {
-        return {20, 20};
-    }
-    return {16, reference == QLatin1String("EXIT") ? 20 : 18};
-}
-
-Limits coolWaterMin(const Scene &scene)
-{
-    const bool expands = coolingExpands(scene);
-    const QString reference = basis(scene, "coolWaterControlBasis");
-    const QString fan = basis(scene, "UFH_stop.FCU_disable");
-    if (fan == Scene::set()) {
-        return coolWaterMinWithoutFan(scene, expands, reference);
-    }
-    if (fan != QLatin1String("CLR")) {
-        return {16, 18};
-    }
-    const bool five = flag(scene, "isCoolTempMin5");
-    if (!five && !clear(scene, "isCoolTempMin5")) {
-        return {-1, -1};
-    }
-    const bool entrance = expands && reference == QLatin1String("ENTRANCE");
-    const bool exit = expands && reference == QLatin1String("EXIT");
-    return {(entrance ? 10 : 5) + (five ? 0 : 1), entrance || exit ? 20 : 18};
-}
-
-Limits heatWaterMin(const Scene &scene) { return {flag(scene, "is_installed_heater") ? 15 : 20, 34}; }
-
-Limits heatWaterMax(const Scene &scene)
-{
-    const bool exit = basis(scene, "heatWaterControlBasis") == QLatin1String("EXIT");
-    const bool r32 = flag(scene, "isR32");
-    return {35, r32 ? (exit ? 65 : 55) : (exit ? 57 : 50)};
-}
 
 /// The constant temperature of a circuit: with two circuits, it doesn't pass the other's.
 comborules::LimitsOf constant(const char *season, bool isMainZone)
@@ -134,8 +79,10 @@ std::vector<ComboRule> ofCooling()
         temperature("InstallationCool/comboTemperatureIndoorMin", limit("coolAir.low_limit"), coolAirMin),
         temperature("InstallationCool/comboTemperatureIndoorMax", limit("coolAir.high_limit"),
                     always(24, 30)),
-        clamped("InstallationCool/comboTemperatureWaterMin", limit("coolWater.low_limit"), coolWaterMin),
-        clamped("InstallationCool/comboTemperatureWaterMax", limit("coolWater.high_limit"), coolWaterMax),
+        clamped("InstallationCool/comboTemperatureWaterMin", limit("coolWater.low_limit"),
+                byWords("coolLow")),
+        clamped("InstallationCool/comboTemperatureWaterMax", limit("coolWater.high_limit"),
+                byWords("coolHigh")),
         temperature("InstallationCool/comboControlMainZoneTemp", control + QStringLiteral("ctrTempMainZone"),
                     constant("Cool", true)),
         temperature("InstallationCool/comboControlWaterTemp", control + QStringLiteral("ctrTemp"),
@@ -155,8 +102,10 @@ std::vector<ComboRule> ofHeating()
         temperature("InstallationHeat/comboTemperatureIndoorMin", limit("heatAir.low_limit"), always(16, 22)),
         temperature("InstallationHeat/comboTemperatureIndoorMax", limit("heatAir.high_limit"),
                     always(24, 30)),
-        clamped("InstallationHeat/comboTemperatureWaterMin", limit("heatWater.low_limit"), heatWaterMin),
-        clamped("InstallationHeat/comboTemperatureWaterMax", limit("heatWater.high_limit"), heatWaterMax),
+        clamped("InstallationHeat/comboTemperatureWaterMin", limit("heatWater.low_limit"),
+                byWords("heatLow")),
+        clamped("InstallationHeat/comboTemperatureWaterMax", limit("heatWater.high_limit"),
+                byWords("heatHigh")),
         temperature("InstallationHeat/comboControlMainZoneTemp", control + QStringLiteral("ctrTempMainZone"),
                     constant("Heat", true)),
         temperature("InstallationHeat/comboControlWaterTemp", control + QStringLiteral("ctrTemp"),
@@ -191,7 +140,9 @@ std::vector<ComboRule> comborules::ofOutdoorMode()
         clamped("InstallationaAuto/comboOutdoorOutdoorMin", path("autoOp_outtemp.min"), outdoorMin),
         temperature("InstallationaAuto/comboOutdoorIndoorMax", path("autoOp_tempair.max"), always(20, 30)),
         temperature("InstallationaAuto/comboOutdoorIndoorMin", path("autoOp_tempair.min"), always(16, 19)),
-        clamped("InstallationaAuto/comboOutdoorWaterMax", path("autoOp_tempwater.high_limit"), heatWaterMax),
-        clamped("InstallationaAuto/comboOutdoorWaterMin", path("autoOp_tempwater.low_limit"), heatWaterMin),
+        clamped("InstallationaAuto/comboOutdoorWaterMax", path("autoOp_tempwater.high_limit"),
+                byWords("heatHigh")),
+        clamped("InstallationaAuto/comboOutdoorWaterMin", path("autoOp_tempwater.low_limit"),
+                byWords("heatLow")),
     };
 }

@@ -1,0 +1,98 @@
+#include "support/ranges.h"
+
+#include <QFile>
+#include <QHash>
+#include <QMap>
+#include <QStringList>
+#include <QVector>
+
+namespace {
+
+/// The first key or the other holds one of the words.
+struct Condition {
+    QStringList keys;
+    QStringList words;
+};
+
+struct Row {
+    std::pair<int, int> limits;
+    QVector<Condition> conditions;
+};
+
+QHash<QString, QVector<Row>> read()
+{
+    QFile file(QStringLiteral(TEST_DATA_DIR "/ranges.tsv"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("No table of ranges");
+    }
+    QHash<QString, QVector<Row>> rows;
+    const auto lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QStringList cells = line.split(QLatin1Char('\t'));
+        if (line.startsWith(QLatin1Char('#'))) {
+            continue;
+        }
+        Row row{{cells.at(1).toInt(), cells.at(2).toInt()}, {}};
+        for (const QString &condition : cells.at(3).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            row.conditions.append({condition.section(QLatin1Char('='), 0, 0).split(QLatin1Char('|')),
+                                   condition.section(QLatin1Char('='), 1).split(QLatin1Char('|'))});
+        }
+        rows[cells.at(0)].append(row);
+    }
+    return rows;
+}
+
+const QVector<Row> &rowsOf(const QString &list)
+{
+    static const QHash<QString, QVector<Row>> rows = read();
+    const auto found = rows.find(list);
+    if (found == rows.end()) {
+        qFatal("No range %s", qPrintable(list));
+    }
+    return *found;
+}
+
+} // namespace
+
+std::pair<int, int> ranges::of(const QString &list, const Word &word)
+{
+    for (const Row &row : rowsOf(list)) {
+        const bool fits = std::all_of(
+            row.conditions.begin(), row.conditions.end(), [&word](const Condition &condition) {
+                return std::any_of(condition.keys.begin(), condition.keys.end(),
+                                   [&](const QString &key) { return condition.words.contains(word(key)); });
+            });
+        if (fits) {
+            return row.limits;
+        }
+    }
+    qFatal("No range for these words: %s", qPrintable(list));
+}
+
+void ranges::forAllWords(const QString &list, const std::function<void(const Word &word)> &check)
+{
+    QMap<QString, QStringList> told;
+    for (const Row &row : rowsOf(list)) {
+        for (const Condition &condition : row.conditions) {
+            for (const QString &key : condition.keys) {
+                told[key] += condition.words;
+            }
+        }
+    }
+    QVector<QMap<QString, QString>> all{{}};
+    for (auto words = told.begin(); words != told.end(); ++words) {
+        words.value() += QStringLiteral("x");
+        words->removeDuplicates();
+        QVector<QMap<QString, QString>> longer;
+        for (const auto &some : qAsConst(all)) {
+            for (const QString &word : qAsConst(*words)) {
+                longer.append(some);
+                longer.last().insert(words.key(), word);
+            }
+        }
+        all = longer;
+    }
+    for (const auto &words : qAsConst(all)) {
+        check([&words](const QString &key) { return words.value(key); });
+    }
+}
