@@ -11,7 +11,8 @@ using automode::seasonalPlant;
 using automode::seasonalRoot;
 using automode::sensing;
 
-// The Auto mode section: what each control writes, what a load shows and which rows stand on the page.
+// The Auto mode section: texts, its mode, which rows stand on the page.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationaAuto : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,8 @@ QString radioStyle(const char *colour)
 
 } // namespace
 
-// The hydronic module's settings at the bottom of the system section.
+// The hydronic module's settings at the bottom of the system section: conditions, orders, looks.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationAquabox : public QObject
 {
     Q_OBJECT

@@ -20,8 +20,8 @@ const QString fanCoil = root + QStringLiteral("UFH_stop.FCU_disable");
 
 } // namespace
 
-// The controls of the cooling section: texts, lists, what each shows and writes, where it differs from
-// heating.
+// The controls of the cooling section where they differ from heating and do more than their row.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationCool : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,8 @@ QString at(const char *key) { return HotWaterSection::at(key); }
 
 } // namespace
 
-// The hot water section of the Installation tab: what it shows, writes and reports.
+// The hot water section of the Installation tab: its schedule, what loads write back, what it reports.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationDwh : public QObject
 {
     Q_OBJECT

@@ -20,7 +20,8 @@ const QString heater = flag("is_installed_heater");
 
 } // namespace
 
-// The controls of the heating section: lists, what each shows and writes, where it differs from cooling.
+// The controls of the heating section where they differ from cooling and do more than their row.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationHeat : public QObject
 {
     Q_OBJECT

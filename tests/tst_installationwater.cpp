@@ -53,7 +53,7 @@ QString degrees(int value) { return QStringLiteral("%1°C").arg(value); }
 } // namespace
 
 // The rules that hold for the cooling and the heating section alike, in rows named after section and control.
-// What one has of its own is in its test.
+// What one has of its own is in its test. What plain controls list, write and show: walk/tst_controls.cpp.
 class TestInstallationWater : public QObject
 {
     Q_OBJECT

@@ -15,6 +15,7 @@ const QVariantMap withHotWater{{"IduFuncList.is_hotwater", "SET"}};
 } // namespace
 
 // The Function tab: silent mode, button locks, defrost mode.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestSettingFunction : public QObject
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ const QVariantMap withHotWater{{"IduFuncList.is_hotwater", "SET"}};
 
 } // namespace
 
-// The Function tab's button locks.
+// The Function tab's button locks. What plain controls list, write and show: walk/tst_controls.cpp.
 class TestSettingLocks : public QObject
 {
     Q_OBJECT

@@ -3,6 +3,7 @@
 #include <QJsonObject>
 
 // The User tab: temperature unit, backlight, date, summer time, theme.
+// What plain controls list, write and show: walk/tst_controls.cpp.
 class TestSettingUser : public UserTabTest
 {
     Q_OBJECT

@@ -1,3 +1,6 @@
+// What each control writes. tst_controls.cpp holds it of all; effects between them stand in the tests of the
+// pages.
+
 #include "walk/controlrows.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The lists of the Function and the User tab.
+// The lists of the Function and the User tab. tst_controls.cpp holds them.
 
 #include "walk/comborules.h"
 #include "walk/scene.h"

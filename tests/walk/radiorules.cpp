@@ -1,3 +1,6 @@
+// Which radio a word checks. tst_controls.cpp holds it of all; what goes before a word is in the tests of the
+// pages.
+
 #include "walk/radiorules.h"
 
 #include "walk/scene.h"

@@ -1,3 +1,6 @@
+// What the lists of the seasonal auto mode hold. Their engine by itself: tst_autoengine.cpp,
+// core/tst_autoranges.cpp.
+
 #include "walk/seasonalrules.h"
 
 #include "walk/comborules.h"

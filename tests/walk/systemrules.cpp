@@ -1,4 +1,4 @@
-// The lists of the system section and of the two product sections in it.
+// The lists of the system section and of the two product sections in it. tst_controls.cpp holds them.
 
 #include "walk/comborules.h"
 #include "walk/scene.h"

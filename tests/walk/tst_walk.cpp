@@ -13,17 +13,34 @@ namespace {
 constexpr int usualSteps = 1000;
 constexpr quint32 usualSeed = 20261121;
 
+/// A test's text, with the headers of tests/support that it includes.
+QByteArray withSupport(const QDir &folder, const QString &file)
+{
+    QByteArray text = testfiles::content(folder.filePath(file));
+    for (const QString &header : QDir(folder.filePath(QStringLiteral("support"))).entryList({"*.h"})) {
+        if (text.contains("#include \"support/" + header.toLatin1() + '"')) {
+            text += testfiles::content(folder.filePath(QStringLiteral("support/") + header));
+        }
+    }
+    return text;
+}
+
+/// Whether a test that includes the header of the control's page names the control.
 bool isInAPageTest(const QString &name)
 {
-    static const QByteArray tests = [] {
-        QByteArray texts;
+    static const QList<QByteArray> tests = [] {
+        QList<QByteArray> texts;
         const QDir folder(QStringLiteral(TEST_DATA_DIR "/.."));
         for (const QString &file : folder.entryList({QStringLiteral("tst_*.cpp")})) {
-            texts += testfiles::content(folder.filePath(file));
+            texts.append(withSupport(folder, file));
         }
         return texts;
     }();
-    return tests.contains('"' + name.section(QLatin1Char('/'), 1).toLatin1() + '"');
+    const QByteArray header = '/' + name.section(QLatin1Char('/'), 0, 0).toLower().toLatin1() + ".h\"";
+    const QByteArray control = '"' + name.section(QLatin1Char('/'), 1).toLatin1() + '"';
+    return std::any_of(tests.begin(), tests.end(), [&](const QByteArray &text) {
+        return text.contains(header) && text.contains(control);
+    });
 }
 
 void tell(const QMap<QString, int> &counts, const char *title)

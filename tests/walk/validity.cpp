@@ -1,3 +1,5 @@
+// Which choices a page requires. The order in which it asks stands in the tests of the pages.
+
 #include "walk/validity.h"
 
 #include "walk/scene.h"
