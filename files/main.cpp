@@ -18,23 +18,18 @@ void discardMessage(QtMsgType type, const QMessageLogContext &, const QString &m
     }
 }
 
-/// Whether the wizard's pages or fonts will be asked, as far as can be told before there is an application.
-bool needsPages(int count, char *arguments[])
+/// By an application of its own, which goes with it: what the options are tells which one is needed.
+Options readOptions(int count, char *arguments[])
 {
-    bool needs = false;
-    for (int index = 1; index < count; ++index) {
-        const QByteArray argument(arguments[index]);
-        if (argument == "--no-pages" || argument == "--help" || argument == "-h" || argument == "diff") {
-            return false;
-        }
-        needs = needs || argument == "check" || argument == "report";
-    }
-    return needs;
+    const QCoreApplication application(count, arguments);
+    return options::read(QCoreApplication::arguments());
 }
 
-std::unique_ptr<QCoreApplication> makeApplication(int &count, char *arguments[])
+/// With pages or fonts only where they are asked. Qt gets no arguments, of which it would take some for its
+/// own.
+std::unique_ptr<QCoreApplication> makeApplication(const Options &options, int &count, char *arguments[])
 {
-    if (!needsPages(count, arguments)) {
+    if (options.command != Options::Report && (options.command != Options::Check || !options.pages)) {
         return std::make_unique<QCoreApplication>(count, arguments);
     }
     // No display is needed, and none is looked for.
@@ -68,6 +63,8 @@ int run(const Options &options)
 int main(int argumentCount, char *arguments[])
 {
     qInstallMessageHandler(discardMessage);
-    const auto application = makeApplication(argumentCount, arguments);
-    return run(options::read(QCoreApplication::arguments()));
+    const Options options = readOptions(argumentCount, arguments);
+    int nameAlone = qMin(argumentCount, 1);
+    const auto application = makeApplication(options, nameAlone, arguments);
+    return run(options);
 }

@@ -1,6 +1,7 @@
 #include "files/options.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace {
 
@@ -37,7 +38,7 @@ struct Parser {
     QCommandLineOption language{QStringLiteral("language"),
                                 QStringLiteral("Captions and values in this language."),
                                 QStringLiteral("NAME"), QStringLiteral("English")};
-    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Write JSON, for programs.")};
+    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("check, diff: write JSON, for programs.")};
     QCommandLineOption fahrenheit{QStringLiteral("fahrenheit"), QStringLiteral("Temperatures in °F.")};
     QCommandLineOption noPages{QStringLiteral("no-pages"),
                                QStringLiteral("check: without the wizard's pages, which is quicker.")};
@@ -59,6 +60,33 @@ Options::Command command(const QString &name)
         return Options::Diff;
     }
     return name == QLatin1String("report") ? Options::Report : Options::Wrong;
+}
+
+/// An option that the command doesn't have; empty when there is none. The description of one that isn't for
+/// all begins with its commands.
+QString strangeOption(const Parser &rules, const QString &command)
+{
+    for (const QCommandLineOption &each :
+         {rules.json, rules.noPages, rules.paths, rules.defaults, rules.output}) {
+        if (rules.parser.isSet(each)
+            && !each.description().section(QLatin1Char(':'), 0, 0).contains(command)) {
+            return each.names().constLast();
+        }
+    }
+    return {};
+}
+
+/// What is wrong with where a report is to go; empty when it is right.
+QString complaint(const QString &output, const QString &file)
+{
+    if (!output.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)
+        && !output.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
+        return QStringLiteral("report: the name of the output has to end in .html or .pdf");
+    }
+    const QString existing = QFileInfo(output).canonicalFilePath();
+    return existing.isEmpty() || existing != QFileInfo(file).canonicalFilePath()
+        ? QString()
+        : QStringLiteral("report: the output is the file itself");
 }
 
 /// What is wrong with the number of files; empty when it is right.
@@ -98,7 +126,8 @@ Options options::read(const QStringList &arguments)
         return read;
     }
     read.files = rules.parser.positionalArguments();
-    read.command = command(read.files.value(0));
+    const QString name = read.files.value(0);
+    read.command = command(name);
     if (!read.files.isEmpty()) {
         read.files.removeFirst();
     }
@@ -110,6 +139,12 @@ Options options::read(const QStringList &arguments)
     read.paths = rules.parser.isSet(rules.paths);
     read.defaults = rules.parser.isSet(rules.defaults);
     read.message = complaint(read);
+    const QString strange = strangeOption(rules, name);
+    if (read.message.isEmpty() && !strange.isEmpty()) {
+        read.message = QStringLiteral("%1 has no option --%2").arg(name, strange);
+    } else if (read.message.isEmpty() && rules.parser.isSet(rules.output)) {
+        read.message = complaint(read.output, read.files.first());
+    }
     if (!read.message.isEmpty()) {
         read.command = Options::Wrong;
     }

@@ -17,11 +17,11 @@ _calora_files() {
         return
     fi
     if [[ $current == -* ]]; then
-        local options='--language --help'
+        local options='--language --fahrenheit --help'
         case $command in
         check) options+=' --json --no-pages' ;;
-        diff) options+=' --json --default --paths --fahrenheit' ;;
-        report) options+=' --output --fahrenheit' ;;
+        diff) options+=' --json --default --paths' ;;
+        report) options+=' --output' ;;
         esac
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
         return

@@ -410,6 +410,18 @@ void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine_data()
     row("diff --default a.json b.json", 2, "one file");
     row("report", 2, "one file");
     row("check --nonsense a.json", 2, "Unknown option 'nonsense'");
+    row("report --no-pages plant.json -o a.html", 2, "report has no option --no-pages");
+    row("report --json plant.json", 2, "report has no option --json");
+    row("diff --no-pages plant.json plant.json", 2, "diff has no option --no-pages");
+    row("check --paths plant.json", 2, "check has no option --paths");
+    row("check --default plant.json", 2, "check has no option --default");
+    row("check -o a.html plant.json", 2, "check has no option --output");
+    row("report plant.json -o -h", 2, "has to end in .html or .pdf");
+    row("check -platform xcb plant.json", 2, "Unknown options");
+    row("check diff", 0, "diff: sound; the wizard would call it complete");
+    row("check --no-pages report", 2, "report: can't be opened");
+    row("diff check --default", 2, "check: can't be opened");
+    row("report diff", 0, "<!DOCTYPE html>");
     row("--help", 0, "calora-files check plant.json");
     row("check --help", 0, "calora-files check plant.json");
     row("--version", 0, "calora-files 1.0");
@@ -421,9 +433,13 @@ void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine()
     QFETCH(int, code);
     QFETCH(QString, said);
 
+    // Of files beside it, whose names are words of the command line.
+    folder.put(QStringLiteral("plant.json"), complete());
+    folder.put(QStringLiteral("diff"), complete());
+    QVERIFY(QDir::setCurrent(folder.path(QString())));
     const program::Outcome outcome = program::run(arguments);
     QCOMPARE(outcome.code, code);
-    QVERIFY2((code == 0 ? outcome.out : outcome.err).contains(said), qPrintable(outcome.out + outcome.err));
+    QVERIFY2((outcome.out + outcome.err).contains(said), qPrintable(outcome.out + outcome.err));
 }
 
 QTEST_GUILESS_MAIN(TestFilesCheck)

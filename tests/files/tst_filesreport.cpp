@@ -60,6 +60,8 @@ private slots:
     void aPdfIsOneSheet();
     void tellsWhatCannotBeRead();
     void tellsWhatCannotBeWritten();
+    void spoilsNoFile_data();
+    void spoilsNoFile();
 
 private:
     program::Folder folder;
@@ -210,6 +212,50 @@ void TestFilesReport::tellsWhatCannotBeWritten()
         {file, QStringLiteral("-o"), folder.path(QStringLiteral("no/such/r.html"))});
     QCOMPARE(outcome.code, 2);
     QVERIFY2(outcome.err.contains(QLatin1String("r.html: can't be written")), qPrintable(outcome.err));
+}
+
+void TestFilesReport::spoilsNoFile_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("told");
+
+    const QString ending = QStringLiteral("has to end in .html or .pdf");
+    const QString same = QStringLiteral("the output is the file itself");
+    QTest::newRow("itself") << "plant.json"
+                            << "plant.json" << ending;
+    QTest::newRow("another settings file") << "plant.json"
+                                           << "other.json" << ending;
+    QTest::newRow("no ending") << "plant.json"
+                               << "html" << ending;
+    QTest::newRow("no name") << "plant.json"
+                             << "" << ending;
+    QTest::newRow("itself by an ending") << "plant.html"
+                                         << "plant.html" << same;
+    QTest::newRow("itself on another way") << "plant.pdf"
+                                           << "../%1/plant.pdf" << same;
+}
+
+void TestFilesReport::spoilsNoFile()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, output);
+    QFETCH(QString, told);
+
+    const QString here = QFileInfo(folder.path(QStringLiteral("."))).dir().dirName();
+    for (const QString &name : {file, QStringLiteral("other.json")}) {
+        folder.put(name, plant());
+    }
+    const QString to = output.contains(QLatin1Char('%')) ? output.arg(here) : output;
+    const program::Outcome outcome = report(
+        {folder.path(file), QStringLiteral("-o"), to.isEmpty() ? to : folder.path(to)});
+    QCOMPARE(outcome.code, 2);
+    QVERIFY2(outcome.err.contains(told), qPrintable(outcome.err));
+    QCOMPARE(outcome.out, QString());
+    for (const QString &name : {file, QStringLiteral("other.json")}) {
+        QCOMPARE(testfiles::content(folder.path(name)), plant().toJson(QJsonDocument::Compact));
+    }
+    QVERIFY(!QFile::exists(folder.path(QStringLiteral("html"))));
 }
 
 QTEST_GUILESS_MAIN(TestFilesReport)
