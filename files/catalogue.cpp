@@ -8,6 +8,7 @@
 #include <QMultiHash>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -122,6 +123,28 @@ const Setting *catalogue::find(const QString &path, const View &view)
         }
     }
     return nullptr;
+}
+
+bool catalogue::isPosition(const QString &path)
+{
+    const auto setting = std::find_if(settings().begin(), settings().end(), [&path](const Setting &each) {
+        return path == QLatin1String(each.path);
+    });
+    if (setting == settings().end()) {
+        return false;
+    }
+    switch (setting->form) {
+    case Form::Words:
+    case Form::WholeHour:
+        return true;
+    case Form::Kelvin:
+        return setting->offset != 0;
+    case Form::Number:
+        // Less those with a unit of no language, and the fields for tenths.
+        return *setting->texts != '\0' && *setting->texts != '#' && setting->factor > 0;
+    default:
+        return false;
+    }
 }
 
 bool catalogue::applies(const Setting &setting, const View &view)

@@ -49,6 +49,9 @@ namespace catalogue {
 const std::vector<Setting> &settings();
 /// The setting at the path, as the document shows it; null for what no control shows.
 const Setting *find(const QString &path, const View &view);
+/// Whether a list stores the position of its item at the path, as all do whose items hold a language's words;
+/// others store the number that they show.
+bool isPosition(const QString &path);
 /// Whether it is this one, where a path has a control for each of two units.
 bool applies(const Setting &setting, const View &view);
 /// The class of the page.

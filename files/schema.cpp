@@ -1,6 +1,7 @@
 #include "files/schema.h"
 
 #include "document/util.h"
+#include "files/catalogue.h"
 #include "files/reading.h"
 
 #include <QFile>
@@ -17,6 +18,8 @@ namespace {
 
 // Far more than a settings file may hold.
 constexpr int longestText = 100;
+// The one step that isn't the key of its text.
+constexpr auto stepByPosition = "SettingInfo.installation.digitalInput";
 
 /// The dotted path of a place as the library tells it: "<root>", "[name]" for each step down.
 QString dotted(const std::vector<std::string> &context)
@@ -145,20 +148,23 @@ QString Schema::wrong(const QString &path, const QJsonValue &value) const
                           : QStringLiteral("isn't of the form that it has to have: %1").arg(meaning(path));
 }
 
-/// A list that is blank stores the number below its first one, or the step of that number.
-bool Schema::isLeftByWizard(const QJsonObject &rule, const QJsonValue &value) const
+/// A blank list stores the number below its first one, which a list of numbers does only where that is 0; or
+/// the step of that number.
+bool Schema::isLeftByWizard(const QString &path, const QJsonValue &value) const
 {
     if (value == QLatin1String("STEP-1")) {
-        return allowed(rule).contains(QLatin1String("STEP0"));
+        return path == QLatin1String(stepByPosition);
     }
-    return value.isDouble() && rule.contains(QLatin1String("minimum"))
-        && value.toInt() == rule.value(QLatin1String("minimum")).toInt() - 1;
+    const QJsonObject rule = leaves.value(path);
+    const int blank = rule.value(QLatin1String("minimum")).toInt() - 1;
+    return rule.contains(QLatin1String("minimum")) && value == QJsonValue(blank)
+        && (blank == 0 || catalogue::isPosition(path));
 }
 
 Finding Schema::finding(const QString &path, const QJsonObject &document) const
 {
     const QJsonValue value = reading::at(document, path);
-    const bool left = isLeftByWizard(leaves.value(path), value);
+    const bool left = isLeftByWizard(path, value);
     return {left ? Severity::Warning : Severity::Error, path, reading::told(value),
             left ? QStringLiteral("stands for a list in which nothing was chosen") : wrong(path, value)};
 }

@@ -34,7 +34,7 @@ private:
     /// The words and numbers that the rule lets pass.
     QString allowed(const QJsonObject &rule) const;
     QString wrong(const QString &path, const QJsonValue &value) const;
-    bool isLeftByWizard(const QJsonObject &rule, const QJsonValue &value) const;
+    bool isLeftByWizard(const QString &path, const QJsonValue &value) const;
 
     QJsonObject root;
     QHash<QString, QJsonObject> leaves; ///< rules of the keys that pages use

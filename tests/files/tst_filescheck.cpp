@@ -38,6 +38,7 @@ private slots:
     void aCompleteFileIsCalledSo();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
+    void aBlankListLeavesANumberBelow();
     void circuitsKeepTheirOrder_data();
     void circuitsKeepTheirOrder();
     void takesWhatTheSchemaTakes();
@@ -133,6 +134,8 @@ void TestFilesCheck::tellsWhatIsWrong_data()
     const QString input = installation("digitalInput");
     row("the step of a blank list", {{input, QStringLiteral("STEP-1")}}, QStringLiteral("warning ") + input,
         "stands for a list in which nothing was chosen");
+    row("a step that is the key of its text", {{installation("kNightType"), QStringLiteral("STEP-1")}},
+        QStringLiteral("error ") + installation("kNightType"), "can be ");
     row("the fifth choice of four", {{input, QStringLiteral("STEP4")}}, QStringLiteral("warning ") + input,
         "isn't offered");
     row("a day that the month hasn't",
@@ -154,6 +157,60 @@ void TestFilesCheck::tellsWhatIsWrong()
     const program::Outcome outcome = program::run({QStringLiteral("check"), file});
     QCOMPARE(outcome.code, finding.startsWith(QLatin1String("error")) ? 1 : 0);
     QVERIFY2(outcome.out.contains(words), qPrintable(outcome.out));
+}
+
+// Where a list stores a position, a blank one leaves the number below the first; one that stores the number
+// it shows counts as 0 then. What is neither is nothing that the wizard leaves.
+void TestFilesCheck::aBlankListLeavesANumberBelow()
+{
+    const QVector<QPair<const char *, int>> left{{"circuitMainZone.controlTimeMainZone", 59},
+                                                 {"circuitMainZone.hysterisisMainZone", -1},
+                                                 {"cement_cure.cmt_holding", 0},
+                                                 {"cement_cure.cmt_step", 0},
+                                                 {"disinfect_data.cutOffTime", 0},
+                                                 {"disinfect_data.howLong", 4},
+                                                 {"disinfect_time.day", -1},
+                                                 {"disinfect_time.start", -1},
+                                                 {"hotWaterTankHeater.tankHeaterDelay", -1},
+                                                 {"hotwater_timer.maintain_time", 0},
+                                                 {"hotwater_timer.restrict_time", -1},
+                                                 {"pumpOperOptionInCool.time", 0},
+                                                 {"pumpOperOptionInHeat.timeOn", 0},
+                                                 {"pumpOperationByForce.ByForcePeriod", 19},
+                                                 {"pumpOperationByForce.ByForceRuntime", 0},
+                                                 {"pumpPreOverRun.overRun", 0},
+                                                 {"pumpPreOverRun.preRun", 0},
+                                                 {"smartGrid.smartGridMode", -1}};
+    const QVector<QPair<const char *, int>> wrong{{"UFH_stop.watertemp", 15},
+                                                  {"autoOp_outtemp.max", 9},
+                                                  {"autoOp_tempwater.high_limit", 33},
+                                                  {"boilerOfThirdParty.thirdPartyTemp", -26},
+                                                  {"cement_cure.cmt_maxTemp", 33},
+                                                  {"disinfect_data.maxTemp", 39},
+                                                  {"eheater_onoff.heater1_value", -26},
+                                                  {"hotwater_logic.compMaxTemp", 39},
+                                                  {"meterInterface.interface1", -1},
+                                                  {"modbusAddress", -1},
+                                                  {"pumpRPM.pumpRPMValue", -1},
+                                                  {"seasonalAutoOption.coolOutTemp.min", 9},
+                                                  {"seasonalAutoOption.heatWaterTemp.min", 13},
+                                                  {"settempLimit.heatWater.high_limit", 33},
+                                                  {"settempLimit.hotWater.low_limit", 29},
+                                                  {"waterFlowRate", 14}};
+    QStringList files;
+    QStringList expected;
+    for (const auto &each : left + wrong) {
+        const QString path = installation(each.first);
+        expected.append((files.size() < left.size() ? QStringLiteral("warning ") : QStringLiteral("error "))
+                        + path);
+        files.append(folder.put(QStringLiteral("blank-%1.json").arg(files.size()),
+                                documents::with(complete(), {{path, each.second}})));
+    }
+    const auto verdicts = program::check(files, {QStringLiteral("--no-pages")});
+    for (int number = 0; number < files.size(); ++number) {
+        QCOMPARE(program::findings(verdicts.value(QStringLiteral("blank-%1.json").arg(number))),
+                 QStringList{expected.at(number)});
+    }
 }
 
 void TestFilesCheck::circuitsKeepTheirOrder_data()
