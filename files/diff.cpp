@@ -13,6 +13,8 @@
 #include <QMap>
 #include <QSet>
 
+#include <tuple>
+
 namespace {
 
 /// What is there to read where the page has no text, or the same one for both.
@@ -21,11 +23,18 @@ QString raw(const QJsonValue &value)
     return value.isUndefined() ? QStringLiteral("–") : reading::told(value);
 }
 
+/// Whether the hour tells it.
+bool isHalf(const QJsonValue &value)
+{
+    const QString half = value.toString().toUpper();
+    return half == QLatin1String("AM") || half == QLatin1String("PM");
+}
+
 /// Every value that isn't a group, by its path.
 void collect(const QJsonObject &group, const QString &path, QMap<QString, QJsonValue> *leaves)
 {
     for (auto each = group.begin(); each != group.end(); ++each) {
-        const QString name = path.isEmpty() ? each.key() : path + QLatin1Char('.') + each.key();
+        const QString name = reading::below(path, each.key());
         if (each->isObject() && !each->toObject().isEmpty()) {
             collect(each->toObject(), name, leaves);
         } else {
@@ -69,18 +78,30 @@ private:
         // The pump's unit may be another before.
         QString oneText = catalogue::shown(*catalogue::find(path, viewBefore), before, viewBefore);
         QString otherText = catalogue::shown(setting, after, viewAfter);
-        if (setting.form == Form::Hour) {
-            told.insert(QString(path).replace(QLatin1String(".hour"), QLatin1String(".ampm")));
-        }
         if (one == other && (setting.form != Form::Hour || oneText == otherText)) {
             return;
+        }
+        const QString half = QString(path).replace(QLatin1String(".hour"), QLatin1String(".ampm"));
+        if (setting.form == Form::Hour && oneText != otherText && isHalf(reading::at(before, half))
+            && isHalf(reading::at(after, half))) {
+            told.insert(half);
         }
         if (oneText == otherText) {
             oneText = otherText = QString();
         }
-        found.push_back({catalogue::pageCaption(setting, texts), catalogue::caption(setting, viewAfter), path,
-                         one, other, oneText.isEmpty() ? raw(one) : oneText,
-                         otherText.isEmpty() ? raw(other) : otherText});
+        add({catalogue::pageCaption(setting, texts), catalogue::caption(setting, viewAfter), path, one, other,
+             oneText.isEmpty() ? raw(one) : reading::cut(oneText),
+             otherText.isEmpty() ? raw(other) : reading::cut(otherText)});
+    }
+
+    /// Two that read alike are told from where they begin to differ.
+    void add(Difference difference)
+    {
+        if (difference.beforeText == difference.afterText) {
+            std::tie(difference.beforeText, difference.afterText) = reading::told(difference.before,
+                                                                                  difference.after);
+        }
+        found.push_back(std::move(difference));
     }
 
     void compareRest()
@@ -98,8 +119,7 @@ private:
             const QJsonValue one = leavesBefore.value(each.key(), QJsonValue::Undefined);
             const QJsonValue other = leavesAfter.value(each.key(), QJsonValue::Undefined);
             if (one != other && !told.contains(each.key())) {
-                found.push_back(
-                    {{}, schema.meaning(each.key()), each.key(), one, other, raw(one), raw(other)});
+                add({{}, schema.meaning(each.key()), each.key(), one, other, raw(one), raw(other)});
             }
         }
     }
@@ -126,13 +146,13 @@ void printLines(const std::vector<Difference> &differences, const Options &optio
                 << (page.isEmpty() ? QStringLiteral("On no page") : printing::plain(page)) << '\n';
         }
         const bool named = !each.caption.isEmpty() && !each.page.isEmpty();
-        out << "  " << printing::plain(named ? each.caption : each.path) << ": "
+        const QString path = printing::plain(reading::cut(each.path, reading::longestPath));
+        out << "  " << (named ? printing::plain(each.caption) : path) << ": "
             << printing::plain(each.beforeText) << QStringLiteral(" → ") << printing::plain(each.afterText);
         if (!named && !each.caption.isEmpty()) {
             out << "  (" << printing::plain(each.caption) << ')';
         }
-        out << (options.paths && named ? QStringLiteral("  [%1]").arg(printing::plain(each.path)) : QString())
-            << '\n';
+        out << (options.paths && named ? QStringLiteral("  [%1]").arg(path) : QString()) << '\n';
     }
 }
 

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int longestValue = 60;
 constexpr int longestList = 10;
 
 /// Where the parser stopped, counted in characters as an editor counts them.
@@ -67,6 +66,21 @@ QJsonValue reading::at(const QJsonObject &document, const QString &path)
     return value;
 }
 
+QString reading::below(const QString &path, const QString &key)
+{
+    QString name = key;
+    name.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('.'), QLatin1String("\\."));
+    if (name.isEmpty()) {
+        name = QLatin1Char('\\');
+    }
+    return path.isEmpty() ? name : path + QLatin1Char('.') + name;
+}
+
+QString reading::cut(const QString &text, int longest)
+{
+    return text.size() <= longest ? text : text.left(longest) + QStringLiteral("…");
+}
+
 QString reading::told(const QJsonValue &value)
 {
     if (value.isUndefined()) {
@@ -78,6 +92,17 @@ QString reading::told(const QJsonValue &value)
     if (value.isObject() || (value.isArray() && !isShort)) {
         return value.isObject() ? QStringLiteral("{…}") : QStringLiteral("[…]");
     }
-    const QString text = compact(value.isString() ? value.toString().left(longestValue + 1) : value);
-    return text.size() <= longestValue ? text : text.left(longestValue) + QStringLiteral("…");
+    return cut(compact(value.isString() ? value.toString().left(longestValue + 1) : value));
+}
+
+std::pair<QString, QString> reading::told(const QJsonValue &one, const QJsonValue &other)
+{
+    const QString text = compact(one);
+    const QString otherText = compact(other);
+    const auto same = std::mismatch(text.begin(), text.end(), otherText.begin(), otherText.end()).first
+        - text.begin();
+    const auto rest = [same](const QString &whole) {
+        return QStringLiteral("…") + cut(whole.mid(static_cast<int>(same)));
+    };
+    return {rest(text), rest(otherText)};
 }

@@ -78,9 +78,7 @@ private:
 
     void compareGroups(const QJsonObject &group, const QJsonObject &model, const QString &path)
     {
-        const auto below = [&path](const QString &name) {
-            return path.isEmpty() ? name : path + QLatin1Char('.') + name;
-        };
+        const auto below = [&path](const QString &name) { return reading::below(path, name); };
         for (auto each = model.begin(); each != model.end(); ++each) {
             const QString name = below(each.key());
             const auto own = group.find(each.key());

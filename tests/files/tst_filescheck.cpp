@@ -49,6 +49,7 @@ private slots:
     void readsTheStandardInput();
     void speaksEachLanguage();
     void oneFileDoesNotColourTheNext();
+    void aKeyIsNoPath();
     void whatSteersATerminalIsSpelled();
     void standsHostileFiles_data();
     void standsHostileFiles();
@@ -403,6 +404,21 @@ void TestFilesCheck::oneFileDoesNotColourTheNext()
     QCOMPARE(program::findings(after.value(QStringLiteral("b.json"))),
              program::findings(alone.value(QStringLiteral("b.json"))));
     QCOMPARE(program::findings(before.value(QStringLiteral("a.json"))), QStringList());
+}
+
+// A dot in a key makes it no setting.
+void TestFilesCheck::aKeyIsNoPath()
+{
+    const QByteArray whole = complete().toJson(QJsonDocument::Compact);
+    folder.put(QStringLiteral("dotted.json"), whole.chopped(1) + R"(,"SettingInfo.user.themeSet":"pink"})");
+    const QString wrong = folder.put(QStringLiteral("both.json"),
+                                     QByteArray(whole.chopped(1) + R"(,"SettingInfo.user.themeSet":"pink"})")
+                                         .replace("\"white\"", "\"x\""));
+    const auto verdicts = program::check({folder.path(QStringLiteral("dotted.json")), wrong});
+    const QString note = QStringLiteral("note SettingInfo\\.user\\.themeSet");
+    QCOMPARE(program::findings(verdicts.value(QStringLiteral("dotted.json"))), QStringList{note});
+    QCOMPARE(program::findings(verdicts.value(QStringLiteral("both.json"))),
+             (QStringList{QStringLiteral("error SettingInfo.user.themeSet"), note}));
 }
 
 void TestFilesCheck::whatSteersATerminalIsSpelled()

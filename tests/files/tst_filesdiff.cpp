@@ -27,6 +27,10 @@ private slots:
     void nothingToTellIsQuiet();
     void tellsAValueAsThePageDoes_data();
     void tellsAValueAsThePageDoes();
+    void keysAreNoPaths_data();
+    void keysAreNoPaths();
+    void longTextsBeginWhereTheyDiffer_data();
+    void longTextsBeginWhereTheyDiffer();
     void groupsAsTheWizardDoes();
     void comparesWithTheDefaultsOfTheRefrigerant();
     void tellsJson();
@@ -51,7 +55,7 @@ void TestFilesDiff::tellsAValueAsThePageDoes_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("told");
 
-    const auto row = [](const char *name, const QVariantMap &values, const char *told,
+    const auto row = [](const char *name, const QVariantMap &values, const QByteArray &told,
                         const QStringList &options = {}) {
         QTest::newRow(name) << values << options << QString::fromUtf8(told);
     };
@@ -77,6 +81,20 @@ void TestFilesDiff::tellsAValueAsThePageDoes_data()
     row("the half of the day alone",
         {{QStringLiteral("SettingInfo.func.silentTimer.end.ampm"), QStringLiteral("PM")}},
         "Function\n  Silent mode, End time, Hour: 06 → 18\n");
+    const QString end = QStringLiteral("SettingInfo.func.silentTimer.end.");
+    const QString half = end + QStringLiteral("ampm");
+    const char *const meaning = "(End of silent mode, half of the day)\n";
+    const auto unread = [meaning](const char *values) {
+        return "On no page\n  SettingInfo.func.silentTimer.end.ampm: " + QByteArray(values) + "  " + meaning;
+    };
+    row("no half of the day", {{half, QStringLiteral("XX")}}, unread(R"("AM" → "XX")"));
+    row("the half in other letters", {{half, QStringLiteral("am")}}, unread(R"("AM" → "am")"));
+    row("a number for the half", {{half, 3}}, unread(R"("AM" → 3)"));
+    row("both halves and hours, of one time",
+        {{half, QStringLiteral("PM")}, {end + QStringLiteral("hour"), 6}},
+        "Function\n  Silent mode, End time, Hour: 06 → 18\n");
+    row("another hour and no half", {{half, QStringLiteral("XX")}, {end + QStringLiteral("hour"), 7}},
+        "Function\n  Silent mode, End time, Hour: 06 → 07\n\n" + unread(R"("AM" → "XX")"));
     row("a time of day", {{installation("disinfect_time.start"), 5}},
         "Domestic hot water tank heating\n  Disinfection, Schedule: 23:00 → 05:00\n");
     row("a word of no list", {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("pink")}},
@@ -92,6 +110,11 @@ void TestFilesDiff::tellsAValueAsThePageDoes_data()
     row("a flag that no page shows", {{QStringLiteral("IduFuncList.isSGReady"), QStringLiteral("CLR")}},
         "On no page\n  IduFuncList.isSGReady: \"SET\" → \"CLR\"  (Smart grid is offered)\n");
     row("an unknown key", {{QStringLiteral("maker\nX"), 7}}, "On no page\n  maker\\u000aX: – → 7\n");
+    const QByteArray many(70, 'x');
+    row("a long text", {{QStringLiteral("SettingInfo.svc.svcContact.company"), QString::fromLatin1(many)}},
+        "Service\n  Service contact, Company name: - → " + many.left(60) + "…\n");
+    row("a long key", {{QString(1000, QLatin1Char('k')), 1}},
+        "On no page\n  " + QByteArray(200, 'k') + "…: – → 1\n");
     row("with its path", {{heat, 50}},
         "Heating mode\n  Temp. limitation (Constant mode), Water temp., Max: 65°C → 50°C  "
         "[SettingInfo.installation.settempLimit.heatWater.high_limit]\n",
@@ -113,6 +136,71 @@ void TestFilesDiff::tellsAValueAsThePageDoes()
     QCOMPARE(outcome.out, told);
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.code, 1);
+}
+
+void TestFilesDiff::keysAreNoPaths_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("told");
+
+    const auto row = [](const char *name, const char *before, const char *after, const char *told) {
+        QTest::newRow(name) << QByteArray(before) << QByteArray(after)
+                            << QStringLiteral("On no page\n") + QString::fromUtf8(told);
+    };
+    row("a key spelled as a path of a page", R"({"SettingInfo.user.themeSet": 1})",
+        R"({"SettingInfo.user.themeSet": 2})", "  SettingInfo\\.user\\.themeSet: 1 → 2\n");
+    row("two that would be one path", R"({"a.b": 1, "a": {"b": 1}})", R"({"a.b": 2, "a": {"b": 1}})",
+        "  a\\.b: 1 → 2\n");
+    row("with a backslash", R"({"a\\.b": 1, "a\\\\": {"b": 1}})", R"({"a\\.b": 2, "a\\\\": {"b": 1}})",
+        "  a\\\\\\.b: 1 → 2\n");
+    row("an empty one", R"({"": {"a": 1}, "a": 1})", R"({"": {"a": 2}, "a": 1})", "  \\.a: 1 → 2\n");
+}
+
+void TestFilesDiff::keysAreNoPaths()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(QString, told);
+
+    const program::Outcome outcome = diff(
+        {folder.put(QStringLiteral("before.json"), before), folder.put(QStringLiteral("after.json"), after)});
+    QCOMPARE(outcome.out, told);
+    QCOMPARE(outcome.code, 1);
+}
+
+void TestFilesDiff::longTextsBeginWhereTheyDiffer_data()
+{
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<QVariant>("after");
+    QTest::addColumn<QString>("told");
+
+    const QString text(70, QLatin1Char('x'));
+    QTest::newRow("the end of a text")
+        << QVariant(text + QStringLiteral("1")) << QVariant(text + QStringLiteral("2"))
+        << QStringLiteral("…1\" → …2\"");
+    QTest::newRow("a text that ends")
+        << QVariant(text) << QVariant(text + QLatin1Char('y')) << QStringLiteral("…\" → …y\"");
+    QTest::newRow("lists") << QVariant(QVariantList{1, QStringLiteral("a")})
+                           << QVariant(QVariantList{1, QStringLiteral("b")})
+                           << QStringLiteral("…a\"] → …b\"]");
+    QTest::newRow("long from the start")
+        << QVariant(QLatin1Char('1') + text + text) << QVariant(QLatin1Char('2') + text + text)
+        << QStringLiteral("\"1%1… → \"2%1…").arg(text.left(58));
+}
+
+void TestFilesDiff::longTextsBeginWhereTheyDiffer()
+{
+    QFETCH(QVariant, before);
+    QFETCH(QVariant, after);
+    QFETCH(QString, told);
+
+    const auto put = [this](const char *name, const QVariant &value) {
+        return folder.put(QLatin1String(name),
+                          documents::with(r32(), {{QStringLiteral("ExtSysInfo.error"), value}}));
+    };
+    QCOMPARE(diff({put("before.json", before), put("after.json", after)}).out,
+             QStringLiteral("On no page\n  ExtSysInfo.error: %1\n").arg(told));
 }
 
 void TestFilesDiff::groupsAsTheWizardDoes()
