@@ -6,6 +6,7 @@
 
 #include <QJsonObject>
 #include <QMultiHash>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -204,4 +205,16 @@ QString catalogue::shown(const Setting &setting, const QJsonObject &document, co
     const bool whole = value.isDouble() && std::abs(value.toDouble()) <= 1e6;
     return whole && value.toInt(unset) != unset ? numberText(setting, document, value.toInt(), view)
                                                 : QString();
+}
+
+QString catalogue::item(const QString &text, const View &view)
+{
+    static const QRegularExpression numberAndUnit(QStringLiteral("^(-?\\d+)(.*)$"));
+    const QRegularExpressionMatch match = numberAndUnit.match(text);
+    if (!match.hasMatch()) {
+        return view.texts.text(text);
+    }
+    return match.captured(2) == QStringLiteral("°C")
+        ? temperatureText(match.captured(1).toInt(), view.fahrenheit)
+        : match.captured(1) + view.texts.text(match.captured(2));
 }

@@ -61,5 +61,7 @@ QString pageCaption(const Setting &setting, const Texts &texts);
 QString caption(const Setting &setting, const View &view);
 /// The value as the page shows it; empty where the page has no text for it.
 QString shown(const Setting &setting, const QJsonObject &document, const View &view);
+/// An item of a list, which is in keys and °C, as the page shows it.
+QString item(const QString &text, const View &view);
 
 } // namespace catalogue

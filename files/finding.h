@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -14,6 +14,7 @@ struct Finding {
     QString path;  ///< empty for the file as a whole
     QString value; ///< as it stands in the file; empty where there is none
     QString what;
+    QStringList offered = {}; ///< items of the list that doesn't hold it, in keys and °C
 };
 
 using Findings = std::vector<Finding>;

@@ -71,13 +71,38 @@ QString closing(const Verdict &verdict)
     return said;
 }
 
+/// With what is offered: the few that there are, or "5°C to 20°C".
+QString whatOf(const Finding &finding, const View &view)
+{
+    constexpr int few = 5;
+    if (finding.offered.isEmpty()) {
+        return finding.what;
+    }
+    QStringList items;
+    for (const QString &item : finding.offered) {
+        items.append(catalogue::item(item, view));
+    }
+    return finding.what + QStringLiteral(": ")
+        + (items.size() <= few ? items.join(QStringLiteral(", "))
+                               : items.first() + QStringLiteral(" to ") + items.last());
+}
+
+/// The file has °C; beside °F that are offered, what it comes to is told.
+QString valueOf(const Finding &finding, const View &view, const QJsonObject &document)
+{
+    const Setting *setting = finding.offered.isEmpty() ? nullptr : catalogue::find(finding.path, view);
+    return view.fahrenheit && setting != nullptr && setting->form == Form::Celsius
+        ? QStringLiteral("%1 (%2)").arg(finding.value, catalogue::shown(*setting, document, view))
+        : finding.value;
+}
+
 QJsonObject asJson(const Finding &finding, const View &view)
 {
     return {{QStringLiteral("severity"), QLatin1String(name(finding.severity))},
             {QStringLiteral("path"), finding.path},
             {QStringLiteral("caption"), captionOf(finding, view)},
             {QStringLiteral("value"), finding.value},
-            {QStringLiteral("what"), finding.what}};
+            {QStringLiteral("what"), whatOf(finding, view)}};
 }
 
 } // namespace
@@ -177,8 +202,9 @@ void Printer::printLines(const QString &file, const Reading &reading, const Verd
         const QString caption = captionOf(finding, view);
         out << who << name(finding.severity) << ": " << printing::plain(finding.path)
             << (caption.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(printing::plain(caption)))
-            << (finding.path.isEmpty() ? "" : ": ") << printing::plain(finding.value)
-            << (finding.value.isEmpty() ? "" : " ") << printing::plain(finding.what) << '\n';
+            << (finding.path.isEmpty() ? "" : ": ")
+            << printing::plain(valueOf(finding, view, *reading.document))
+            << (finding.value.isEmpty() ? "" : " ") << printing::plain(whatOf(finding, view)) << '\n';
     }
     out << who << closing(verdict) << '\n';
 }

@@ -52,16 +52,6 @@ void check(QAbstractButton *button, bool checked)
     button->setAutoExclusive(true);
 }
 
-/// "5°C to 20°C", or the few that there are.
-QString offer(const QComboBox &list)
-{
-    constexpr int few = 5;
-    if (list.count() <= few) {
-        return itemsOf(list).join(QStringLiteral(", "));
-    }
-    return QStringLiteral("%1 to %2").arg(list.itemText(0), list.itemText(list.count() - 1));
-}
-
 } // namespace
 
 Wizard::Wizard()
@@ -261,12 +251,16 @@ void Wizard::judgeList(const Control &control, const QJsonObject &document, Find
     const View view(keys, false, document);
     const QString text = catalogue::shown(*control.setting, document, view);
     const QString value = reading::told(reading::at(document, path));
-    if (!text.isEmpty() && control.list->findText(text, Qt::MatchFixedString) < 0) {
+    // Its first item is no choice then, and the page asks for one.
+    const bool headed = control.list->itemText(0)
+        == QString(QLatin1String(control.setting->captions)).section(QLatin1Char('/'), -1);
+    const bool open = text.isEmpty() && !MainDialog::checkValidationComboBox(control.list);
+    if (open && (headed || value == QLatin1String("-9999") || value == QLatin1String(R"("")"))) {
+        const QString asks = headed ? QStringLiteral(", which the page asks for") : QString();
+        findings->push_back({Severity::Warning, path, value, QStringLiteral("isn't chosen yet") + asks});
+    } else if (open || (!text.isEmpty() && control.list->findText(text, Qt::MatchFixedString) < 0)) {
         findings->push_back({Severity::Warning, path, value,
-                             QStringLiteral("isn't offered with the other values of the file: %1")
-                                 .arg(offer(*control.list))});
-    } else if (text.isEmpty() && !MainDialog::checkValidationComboBox(control.list)) {
-        findings->push_back(
-            {Severity::Warning, path, value, QStringLiteral("isn't chosen yet, which the page asks for")});
+                             QStringLiteral("isn't offered with the other values of the file"),
+                             itemsOf(*control.list).mid(headed ? 1 : 0)});
     }
 }

@@ -48,6 +48,8 @@ private slots:
     void goesOnAfterADamagedFile();
     void readsTheStandardInput();
     void speaksEachLanguage();
+    void tellsWhatIsOfferedAsThePageDoes_data();
+    void tellsWhatIsOfferedAsThePageDoes();
     void oneFileDoesNotColourTheNext();
     void aKeyIsNoPath();
     void whatSteersATerminalIsSpelled();
@@ -139,11 +141,15 @@ void TestFilesCheck::tellsWhatIsWrong_data()
         QStringLiteral("error ") + installation("kNightType"), "can be ");
     row("the fifth choice of four", {{input, QStringLiteral("STEP4")}}, QStringLiteral("warning ") + input,
         "isn't offered");
+    row("a step that this list hasn't", {{installation("typeOfHeat_Water_thermo"), QStringLiteral("STEP4")}},
+        QStringLiteral("warning ") + installation("typeOfHeat_Water_thermo"),
+        "isn't offered with the other values of the file: ");
     row("a day that the month hasn't",
         {{QStringLiteral("SettingInfo.user.summerTime.enable"), QStringLiteral("SET")},
          {QStringLiteral("SettingInfo.user.summerTime.start.mon"), 2},
          {QStringLiteral("SettingInfo.user.summerTime.start.day"), 30}},
-        QStringLiteral("warning SettingInfo.user.summerTime.start.day"), "30 isn't offered");
+        QStringLiteral("warning SettingInfo.user.summerTime.start.day"),
+        "30 isn't offered with the other values of the file: 1 to 28");
 }
 
 void TestFilesCheck::tellsWhatIsWrong()
@@ -157,6 +163,10 @@ void TestFilesCheck::tellsWhatIsWrong()
              QStringList{finding});
     const program::Outcome outcome = program::run({QStringLiteral("check"), file});
     QCOMPARE(outcome.code, finding.startsWith(QLatin1String("error")) ? 1 : 0);
+    // What the wizard calls complete misses nothing.
+    QVERIFY2(!outcome.out.contains(QLatin1String("would call it complete"))
+                 || !outcome.out.contains(QLatin1String("asks for")),
+             qPrintable(outcome.out));
     QVERIFY2(outcome.out.contains(words), qPrintable(outcome.out));
 }
 
@@ -374,6 +384,54 @@ void TestFilesCheck::speaksEachLanguage()
     QCOMPARE(outcome.code, 2);
     QVERIFY2(outcome.err.contains(QLatin1String("there is no language Elvish; there are:")),
              qPrintable(outcome.err));
+}
+
+void TestFilesCheck::tellsWhatIsOfferedAsThePageDoes_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("told");
+
+    const auto row = [](const char *name, const QString &path, const QVariant &value, const char *options,
+                        const char *told) {
+        QTest::newRow(name) << path << value
+                            << QString::fromLatin1(options).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                            << QStringLiteral("%1 isn't offered with the other values of the file: %2\n")
+                                   .arg(QString::fromUtf8(told).section(QLatin1Char('|'), 0, 0),
+                                        QString::fromUtf8(told).section(QLatin1Char('|'), 1));
+    };
+    const QString input = installation("digitalInput");
+    row("words", input, QStringLiteral("STEP4"), "",
+        "\"STEP4\"|Not use, Simple operation, Simple dry contact, Single emergency stop");
+    row("words of another language", input, QStringLiteral("STEP4"), "--language Deutsch",
+        "\"STEP4\"|Nicht verwenden, Einfacher Betrieb, Einfacher Kontakt, Not-Aus Einzelgerät");
+    row("days", QStringLiteral("SettingInfo.user.DateInfo.mday"), 31, "", "31|1 to 30");
+    row("°C", installation("autoOp_tempwater.low_limit"), 15, "", "15|20°C to 34°C");
+    // By the tool's table, which has even °F alone: 15 is 58, 20 is 68 and 34 is 94.
+    row("°F", installation("autoOp_tempwater.low_limit"), 15, "--fahrenheit", "15 (58°F)|68°F to 94°F");
+    row("a number and a word", installation("pumpRPM.pumpRPMValue"), 7, "", "7|10% to 100%");
+}
+
+void TestFilesCheck::tellsWhatIsOfferedAsThePageDoes()
+{
+    QFETCH(QString, path);
+    QFETCH(QVariant, value);
+    QFETCH(QStringList, options);
+    QFETCH(QString, told);
+
+    const QString file = folder.put(
+        QStringLiteral("offered.json"),
+        documents::with(
+            complete(),
+            {{QStringLiteral("IduFuncList.isSeasonalAuto"), QStringLiteral("CLR")}, {path, value}}));
+    const program::Outcome outcome = program::run(QStringList{QStringLiteral("check"), file} + options);
+    QVERIFY2(outcome.out.contains(told), qPrintable(outcome.out));
+    // For programs it is the same, less the value in °F.
+    const program::Outcome json = program::run(
+        QStringList{QStringLiteral("check"), QStringLiteral("--json"), file} + options);
+    QVERIFY2(json.out.contains(told.section(QLatin1Char(' '), 1).section(QLatin1String(") "), -1).trimmed()),
+             qPrintable(json.out));
 }
 
 // The pages keep radios and lists that a load leaves alone.
