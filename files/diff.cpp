@@ -133,10 +133,10 @@ private:
     std::vector<Difference> found;
 };
 
-void printLines(const std::vector<Difference> &differences, const Options &options)
+QString asLines(const std::vector<Difference> &differences, const Options &options)
 {
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
+    QString lines;
+    QTextStream out(&lines);
     QString page;
     for (std::size_t number = 0; number < differences.size(); ++number) {
         const Difference &each = differences.at(number);
@@ -154,9 +154,11 @@ void printLines(const std::vector<Difference> &differences, const Options &optio
         }
         out << (options.paths && named ? QStringLiteral("  [%1]").arg(path) : QString()) << '\n';
     }
+    out.flush();
+    return lines;
 }
 
-void printJson(const std::vector<Difference> &differences)
+QString asJson(const std::vector<Difference> &differences)
 {
     QJsonArray list;
     for (const Difference &each : differences) {
@@ -170,9 +172,7 @@ void printJson(const std::vector<Difference> &differences)
         told.insert(QStringLiteral("after"), each.after);
         list.append(told);
     }
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
-    out << QString::fromUtf8(QJsonDocument(QJsonObject{{QStringLiteral("differences"), list}}).toJson());
+    return printing::json({{QStringLiteral("differences"), list}}) + QLatin1Char('\n');
 }
 
 } // namespace
@@ -202,10 +202,6 @@ int diff::run(const Options &options)
         documents.insert(documents.begin(), shape::defaultFor(documents.front()));
     }
     const auto differences = compare(documents.at(0), documents.at(1), *texts, options.fahrenheit);
-    if (options.json) {
-        printJson(differences);
-    } else {
-        printLines(differences, options);
-    }
-    return differences.empty() ? 0 : 1;
+    return printing::say(options.json ? asJson(differences) : asLines(differences, options),
+                         differences.empty() ? 0 : 1);
 }

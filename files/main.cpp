@@ -50,8 +50,7 @@ int run(const Options &options)
         return report::run(options);
     case Options::Help:
     case Options::Version:
-        printing::say(options.message);
-        return 0;
+        return printing::say(options.message);
     default:
         printing::complain(options.message);
         return 2;

@@ -129,11 +129,27 @@ std::optional<Texts> printing::language(const QString &name)
     return texts;
 }
 
-void printing::say(const QString &text)
+QString printing::json(const QJsonObject &object)
+{
+    return plain(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
+int printing::say(const QString &text, int code)
 {
     QTextStream out(stdout);
     out.setCodec("UTF-8");
     out << text;
+    return end(&out, code);
+}
+
+int printing::end(QTextStream *out, int code)
+{
+    out->flush();
+    if (out->status() == QTextStream::Ok) {
+        return code;
+    }
+    complain(QStringLiteral("the output can't be written"));
+    return 2;
 }
 
 void printing::complain(const QString &message)
@@ -229,8 +245,7 @@ void Printer::printJson(const QString &file, const Reading &reading, const Verdi
         said.insert(QStringLiteral("complete"), *verdict.complete);
     }
     // File by file, so that thousands take no memory.
-    out << (sums.files == 1 ? "{\"files\":[\n" : ",\n")
-        << QString::fromUtf8(QJsonDocument(said).toJson(QJsonDocument::Compact));
+    out << (sums.files == 1 ? "{\"files\":[\n" : ",\n") << printing::json(said);
 }
 
 int Printer::finish()
@@ -242,8 +257,7 @@ int Printer::finish()
             {QStringLiteral("faulty"), sums.faulty}, {QStringLiteral("unusable"), sums.unusable},
             {QStringLiteral("errors"), sums.errors}, {QStringLiteral("warnings"), sums.warnings},
             {QStringLiteral("notes"), sums.notes}};
-        out << "\n],\"sums\":" << QString::fromUtf8(QJsonDocument(told).toJson(QJsonDocument::Compact))
-            << "}\n";
+        out << "\n],\"sums\":" << printing::json(told) << "}\n";
     } else if (sums.files > 1) {
         out << QStringLiteral("%1: %2 sound, %3 with errors, %4 not usable; %5, %6, %7\n")
                    .arg(counted(sums.files, "file"))
@@ -253,6 +267,5 @@ int Printer::finish()
                    .arg(counted(sums.errors, "error"), counted(sums.warnings, "warning"),
                         counted(sums.notes, "note"));
     }
-    out.flush();
-    return sums.unusable > 0 ? 2 : sums.errors > 0 ? 1 : 0;
+    return printing::end(&out, sums.unusable > 0 ? 2 : sums.errors > 0 ? 1 : 0);
 }

@@ -49,8 +49,12 @@ namespace printing {
 QString plain(const QString &text);
 /// The texts of the language; nothing, and a message, when there is none of that name.
 std::optional<Texts> language(const QString &name);
-/// To the standard output as it stands.
-void say(const QString &text);
+/// On one line for programs.
+QString json(const QJsonObject &object);
+/// To the standard output as it stands. Returns what end() does.
+int say(const QString &text, int code = 0);
+/// Ends an output. Returns the exit code; another, and a message, when not all of it could be written.
+int end(QTextStream *out, int code);
 void complain(const QString &message);
 
 } // namespace printing

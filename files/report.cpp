@@ -69,8 +69,7 @@ int report::run(const Options &options)
     const Wizard::Answer answer = Wizard().ask(*reading.document);
     const ReportPage page{*reading.document, answer, *texts, options.language, options.fahrenheit};
     if (options.output.isEmpty()) {
-        printing::say(page.html(true));
-        return 0;
+        return printing::say(page.html(true));
     }
     const QByteArray content = isPdf(options.output) ? pdf(page.html(false), options.files.first())
                                                      : page.html(true).toUtf8();

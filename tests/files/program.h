@@ -19,10 +19,12 @@ struct Outcome {
     QString err;
 };
 
+inline QString name() { return qEnvironmentVariable("CALORA_FILES_PROGRAM", QStringLiteral(CALORA_FILES)); }
+
 inline Outcome run(const QStringList &arguments, const QByteArray &input = {})
 {
     QProcess process;
-    process.start(qEnvironmentVariable("CALORA_FILES_PROGRAM", QStringLiteral(CALORA_FILES)), arguments);
+    process.start(name(), arguments);
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(120000)) {

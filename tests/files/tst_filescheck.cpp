@@ -53,6 +53,9 @@ private slots:
     void oneFileDoesNotColourTheNext();
     void aKeyIsNoPath();
     void whatSteersATerminalIsSpelled();
+    void programsGetNothingThatSteers();
+    void anOutputThatCannotBeWrittenIsTold_data();
+    void anOutputThatCannotBeWrittenIsTold();
     void standsHostileFiles_data();
     void standsHostileFiles();
     void tellsWhatIsWrongWithTheCommandLine_data();
@@ -490,6 +493,67 @@ void TestFilesCheck::whatSteersATerminalIsSpelled()
     QVERIFY(!outcome.out.contains(QChar(0x1b)) && !outcome.out.contains(QChar(0x202e)));
     QVERIFY2(outcome.out.contains(QLatin1String("SettingInfo.user.\\u001b]0;x\\u0007")),
              qPrintable(outcome.out));
+}
+
+// JSON has signs of its own for them, so that what is read is the same.
+void TestFilesCheck::programsGetNothingThatSteers()
+{
+    const QString steers = QStringLiteral("\u009b2J\u007f\u202e\u2028");
+    const QString file = folder.put(
+        QStringLiteral("steers.json"),
+        documents::with(complete(), {{QStringLiteral("SettingInfo.user.") + steers, 1}}));
+    for (const QStringList &command : {QStringList{QStringLiteral("check"), QStringLiteral("--no-pages")},
+                                       {QStringLiteral("diff"), QStringLiteral("--default")}}) {
+        const program::Outcome outcome = program::run(command + QStringList{QStringLiteral("--json"), file});
+        for (const QChar each : steers) {
+            QVERIFY(each == QLatin1Char('2') || each == QLatin1Char('J') || !outcome.out.contains(each));
+        }
+        const QJsonObject told = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
+        const QJsonValue list = command.first() == QLatin1String("diff")
+            ? told.value(QLatin1String("differences"))
+            : told.value(QLatin1String("files"))[0][QLatin1String("findings")];
+        QStringList paths;
+        for (const QJsonValue &each : list.toArray()) {
+            paths.append(each[QLatin1String("path")].toString());
+        }
+        QVERIFY2(paths.contains(QStringLiteral("SettingInfo.user.") + steers), qPrintable(outcome.out));
+    }
+}
+
+void TestFilesCheck::anOutputThatCannotBeWrittenIsTold_data()
+{
+    QTest::addColumn<QString>("arguments");
+
+    for (const char *arguments :
+         {"check --no-pages plant.json", "check --json --no-pages plant.json plant.json",
+          "diff --default plant.json", "diff --json --default plant.json", "report plant.json", "--help",
+          "--version"}) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments);
+    }
+}
+
+void TestFilesCheck::anOutputThatCannotBeWrittenIsTold()
+{
+    QFETCH(QString, arguments);
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full) || QStandardPaths::findExecutable(QStringLiteral("sh")).isEmpty()) {
+        QSKIP("There is no device without room, or no shell");
+    }
+    folder.put(QStringLiteral("plant.json"), complete());
+    const QString shell = QStringLiteral("cd '%1' && '%2' %3 %4")
+                              .arg(folder.path(QString()), program::name(), arguments);
+    for (const QString &output : {QStringLiteral(">/dev/full"), QStringLiteral(">&-")}) {
+        QProcess process;
+        process.start(QStringLiteral("sh"), {QStringLiteral("-c"), shell.arg(output)});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(process.readAllStandardError(), QByteArray("calora-files: the output can't be written\n"));
+    }
+    // Who reads no more is none of its concern.
+    QProcess process;
+    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), shell.arg(QStringLiteral("| :"))});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardError(), QByteArray());
 }
 
 void TestFilesCheck::standsHostileFiles_data()
