@@ -10,6 +10,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTextDocument>
@@ -18,8 +19,9 @@ namespace {
 
 constexpr qreal margin = 12; // mm
 
-/// The page on one sheet of A4, made smaller where it is longer.
-QByteArray pdf(const QString &html, const QString &title)
+/// The page on one sheet of A4, made smaller where it is longer. Its title is the name of the file, where
+/// there is one, without the folders, which are no customer's business.
+QByteArray pdf(const QString &html, const QString &file)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -30,12 +32,13 @@ QByteArray pdf(const QString &html, const QString &title)
         writer.setResolution(resolution);
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
-        writer.setTitle(title);
         writer.setCreator(QStringLiteral("calora-files"));
         QTextDocument text;
         text.setDocumentMargin(0);
         text.documentLayout()->setPaintDevice(&writer);
         text.setHtml(html);
+        writer.setTitle(file == QLatin1String("-") ? text.metaInformation(QTextDocument::DocumentTitle)
+                                                   : QFileInfo(file).fileName());
         const QSizeF sheet(writer.width(), writer.height());
         // A wider page is less high, until it fits and is drawn at the sheet's size.
         qreal width = sheet.width();

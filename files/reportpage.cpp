@@ -18,6 +18,8 @@ constexpr auto unlit = "#d9d9d9";
 // A heading is as high as two rows.
 constexpr int headingHeight = 2;
 constexpr int fewRows = 3;
+// What an unset number is in the file.
+constexpr int unset = -9999;
 
 QString content(const char *name)
 {
@@ -75,9 +77,15 @@ private:
     {
         const Setting *setting = catalogue::find(QLatin1String(path), view);
         const QString text = catalogue::shown(*setting, page.document, view);
-        return escaped(text.isEmpty() ? reading::told(reading::at(page.document, QLatin1String(path)))
-                                      : text);
+        const QJsonValue stored = reading::at(page.document, QLatin1String(path));
+        if (!text.isEmpty()) {
+            return escaped(reading::cut(text));
+        }
+        const bool isNone = stored.isUndefined() || stored == QLatin1String("") || stored == unset;
+        return isNone ? none() : escaped(reading::told(stored));
     }
+
+    static QString none() { return QStringLiteral("–"); }
 
     QString date() const
     {
@@ -88,7 +96,7 @@ private:
         };
         const int year = part("year");
         if (year < 0 || part("month") < 0 || part("mday") < 0) {
-            return QStringLiteral("–");
+            return none();
         }
         return QStringLiteral("%1-%2-%3")
             .arg(year)
@@ -159,14 +167,15 @@ private:
     QString row(const Setting &setting) const
     {
         const QString path = QLatin1String(setting.path);
-        const QJsonValue stored = reading::at(page.document, path);
         const QString text = value(setting.path);
-        const bool changed = stored != reading::at(defaults, path);
+        const QString before = catalogue::shown(*catalogue::find(path, viewOfDefaults), defaults,
+                                                viewOfDefaults);
+        // The half of the day is told by its hour.
+        const bool changed = reading::at(page.document, path) != reading::at(defaults, path)
+            || catalogue::shown(setting, page.document, view) != before;
         const QString told = changed
             ? QStringLiteral("<span class=\"changed\">◆&nbsp;%1</span> <span class=\"quiet\">(%2)</span>")
-                  .arg(text,
-                       escaped(catalogue::shown(*catalogue::find(path, viewOfDefaults), defaults,
-                                                viewOfDefaults)))
+                  .arg(text, escaped(before))
             : text;
         return QStringLiteral(
                    "<tr><td class=\"quiet\">%1</td><td class=\"value\" align=\"right\">%2</td></tr>")

@@ -40,6 +40,16 @@ QStringList lines(const QString &html)
     return all;
 }
 
+QByteArray utf16(const QString &text)
+{
+    QByteArray bytes;
+    for (const QChar each : text) {
+        bytes += static_cast<char>(each.row());
+        bytes += static_cast<char>(each.cell());
+    }
+    return bytes;
+}
+
 /// The line after the one that is `caption`.
 QString after(const QStringList &all, const QString &caption) { return all.value(all.indexOf(caption) + 1); }
 
@@ -54,10 +64,15 @@ private slots:
     void tellsWhatWasSet();
     void drawsTheSwitches();
     void marksWhatDiffersFromTheDefaults();
+    void marksTheHalfOfTheDay_data();
+    void marksTheHalfOfTheDay();
+    void whatIsMissingIsADash();
+    void longTextsAreCut();
     void markupOfAFileIsText();
     void speaksEachLanguage();
     void asksForNothingFromElsewhere();
     void aPdfIsOneSheet();
+    void aPdfOfTheStandardInputIsCalledAReport();
     void tellsWhatCannotBeRead();
     void tellsWhatCannotBeWritten();
     void spoilsNoFile_data();
@@ -131,6 +146,65 @@ void TestFilesReport::marksWhatDiffersFromTheDefaults()
     QCOMPARE(after(all, QStringLiteral("Temperature unit")), QStringLiteral("Celsius"));
 }
 
+void TestFilesReport::marksTheHalfOfTheDay_data()
+{
+    QTest::addColumn<QString>("half");
+    QTest::addColumn<QString>("told");
+
+    // Silent mode ends at six in the morning by default.
+    QTest::newRow("as by default") << "AM"
+                                   << "06";
+    QTest::newRow("the other half") << "PM"
+                                    << "◆ 18 (06)";
+}
+
+void TestFilesReport::marksTheHalfOfTheDay()
+{
+    QFETCH(QString, half);
+    QFETCH(QString, told);
+
+    const QString timer = QStringLiteral("SettingInfo.func.silentTimer.");
+    const QString file = folder.put(QStringLiteral("plant.json"),
+                                    documents::with(plant(),
+                                                    {{timer + QStringLiteral("set"), QStringLiteral("SET")},
+                                                     {timer + QStringLiteral("end.ampm"), half}}));
+    QCOMPARE(after(lines(report({file}).out), QStringLiteral("Silent mode, End time, Hour")), told);
+}
+
+void TestFilesReport::whatIsMissingIsADash()
+{
+    const QString contact = QStringLiteral("SettingInfo.svc.svcContact.");
+    const QString file = folder.put(
+        QStringLiteral("plant.json"),
+        documents::with(plant(),
+                        {{QStringLiteral("SettingInfo.user.themeSet"), QVariant()},
+                         {contact + QStringLiteral("company"), QVariant()},
+                         {contact + QStringLiteral("phoneNumber"), QString()}}));
+    const QStringList all = lines(report({file}).out);
+    QCOMPARE(after(all, QStringLiteral("Display theme")), QStringLiteral("◆ – (White)"));
+    QCOMPARE(after(all, QStringLiteral("Service contact")), QStringLiteral("–, A. Berger, –"));
+    const QString unset = folder.put(
+        QStringLiteral("unset.json"),
+        documents::with(plant(),
+                        {{QStringLiteral("SettingInfo.user.summerTime.enable"), QStringLiteral("SET")},
+                         {QStringLiteral("SettingInfo.user.summerTime.start.mon"), -9999}}));
+    QCOMPARE(after(lines(report({unset}).out), QStringLiteral("Summer time, Start date, Month")),
+             QStringLiteral("◆ – (3)"));
+    const QString empty = folder.put(QStringLiteral("empty.json"), QByteArray("{}"));
+    QVERIFY(lines(report({empty}).out).filter(QStringLiteral("◆  (")).isEmpty());
+}
+
+// A sheet made smaller until such a text fits would take long, and be small.
+void TestFilesReport::longTextsAreCut()
+{
+    const QString company(400000, QLatin1Char('x'));
+    const QString file = folder.put(
+        QStringLiteral("plant.json"),
+        documents::with(plant(), {{QStringLiteral("SettingInfo.svc.svcContact.company"), company}}));
+    QCOMPARE(after(lines(report({file}).out), QStringLiteral("Service contact")),
+             company.left(60) + QStringLiteral("…, A. Berger, 030-12345"));
+}
+
 void TestFilesReport::markupOfAFileIsText()
 {
     const QString evil = QStringLiteral("<script>alert(1)</script><img src=\"http://x/\">&amp;\"'");
@@ -192,7 +266,20 @@ void TestFilesReport::aPdfIsOneSheet()
         QVERIFY(content.startsWith("%PDF-"));
         QCOMPARE(content.count("/Type /Page\n"), 1);
         QVERIFY(content.size() > 10000);
+        // Titles are in UTF-16.
+        QVERIFY(content.contains(utf16(QStringLiteral("plant.json"))));
+        QVERIFY(!content.contains(utf16(QFileInfo(pdf).dir().dirName())));
     }
+}
+
+void TestFilesReport::aPdfOfTheStandardInputIsCalledAReport()
+{
+    const QString pdf = folder.path(QStringLiteral("input.pdf"));
+    QCOMPARE(program::run({QStringLiteral("report"), QStringLiteral("-"), QStringLiteral("-o"), pdf},
+                          plant().toJson())
+                 .code,
+             0);
+    QVERIFY(testfiles::content(pdf).contains(utf16(QStringLiteral("Commissioning report"))));
 }
 
 void TestFilesReport::tellsWhatCannotBeRead()
