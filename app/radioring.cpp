@@ -78,9 +78,9 @@ RadioRing::RadioRing(QWidget *window)
     : QFocusFrame(window)
 {
     hide();
-    auto *room = new RoomAround;
-    room->setParent(this);
-    setStyle(room);
+    auto *roomAround = new RoomAround;
+    roomAround->setParent(this);
+    setStyle(roomAround);
     auto *follower = new Follower(this);
     const auto widgets = window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
