@@ -97,15 +97,19 @@ void TestFilesWalk::checkAndWizardAgree()
         }
     }
     const auto verdicts = program::check(files);
+    QCOMPARE(verdicts.size(), files.size());
     int complete = 0;
     for (int number = 0; number < files.size(); ++number) {
         Installer installer;
-        const bool said = verdicts.value(name(number)).value(QLatin1String("complete")).toBool();
+        const QJsonValue verdict = verdicts.value(name(number)).value(QLatin1String("complete"));
+        QVERIFY(verdict.isBool());
+        const bool said = verdict.toBool();
         QVERIFY2(said == isComplete(&installer, documents.at(number)),
                  documents.at(number).toJson().constData());
         complete += said ? 1 : 0;
     }
     std::printf("%d of %d complete\n", complete, files.size());
+    QVERIFY(complete > 0 && complete < files.size());
 }
 
 CALORA_TEST_MAIN(TestFilesWalk)
