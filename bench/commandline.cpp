@@ -18,6 +18,7 @@ namespace {
 constexpr int fewRuns = 5;
 constexpr int fewFiles = 20;
 constexpr int manyFiles = 120;
+constexpr int anOfficesFiles = 10000;
 
 /// What a finished process has used.
 struct Usage {
@@ -88,6 +89,9 @@ std::vector<Row> commandLineRows()
             (check(manyFiles, withoutPages).milliseconds - check(fewFiles, withoutPages).milliseconds)
             / (manyFiles - fewFiles));
     }
+    // The names alone take a tenth.
+    const double ofAnOffice = check(anOfficesFiles, withoutPages).memory
+        / check(fewFiles, withoutPages).memory;
     return {
         {QStringLiteral("calora-files: start to end of a comparison"), QStringLiteral("a tenth of a second"),
          ratios(start, aTenth), 1},
@@ -97,6 +101,10 @@ std::vector<Row> commandLineRows()
          ratios(pages, second / 30), 1},
         {QStringLiteral("calora-files: memory with %1 files").arg(manyFiles),
          QStringLiteral("with %1").arg(fewFiles), growth, 1.1},
+        {QStringLiteral("calora-files: memory with %1 files, without pages").arg(anOfficesFiles),
+         QStringLiteral("with %1").arg(fewFiles),
+         {ofAnOffice},
+         1.2},
     };
 }
 
