@@ -66,6 +66,16 @@ inline QStringList findings(const QJsonObject &verdict)
     return found;
 }
 
+/// The settings of an installation that the wizard calls complete.
+inline QJsonDocument complete()
+{
+    return documents::with(documents::standard(QStringLiteral("R32")),
+                           {{QStringLiteral("SettingInfo.user.DateInfo.year"), 2026},
+                            {QStringLiteral("SettingInfo.user.DateInfo.month"), 11},
+                            {QStringLiteral("SettingInfo.user.DateInfo.mday"), 22},
+                            {QStringLiteral("SettingInfo.installation.autoOp_tempwater.low_limit"), 20}});
+}
+
 /// Files in a folder that goes with it.
 class Folder
 {

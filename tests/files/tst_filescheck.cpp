@@ -16,16 +16,6 @@ QString installation(const char *key)
     return QStringLiteral("SettingInfo.installation.") + QLatin1String(key);
 }
 
-/// The settings of an installation that the wizard calls complete.
-QJsonDocument complete()
-{
-    return documents::with(r32(),
-                           {{QStringLiteral("SettingInfo.user.DateInfo.year"), 2026},
-                            {QStringLiteral("SettingInfo.user.DateInfo.month"), 11},
-                            {QStringLiteral("SettingInfo.user.DateInfo.mday"), 22},
-                            {installation("autoOp_tempwater.low_limit"), 20}});
-}
-
 } // namespace
 
 // `calora-files check`: what it says of one value each, and how it ends.
@@ -43,23 +33,12 @@ private slots:
     void circuitsKeepTheirOrder();
     void takesWhatTheSchemaTakes();
     void refusesWhatTheSchemaRefuses();
-    void tellsWhereAFileIsNoJson_data();
-    void tellsWhereAFileIsNoJson();
     void goesOnAfterADamagedFile();
-    void readsTheStandardInput();
     void speaksEachLanguage();
     void tellsWhatIsOfferedAsThePageDoes_data();
     void tellsWhatIsOfferedAsThePageDoes();
     void oneFileDoesNotColourTheNext();
     void aKeyIsNoPath();
-    void whatSteersATerminalIsSpelled();
-    void programsGetNothingThatSteers();
-    void anOutputThatCannotBeWrittenIsTold_data();
-    void anOutputThatCannotBeWrittenIsTold();
-    void standsHostileFiles_data();
-    void standsHostileFiles();
-    void tellsWhatIsWrongWithTheCommandLine_data();
-    void tellsWhatIsWrongWithTheCommandLine();
 
 private:
     program::Folder folder;
@@ -82,13 +61,13 @@ void TestFilesCheck::soundFilesHaveNoErrors()
 
 void TestFilesCheck::aCompleteFileIsCalledSo()
 {
-    const QString file = folder.put(QStringLiteral("plant.json"), complete());
+    const QString file = folder.put(QStringLiteral("plant.json"), program::complete());
     program::Outcome outcome = program::run({QStringLiteral("check"), file});
     QCOMPARE(outcome.out, file + QStringLiteral(": sound; the wizard would call it complete\n"));
     // The day is the last of three lists that the wizard asks for.
     const QString open = folder.put(
         QStringLiteral("open.json"),
-        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), -9999}}));
+        documents::with(program::complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), -9999}}));
     outcome = program::run({QStringLiteral("check"), open});
     QCOMPARE(outcome.code, 0);
     QCOMPARE(outcome.out,
@@ -161,7 +140,8 @@ void TestFilesCheck::tellsWhatIsWrong()
     QFETCH(QString, finding);
     QFETCH(QString, words);
 
-    const QString file = folder.put(QStringLiteral("wrong.json"), documents::with(complete(), values));
+    const QString file = folder.put(QStringLiteral("wrong.json"),
+                                    documents::with(program::complete(), values));
     QCOMPARE(program::findings(program::check({file}).value(QStringLiteral("wrong.json"))),
              QStringList{finding});
     const program::Outcome outcome = program::run({QStringLiteral("check"), file});
@@ -218,7 +198,7 @@ void TestFilesCheck::aBlankListLeavesANumberBelow()
         expected.append((files.size() < left.size() ? QStringLiteral("warning ") : QStringLiteral("error "))
                         + path);
         files.append(folder.put(QStringLiteral("blank-%1.json").arg(files.size()),
-                                documents::with(complete(), {{path, each.second}})));
+                                documents::with(program::complete(), {{path, each.second}})));
     }
     const auto verdicts = program::check(files, {QStringLiteral("--no-pages")});
     for (int number = 0; number < files.size(); ++number) {
@@ -253,7 +233,7 @@ void TestFilesCheck::circuitsKeepTheirOrder()
     const QString path = QStringLiteral("SettingInfo.func.") + group;
     const QString file = folder.put(
         QStringLiteral("circuits.json"),
-        documents::with(complete(),
+        documents::with(program::complete(),
                         {{installation("circuitMainZone.enableMainZone"), QStringLiteral("SET")},
                          {installation("sensorDefine.settemp_select"), QStringLiteral("AIR")},
                          {installation("sensorDefine.airAndWaterUse"), QStringLiteral("SET")},
@@ -313,43 +293,17 @@ void TestFilesCheck::refusesWhatTheSchemaRefuses()
     }
 }
 
-void TestFilesCheck::tellsWhereAFileIsNoJson_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("trouble");
-
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("at line 1, column 1");
-    QTest::newRow("a word") << QByteArray("{\n  \"product\": awhp\n}")
-                            << QStringLiteral("at line 2, column 14");
-    QTest::newRow("after letters beyond ASCII")
-        << QByteArray("{\n  \"\xc3\xa9\xe2\x82\xac\": awhp\n}") << QStringLiteral("at line 2, column 9");
-    QTest::newRow("cut off") << QByteArray(R"({"product": "awhp")") << QStringLiteral("is not JSON");
-    QTest::newRow("a list") << QByteArray("[1, 2]") << QStringLiteral("is no settings file");
-    QTest::newRow("not UTF-8") << QByteArray("{\"product\": \"\xff\xfe\"}") << QStringLiteral("is not JSON");
-}
-
-void TestFilesCheck::tellsWhereAFileIsNoJson()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, trouble);
-
-    const program::Outcome outcome = program::run(
-        {QStringLiteral("check"), folder.put(QStringLiteral("bad.json"), content)});
-    QCOMPARE(outcome.code, 2);
-    QVERIFY2(outcome.out.contains(trouble), qPrintable(outcome.out));
-}
-
 void TestFilesCheck::goesOnAfterADamagedFile()
 {
     const QString bad = folder.put(QStringLiteral("bad.json"), QByteArray("{"));
     const QString wrong = folder.put(
         QStringLiteral("wrong.json"),
-        documents::with(complete(),
+        documents::with(program::complete(),
                         {{QStringLiteral("product"), QStringLiteral("x")},
                          {QStringLiteral("SettingInfo.user.DateInfo.mday"), -9999},
                          {QStringLiteral("mine"), 1},
                          {QStringLiteral("yours"), 1}}));
-    const QString good = folder.put(QStringLiteral("good.json"), complete());
+    const QString good = folder.put(QStringLiteral("good.json"), program::complete());
     const program::Outcome outcome = program::run(
         {QStringLiteral("check"), folder.path(QStringLiteral("none.json")), bad, wrong, good});
     QCOMPARE(outcome.code, 2);
@@ -362,19 +316,12 @@ void TestFilesCheck::goesOnAfterADamagedFile()
     QCOMPARE(program::run({QStringLiteral("check"), wrong, good}).code, 1);
 }
 
-void TestFilesCheck::readsTheStandardInput()
-{
-    const program::Outcome outcome = program::run({QStringLiteral("check"), QStringLiteral("-")},
-                                                  complete().toJson());
-    QCOMPARE(outcome.code, 0);
-    QCOMPARE(outcome.out, QStringLiteral("-: sound; the wizard would call it complete\n"));
-}
-
 void TestFilesCheck::speaksEachLanguage()
 {
     const QString file = folder.put(
         QStringLiteral("wrong.json"),
-        documents::with(complete(), {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("pink")}}));
+        documents::with(program::complete(),
+                        {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("pink")}}));
     const QDir languages(QStringLiteral(LANGUAGES_DIR));
     for (const QString &name : languages.entryList({QStringLiteral("*.json")})) {
         const QJsonObject texts = QJsonDocument::fromJson(testfiles::content(languages.filePath(name)))
@@ -428,7 +375,7 @@ void TestFilesCheck::tellsWhatIsOfferedAsThePageDoes()
     const QString file = folder.put(
         QStringLiteral("offered.json"),
         documents::with(
-            complete(),
+            program::complete(),
             {{QStringLiteral("IduFuncList.isSeasonalAuto"), QStringLiteral("CLR")}, {path, value}}));
     const program::Outcome outcome = program::run(QStringList{QStringLiteral("check"), file} + options);
     QVERIFY2(outcome.out.contains(told), qPrintable(outcome.out));
@@ -442,20 +389,20 @@ void TestFilesCheck::tellsWhatIsOfferedAsThePageDoes()
 // The pages keep radios and lists that a load leaves alone.
 void TestFilesCheck::oneFileDoesNotColourTheNext()
 {
-    const QString whole = folder.put(QStringLiteral("a.json"), complete());
+    const QString whole = folder.put(QStringLiteral("a.json"), program::complete());
     const QString without = folder.put(
         QStringLiteral("b.json"),
-        documents::with(complete(),
+        documents::with(program::complete(),
                         {{QStringLiteral("SettingInfo.user.themeSet"), QVariant()},
                          {installation("seasonalAutoOption.seasonalAutoOpMode"), QStringLiteral("?")},
                          {installation("settempLimit.heatWater.low_limit"), 65},
                          {installation("settempLimit.heatWater.high_limit"), 14}}));
     const QString july = folder.put(
         QStringLiteral("c.json"),
-        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.month"), 7}}));
+        documents::with(program::complete(), {{QStringLiteral("SettingInfo.user.DateInfo.month"), 7}}));
     const QString wrongDay = folder.put(
         QStringLiteral("d.json"),
-        documents::with(complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), 31}}));
+        documents::with(program::complete(), {{QStringLiteral("SettingInfo.user.DateInfo.mday"), 31}}));
     for (const QStringList &order :
          {QStringList{wrongDay}, {whole, wrongDay}, {july, wrongDay}, {wrongDay, wrongDay}}) {
         QCOMPARE(program::findings(program::check(order).value(QStringLiteral("d.json"))),
@@ -472,7 +419,7 @@ void TestFilesCheck::oneFileDoesNotColourTheNext()
 // A dot in a key makes it no setting.
 void TestFilesCheck::aKeyIsNoPath()
 {
-    const QByteArray whole = complete().toJson(QJsonDocument::Compact);
+    const QByteArray whole = program::complete().toJson(QJsonDocument::Compact);
     folder.put(QStringLiteral("dotted.json"), whole.chopped(1) + R"(,"SettingInfo.user.themeSet":"pink"})");
     const QString wrong = folder.put(QStringLiteral("both.json"),
                                      QByteArray(whole.chopped(1) + R"(,"SettingInfo.user.themeSet":"pink"})")
@@ -482,161 +429,6 @@ void TestFilesCheck::aKeyIsNoPath()
     QCOMPARE(program::findings(verdicts.value(QStringLiteral("dotted.json"))), QStringList{note});
     QCOMPARE(program::findings(verdicts.value(QStringLiteral("both.json"))),
              (QStringList{QStringLiteral("error SettingInfo.user.themeSet"), note}));
-}
-
-void TestFilesCheck::whatSteersATerminalIsSpelled()
-{
-    const QString file = folder.put(
-        QStringLiteral("steers.json"),
-        documents::with(complete(),
-                        {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("\x1b[2J\u202e\n")},
-                         {QStringLiteral("SettingInfo.user.\x1b]0;x\x07"), 1}}));
-    const program::Outcome outcome = program::run({QStringLiteral("check"), file});
-    QVERIFY(!outcome.out.contains(QChar(0x1b)) && !outcome.out.contains(QChar(0x202e)));
-    QVERIFY2(outcome.out.contains(QLatin1String("SettingInfo.user.\\u001b]0;x\\u0007")),
-             qPrintable(outcome.out));
-}
-
-// JSON has signs of its own for them, so that what is read is the same.
-void TestFilesCheck::programsGetNothingThatSteers()
-{
-    const QString steers = QStringLiteral("\u009b2J\u007f\u202e\u2028");
-    const QString file = folder.put(
-        QStringLiteral("steers.json"),
-        documents::with(complete(), {{QStringLiteral("SettingInfo.user.") + steers, 1}}));
-    for (const QStringList &command : {QStringList{QStringLiteral("check"), QStringLiteral("--no-pages")},
-                                       {QStringLiteral("diff"), QStringLiteral("--default")}}) {
-        const program::Outcome outcome = program::run(command + QStringList{QStringLiteral("--json"), file});
-        for (const QChar each : steers) {
-            QVERIFY(each == QLatin1Char('2') || each == QLatin1Char('J') || !outcome.out.contains(each));
-        }
-        const QJsonObject told = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
-        const QJsonValue list = command.first() == QLatin1String("diff")
-            ? told.value(QLatin1String("differences"))
-            : told.value(QLatin1String("files"))[0][QLatin1String("findings")];
-        QStringList paths;
-        for (const QJsonValue &each : list.toArray()) {
-            paths.append(each[QLatin1String("path")].toString());
-        }
-        QVERIFY2(paths.contains(QStringLiteral("SettingInfo.user.") + steers), qPrintable(outcome.out));
-    }
-}
-
-void TestFilesCheck::anOutputThatCannotBeWrittenIsTold_data()
-{
-    QTest::addColumn<QString>("arguments");
-
-    for (const char *arguments :
-         {"check --no-pages plant.json", "check --json --no-pages plant.json plant.json",
-          "diff --default plant.json", "diff --json --default plant.json", "report plant.json", "--help",
-          "--version"}) {
-        QTest::newRow(arguments) << QString::fromLatin1(arguments);
-    }
-}
-
-void TestFilesCheck::anOutputThatCannotBeWrittenIsTold()
-{
-    QFETCH(QString, arguments);
-    const QString full = QStringLiteral("/dev/full");
-    if (!QFile::exists(full) || QStandardPaths::findExecutable(QStringLiteral("sh")).isEmpty()) {
-        QSKIP("There is no device without room, or no shell");
-    }
-    folder.put(QStringLiteral("plant.json"), complete());
-    const QString shell = QStringLiteral("cd '%1' && '%2' %3 %4")
-                              .arg(folder.path(QString()), program::name(), arguments);
-    for (const QString &output : {QStringLiteral(">/dev/full"), QStringLiteral(">&-")}) {
-        QProcess process;
-        process.start(QStringLiteral("sh"), {QStringLiteral("-c"), shell.arg(output)});
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitCode(), 2);
-        QCOMPARE(process.readAllStandardError(), QByteArray("calora-files: the output can't be written\n"));
-    }
-    // Who reads no more is none of its concern.
-    QProcess process;
-    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), shell.arg(QStringLiteral("| :"))});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.readAllStandardError(), QByteArray());
-}
-
-void TestFilesCheck::standsHostileFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("code");
-
-    const QByteArray whole = complete().toJson(QJsonDocument::Compact);
-    const auto with = [&whole](const QByteArray &more) { return whole.chopped(1) + "," + more + "}"; };
-    QTest::newRow("10,000 levels") << with("\"x\":" + QByteArray(10000, '[') + QByteArray(10000, ']')) << 2;
-    QTest::newRow("500 levels") << with("\"x\":" + QByteArray(500, '[') + QByteArray(500, ']')) << 0;
-    QTest::newRow("a key of 1 MB") << with("\"" + QByteArray(1000000, 'k') + "\":1") << 0;
-    QByteArray keys;
-    for (int key = 0; key < 100000; ++key) {
-        keys += "\"k" + QByteArray::number(key) + "\":0,";
-    }
-    QTest::newRow("100,000 keys") << with(keys.chopped(1)) << 0;
-    QByteArray phone = whole;
-    phone.replace(R"("phoneNumber":"-")", R"("phoneNumber":")" + QByteArray(3000000, '1') + '"');
-    QTest::newRow("a telephone number of 3 MB") << phone << 1;
-    QTest::newRow("zeros") << QByteArray(100000, '\0') << 2;
-}
-
-void TestFilesCheck::standsHostileFiles()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(int, code);
-
-    const program::Outcome outcome = program::run(
-        {QStringLiteral("check"), folder.put(QStringLiteral("hostile.json"), content)});
-    QCOMPARE(outcome.code, code);
-    QVERIFY2(outcome.out.size() < 100000, qPrintable(outcome.out.left(1000)));
-}
-
-void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("said");
-
-    const auto row = [](const char *arguments, int code, const char *said) {
-        QTest::newRow(arguments) << QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
-                                 << code << QString::fromLatin1(said);
-    };
-    row("", 2, "Say check, diff or report");
-    row("chek a.json", 2, "Say check, diff or report");
-    row("check", 2, "which file?");
-    row("diff a.json", 2, "two files");
-    row("diff --default a.json b.json", 2, "one file");
-    row("report", 2, "one file");
-    row("check --nonsense a.json", 2, "Unknown option 'nonsense'");
-    row("report --no-pages plant.json -o a.html", 2, "report has no option --no-pages");
-    row("report --json plant.json", 2, "report has no option --json");
-    row("diff --no-pages plant.json plant.json", 2, "diff has no option --no-pages");
-    row("check --paths plant.json", 2, "check has no option --paths");
-    row("check --default plant.json", 2, "check has no option --default");
-    row("check -o a.html plant.json", 2, "check has no option --output");
-    row("report plant.json -o -h", 2, "has to end in .html or .pdf");
-    row("check -platform xcb plant.json", 2, "Unknown options");
-    row("check diff", 0, "diff: sound; the wizard would call it complete");
-    row("check --no-pages report", 2, "report: can't be opened");
-    row("diff check --default", 2, "check: can't be opened");
-    row("report diff", 0, "<!DOCTYPE html>");
-    row("--help", 0, "calora-files check plant.json");
-    row("check --help", 0, "calora-files check plant.json");
-    row("--version", 0, "calora-files 1.0");
-}
-
-void TestFilesCheck::tellsWhatIsWrongWithTheCommandLine()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, code);
-    QFETCH(QString, said);
-
-    // Of files beside it, whose names are words of the command line.
-    folder.put(QStringLiteral("plant.json"), complete());
-    folder.put(QStringLiteral("diff"), complete());
-    QVERIFY(QDir::setCurrent(folder.path(QString())));
-    const program::Outcome outcome = program::run(arguments);
-    QCOMPARE(outcome.code, code);
-    QVERIFY2((outcome.out + outcome.err).contains(said), qPrintable(outcome.out + outcome.err));
 }
 
 QTEST_GUILESS_MAIN(TestFilesCheck)
