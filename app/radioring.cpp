@@ -17,10 +17,10 @@ constexpr int room = 5;
 /// What has a look of its own for the focus, in the style sheet, needs no ring.
 bool isServed(const QWidget *widget)
 {
+    const auto *button = qobject_cast<const QPushButton *>(widget);
     return qobject_cast<const QRadioButton *>(widget) != nullptr
         || dynamic_cast<const PaintedButton *>(widget) != nullptr
-        || (qobject_cast<const QPushButton *>(widget) != nullptr
-            && widget->parentWidget()->objectName() == QLatin1String("titleFrame"));
+        || (button != nullptr && button->parentWidget()->objectName() == QLatin1String("titleFrame"));
 }
 
 /// Leaves room around the radio, and lets the ring be painted as it is.
