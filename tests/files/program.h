@@ -30,11 +30,13 @@ inline Outcome run(const QStringList &arguments, const QByteArray &input = {})
     if (!process.waitForFinished(120000)) {
         return {};
     }
-    const auto text = [](QByteArray told) {
+    const auto text = [](const QByteArray &told) {
 #ifdef Q_OS_WIN
-        told.replace("\r\n", "\n"); // how lines end there
-#endif
+        return QString::fromUtf8(told).replace(QLatin1String("\r\n"),
+                                               QLatin1String("\n")); // how lines end there
+#else
         return QString::fromUtf8(told);
+#endif
     };
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             text(process.readAllStandardOutput()), text(process.readAllStandardError())};

@@ -27,6 +27,8 @@ private slots:
     void nothingToTellIsQuiet();
     void tellsAValueAsThePageDoes_data();
     void tellsAValueAsThePageDoes();
+    void tellsTheHalfOfTheDay_data();
+    void tellsTheHalfOfTheDay();
     void keysAreNoPaths_data();
     void keysAreNoPaths();
     void longTextsBeginWhereTheyDiffer_data();
@@ -81,20 +83,6 @@ void TestFilesDiff::tellsAValueAsThePageDoes_data()
     row("the half of the day alone",
         {{QStringLiteral("SettingInfo.func.silentTimer.end.ampm"), QStringLiteral("PM")}},
         "Function\n  Silent mode, End time, Hour: 06 → 18\n");
-    const QString end = QStringLiteral("SettingInfo.func.silentTimer.end.");
-    const QString half = end + QStringLiteral("ampm");
-    const char *const meaning = "(End of silent mode, half of the day)\n";
-    const auto unread = [meaning](const char *values) {
-        return "On no page\n  SettingInfo.func.silentTimer.end.ampm: " + QByteArray(values) + "  " + meaning;
-    };
-    row("no half of the day", {{half, QStringLiteral("XX")}}, unread(R"("AM" → "XX")"));
-    row("the half in other letters", {{half, QStringLiteral("am")}}, unread(R"("AM" → "am")"));
-    row("a number for the half", {{half, 3}}, unread(R"("AM" → 3)"));
-    row("both halves and hours, of one time",
-        {{half, QStringLiteral("PM")}, {end + QStringLiteral("hour"), 6}},
-        "Function\n  Silent mode, End time, Hour: 06 → 18\n");
-    row("another hour and no half", {{half, QStringLiteral("XX")}, {end + QStringLiteral("hour"), 7}},
-        "Function\n  Silent mode, End time, Hour: 06 → 07\n\n" + unread(R"("AM" → "XX")"));
     row("a time of day", {{installation("disinfect_time.start"), 5}},
         "Domestic hot water tank heating\n  Disinfection, Schedule: 23:00 → 05:00\n");
     row("a word of no list", {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("pink")}},
@@ -137,6 +125,33 @@ void TestFilesDiff::tellsAValueAsThePageDoes()
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.code, 1);
 }
+
+void TestFilesDiff::tellsTheHalfOfTheDay_data()
+{
+    QTest::addColumn<QVariantMap>("values");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("told");
+
+    const auto row = [](const char *name, const QVariantMap &values, const QByteArray &told) {
+        QTest::newRow(name) << values << QStringList() << QString::fromUtf8(told);
+    };
+    const QString end = QStringLiteral("SettingInfo.func.silentTimer.end.");
+    const QString half = end + QStringLiteral("ampm");
+    const char *const meaning = "(End of silent mode, half of the day)\n";
+    const auto unread = [meaning](const char *values) {
+        return "On no page\n  SettingInfo.func.silentTimer.end.ampm: " + QByteArray(values) + "  " + meaning;
+    };
+    row("no half of the day", {{half, QStringLiteral("XX")}}, unread(R"("AM" → "XX")"));
+    row("the half in other letters", {{half, QStringLiteral("am")}}, unread(R"("AM" → "am")"));
+    row("a number for the half", {{half, 3}}, unread(R"("AM" → 3)"));
+    row("both halves and hours, of one time",
+        {{half, QStringLiteral("PM")}, {end + QStringLiteral("hour"), 6}},
+        "Function\n  Silent mode, End time, Hour: 06 → 18\n");
+    row("another hour and no half", {{half, QStringLiteral("XX")}, {end + QStringLiteral("hour"), 7}},
+        "Function\n  Silent mode, End time, Hour: 06 → 07\n\n" + unread(R"("AM" → "XX")"));
+}
+
+void TestFilesDiff::tellsTheHalfOfTheDay() { tellsAValueAsThePageDoes(); }
 
 void TestFilesDiff::keysAreNoPaths_data()
 {

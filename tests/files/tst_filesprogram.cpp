@@ -89,8 +89,8 @@ void TestFilesProgram::programsGetNothingThatSteers()
             ? told.value(QLatin1String("differences"))
             : told.value(QLatin1String("files"))[0][QLatin1String("findings")];
         QStringList paths;
-        for (const QJsonValue &each : list.toArray()) {
-            paths.append(each[QLatin1String("path")].toString());
+        for (const auto &each : list.toArray()) {
+            paths.append(each.toObject().value(QLatin1String("path")).toString());
         }
         QVERIFY2(paths.contains(QStringLiteral("SettingInfo.user.") + steers), qPrintable(outcome.out));
     }
