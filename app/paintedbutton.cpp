@@ -9,7 +9,8 @@
 PaintedButton::PaintedButton(QWidget *parent)
     : QWidget(parent)
 {
-    setFocusPolicy(Qt::TabFocus);
+    // By a click, too: with the focus left on the page that goes, Qt would look for a control to give it to.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void PaintedButton::setText(const QString &newText)

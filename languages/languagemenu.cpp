@@ -69,6 +69,9 @@ void LanguageMenu::showEvent(QShowEvent *event)
     for (int index = 0; shown != nullptr && index < ui->listWidget->count(); ++index) {
         LanguageItem *row = rowAt(index);
         row->setInForce(row->language() == shown->text());
+        if (row->language() == shown->text()) {
+            ui->listWidget->scrollToItem(ui->listWidget->item(index), QAbstractItemView::PositionAtCenter);
+        }
     }
     QWidget::showEvent(event);
 }

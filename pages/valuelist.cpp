@@ -1,6 +1,6 @@
 #include "pages/valuelist.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QListView>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
@@ -56,5 +56,14 @@ void ValueList::changeEvent(QEvent *event)
     }
 }
 
-// Left unaccepted, so that the scroll area above gets it.
+// Left unaccepted, so that the scroll area above gets them.
+void ValueList::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        event->ignore();
+    } else {
+        QComboBox::keyPressEvent(event);
+    }
+}
+
 void ValueList::wheelEvent(QWheelEvent *event) { event->ignore(); }

@@ -2,9 +2,9 @@
 
 #include <QComboBox>
 
-/// A combo box of a page. The mouse wheel over it scrolls the page instead of changing the value: a settings
-/// file must not change because somebody scrolled. Its width is set in the form, so its items aren't
-/// measured.
+/// A combo box of a page. The mouse wheel over it and the keys that turn pages scroll the page instead of
+/// changing the value: a settings file must not change because somebody scrolled. Its width is set in the
+/// form, so its items aren't measured.
 class ValueList : public QComboBox
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:

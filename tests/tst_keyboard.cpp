@@ -178,6 +178,7 @@ private slots:
     void ringComesBackWithTheWindow();
     void clickNeedsNoRing();
     void startsAtNew();
+    void clickOnATabTakesTheFocus();
     void windowButtonsArePressed();
     void menuShowsItsFocus();
     void tabsAreChosen();
@@ -318,6 +319,29 @@ void TestKeyboard::clickNeedsNoRing()
     const QImage clicked = look(radio);
     radio->clearFocus();
     QCOMPARE(clicked, look(radio));
+}
+
+// Left on the page that goes, it would go to the first control of the next one, or to Minimize.
+void TestKeyboard::clickOnATabTakesTheFocus()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    for (const auto &[from, control] : {std::make_pair(MainDialog::FunctionTab, "comboDefrostMode"),
+                                        std::make_pair(MainDialog::UserTab, "comboDateYear"),
+                                        std::make_pair(MainDialog::ServiceTab, "lineEditTelephone")}) {
+        for (const char *tab :
+             {"functionTabButton", "userTabButton", "serviceTabButton", "installationTabButton"}) {
+            window.showPage(MainDialog::SettingPage, from);
+            Window::find(&window.dialog, control)->setFocus();
+            auto *button = Window::find(&window.dialog, tab);
+            const QJsonDocument before = window.dialog.document();
+            Window::click(button);
+            QCOMPARE(QApplication::focusWidget(), button);
+            QTest::keyClick(button, Qt::Key_Space);
+            QCOMPARE(window.dialog.document(), before);
+        }
+    }
 }
 
 void TestKeyboard::startsAtNew()

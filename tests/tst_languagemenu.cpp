@@ -413,6 +413,9 @@ void TestLanguageMenu::tenLanguagesScroll()
     QVERIFY(last->x() + button->geometry().right() < list()->viewport()->width());
     Window::click(last, "labelLanguage");
     QCOMPARE(content(languagefolder::iniPath()), QByteArray("Tongue 9"));
+    // In force, it is in view.
+    open();
+    QTRY_VERIFY(inView());
 }
 
 void TestLanguageMenu::newOpensTheEditor()

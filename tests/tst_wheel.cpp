@@ -19,7 +19,8 @@ void turnDown(QWidget *widget)
 
 } // namespace
 
-// A turn of the wheel over a closed combo box scrolls the page and changes no value.
+// A turn of the wheel over a closed combo box, or a key that turns the page, scrolls the page and changes no
+// value.
 class TestWheel : public QObject
 {
     Q_OBJECT
@@ -31,6 +32,7 @@ private slots:
     void everyComboBoxIsGuarded();
     void scrollsThePage_data();
     void scrollsThePage();
+    void keysThatTurnPagesScroll();
 
 private:
     std::unique_ptr<Window> window;
@@ -89,6 +91,26 @@ void TestWheel::scrollsThePage()
     mouse::press(wheelDown);
     mouse::release(wheelDown);
     QTRY_VERIFY(bar->value() > 0);
+    QCOMPARE(combo->currentIndex(), index);
+    QCOMPARE(window->dialog.document(), document);
+}
+
+void TestWheel::keysThatTurnPagesScroll()
+{
+    auto *system = window->page<InstallationSystemSetting>();
+    window->showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    Window::expand(system);
+    auto *bar = Window::find<QScrollArea>(&window->dialog, "installationScrollArea")->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    bar->setValue(0);
+    auto *combo = Window::find<QComboBox>(system, "comboBoxScreedHolding");
+    combo->setFocus();
+    const QJsonDocument document = window->dialog.document();
+    const int index = combo->currentIndex();
+    QTest::keyClick(combo, Qt::Key_PageDown);
+    QVERIFY(bar->value() > 0);
+    QTest::keyClick(combo, Qt::Key_PageUp);
+    QCOMPARE(bar->value(), 0);
     QCOMPARE(combo->currentIndex(), index);
     QCOMPARE(window->dialog.document(), document);
 }

@@ -101,8 +101,8 @@ QString Walker::choose(QComboBox *combo)
     if (combo->count() > 0 && dice(3) == 0) {
         Window::choose(combo, dice(combo->count()));
     } else {
-        const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up,      Qt::Key_Up,
-                                Qt::Key_Home, Qt::Key_End,  Qt::Key_PageDown};
+        const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up,
+                                Qt::Key_Home, Qt::Key_End,  Qt::Key_End};
         const Qt::Key key = keys[dice(7)];
         for (int times = 1 + dice(3); times > 0; --times) {
             QTest::keyClick(combo, key);

@@ -171,7 +171,7 @@ void Sweep::touchList(QComboBox *combo)
     if (isGate(combo)) {
         act(combo, [combo, before] { Window::choose(combo, before); });
     } else if (count > fewItems) {
-        act(combo, [combo] { QTest::keyClick(combo, Qt::Key_PageDown); });
+        act(combo, [combo, count] { Window::choose(combo, count / 2); });
     }
 }
 
