@@ -139,9 +139,15 @@ void Wizard::remember()
             }
         }
     }
+    for (const QWidget *page : qAsConst(pages)) {
+        const QList<QWidget *> parts = page->findChildren<QWidget *>();
+        for (QWidget *part : parts) {
+            firstLooks.insert(part, {part->isHidden(), part->testAttribute(Qt::WA_ForceDisabled)});
+        }
+    }
 }
 
-/// To what a new window has: a load leaves some lists and radios as the document before had them.
+/// To what a new window has: a load leaves some lists, radios and groups as the document before had them.
 void Wizard::reset()
 {
     for (auto list = firstLists.begin(); list != firstLists.end(); ++list) {
@@ -153,6 +159,14 @@ void Wizard::reset()
     }
     for (auto radio = firstChecks.begin(); radio != firstChecks.end(); ++radio) {
         check(radio.key(), *radio);
+    }
+    for (auto part = firstLooks.begin(); part != firstLooks.end(); ++part) {
+        if (part.key()->isHidden() != part->hidden) {
+            part.key()->setHidden(part->hidden);
+        }
+        if (part.key()->testAttribute(Qt::WA_ForceDisabled) != part->disabled) {
+            part.key()->setDisabled(part->disabled);
+        }
     }
 }
 

@@ -53,6 +53,11 @@ private:
         QWidget *widget; ///< the first of them
     };
 
+    struct Look {
+        bool hidden;
+        bool disabled;
+    };
+
     struct List {
         QStringList items;
         int index;
@@ -77,4 +82,5 @@ private:
     QHash<QString, std::vector<Control>> controls;
     QHash<QComboBox *, List> firstLists;
     QHash<QAbstractButton *, bool> firstChecks;
+    QHash<QWidget *, Look> firstLooks;
 };

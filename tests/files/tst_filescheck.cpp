@@ -414,6 +414,16 @@ void TestFilesCheck::oneFileDoesNotColourTheNext()
     QCOMPARE(program::findings(after.value(QStringLiteral("b.json"))),
              program::findings(alone.value(QStringLiteral("b.json"))));
     QCOMPARE(program::findings(before.value(QStringLiteral("a.json"))), QStringList());
+    // No product that there is: a load leaves its section shown or hidden as it was.
+    const QString module = folder.put(
+        QStringLiteral("module.json"),
+        documents::with(documents::everything(QStringLiteral("R410")),
+                        {{installation("modePriority.modeStandby"), QStringLiteral("?")}}));
+    const QString none = folder.put(
+        QStringLiteral("none.json"),
+        documents::with(program::complete(), {{QStringLiteral("product"), QStringLiteral("x")}}));
+    QCOMPARE(program::check({module, none}).value(QStringLiteral("none.json")),
+             program::check({none}).value(QStringLiteral("none.json")));
 }
 
 // A dot in a key makes it no setting.
