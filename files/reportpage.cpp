@@ -174,7 +174,7 @@ private:
         const bool changed = reading::at(page.document, path) != reading::at(defaults, path)
             || catalogue::shown(setting, page.document, view) != before;
         const QString told = changed
-            ? QStringLiteral("<span class=\"changed\">◆&nbsp;%1</span> <span class=\"quiet\">(%2)</span>")
+            ? QStringLiteral("<span class=\"changed\">•&nbsp;%1</span> <span class=\"quiet\">(%2)</span>")
                   .arg(text, escaped(before))
             : text;
         return QStringLiteral(
@@ -224,7 +224,7 @@ private:
         return QStringLiteral(
                    "<table class=\"columns\" width=\"100%\"><tr><td valign=\"top\" width=\"49%\">%1</td>"
                    "<td width=\"2%\"></td><td valign=\"top\" width=\"49%\">%2</td></tr></table>"
-                   "<p class=\"quiet\" style=\"font-size:7pt\"><span class=\"changed\">◆</span> %3</p>")
+                   "<p class=\"quiet\" style=\"font-size:7pt\"><span class=\"changed\">•</span> %3</p>")
             .arg(columns[0], columns[1], word("changed"));
     }
 

@@ -140,9 +140,9 @@ void TestFilesReport::marksWhatDiffersFromTheDefaults()
     const QJsonDocument document = documents::with(
         plant(), {{QStringLiteral("SettingInfo.user.themeSet"), QStringLiteral("black")}});
     const QStringList all = lines(report({folder.put(QStringLiteral("plant.json"), document)}).out);
-    QCOMPARE(after(all, QStringLiteral("Display theme")), QStringLiteral("◆ Black (White)"));
+    QCOMPARE(after(all, QStringLiteral("Display theme")), QStringLiteral("• Black (White)"));
     QCOMPARE(after(all, QStringLiteral("Operation mode")),
-             QStringLiteral("◆ Heating and Cooling (Heating only)"));
+             QStringLiteral("• Heating and Cooling (Heating only)"));
     QCOMPARE(after(all, QStringLiteral("Temperature unit")), QStringLiteral("Celsius"));
 }
 
@@ -155,7 +155,7 @@ void TestFilesReport::marksTheHalfOfTheDay_data()
     QTest::newRow("as by default") << "AM"
                                    << "06";
     QTest::newRow("the other half") << "PM"
-                                    << "◆ 18 (06)";
+                                    << "• 18 (06)";
 }
 
 void TestFilesReport::marksTheHalfOfTheDay()
@@ -181,7 +181,7 @@ void TestFilesReport::whatIsMissingIsADash()
                          {contact + QStringLiteral("company"), QVariant()},
                          {contact + QStringLiteral("phoneNumber"), QString()}}));
     const QStringList all = lines(report({file}).out);
-    QCOMPARE(after(all, QStringLiteral("Display theme")), QStringLiteral("◆ – (White)"));
+    QCOMPARE(after(all, QStringLiteral("Display theme")), QStringLiteral("• – (White)"));
     QCOMPARE(after(all, QStringLiteral("Service contact")), QStringLiteral("–, A. Berger, –"));
     const QString unset = folder.put(
         QStringLiteral("unset.json"),
@@ -189,9 +189,9 @@ void TestFilesReport::whatIsMissingIsADash()
                         {{QStringLiteral("SettingInfo.user.summerTime.enable"), QStringLiteral("SET")},
                          {QStringLiteral("SettingInfo.user.summerTime.start.mon"), -9999}}));
     QCOMPARE(after(lines(report({unset}).out), QStringLiteral("Summer time, Start date, Month")),
-             QStringLiteral("◆ – (3)"));
+             QStringLiteral("• – (3)"));
     const QString empty = folder.put(QStringLiteral("empty.json"), QByteArray("{}"));
-    QVERIFY(lines(report({empty}).out).filter(QStringLiteral("◆  (")).isEmpty());
+    QVERIFY(lines(report({empty}).out).filter(QStringLiteral("•  (")).isEmpty());
 }
 
 // A sheet made smaller until such a text fits would take long, and be small.
