@@ -113,15 +113,17 @@ ComboRule::Shown comborules::atKey(const QString &path)
 
 ComboRule comborules::temperature(const char *name, const QString &path, const LimitsOf &limits)
 {
-    return {name, temperatures(limits), atTemperature(path)};
+    return {name, temperatures(limits), atTemperature(path), path};
 }
 
 ComboRule comborules::clamped(const char *name, const QString &path, const LimitsOf &limits)
 {
-    return {name, temperatures(limits), [path, limits](const Scene &scene, const QComboBox &combo) {
+    return {name, temperatures(limits),
+            [path, limits](const Scene &scene, const QComboBox &combo) {
                 const Limits range = limits(scene);
                 return find(combo, degrees::text(scene, qBound(range.low, scene.number(path), range.high)));
-            }};
+            },
+            path};
 }
 
 ComboRule comborules::kelvin(const char *name, const QString &path, const LimitsOf &limits)
@@ -139,10 +141,29 @@ ComboRule comborules::kelvin(const char *name, const QString &path, const Limits
                 const int value = scene.number(path);
                 const int index = find(combo, QString::number(value) + QLatin1Char('K'));
                 return index >= 0 ? index : end(combo, value);
-            }};
+            },
+            path};
 }
 
 ComboRule comborules::keyed(const char *name, const QString &path, const std::vector<const char *> &keys)
 {
-    return {name, texts(keys), atKey(path)};
+    return {name, texts(keys), atKey(path), path};
+}
+
+ComboRule comborules::indexed(const char *name, const ComboRule::Items &items, const QString &path,
+                              int offset)
+{
+    return {name, items, atIndex(path, offset), path};
+}
+
+const std::vector<ComboRule> &comborules::all()
+{
+    static const std::vector<ComboRule> rules = [] {
+        std::vector<ComboRule> joined;
+        for (const auto &part : {ofOperation(), ofSystem(), ofWater(), ofHotWater(), ofOutdoorMode()}) {
+            joined.insert(joined.end(), part.begin(), part.end());
+        }
+        return joined;
+    }();
+    return rules;
 }

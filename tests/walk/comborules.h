@@ -18,6 +18,7 @@ struct ComboRule {
     const char *name; ///< Page/control
     Items items;
     Shown shown;
+    QString path = {}; ///< what it writes, too, and nothing else; none where controlrows.cpp tells that
 };
 
 struct Limits {
@@ -58,13 +59,17 @@ ComboRule temperature(const char *name, const QString &path, const LimitsOf &lim
 /// A load shows such a value inside the limits.
 ComboRule clamped(const char *name, const QString &path, const LimitsOf &limits);
 ComboRule kelvin(const char *name, const QString &path, const LimitsOf &limits);
+ComboRule indexed(const char *name, const ComboRule::Items &items, const QString &path, int offset);
 ComboRule keyed(const char *name, const QString &path, const std::vector<const char *> &keys);
+
+/// The rows of all pages, but for the twenty boxes of the seasonal mode, which have rules of their own.
+const std::vector<ComboRule> &all();
 
 std::vector<ComboRule> ofOperation();
 std::vector<ComboRule> ofSystem();
 std::vector<ComboRule> ofWater();
 std::vector<ComboRule> ofHotWater();
-/// The six boxes of the outdoor mode; the twenty of the seasonal one have rules of their own.
+/// The six boxes of the outdoor mode.
 std::vector<ComboRule> ofOutdoorMode();
 
 } // namespace comborules

@@ -2,7 +2,8 @@
 
 #include <vector>
 
-/// What touching controls of a page writes, and the pages that it then loads. Names are separated by blanks.
+/// What touching controls of a page writes, and the pages that it then loads, where that is more than the one
+/// path of its rule (comborules.h, radiorules.h). Names are separated by blanks.
 /// Paths stand below the page's root, or with "/" below the document's. One with "~" is written only while
 /// there is one circuit, and a word with "@" stands for a group of paths.
 struct ControlRow {
@@ -12,5 +13,5 @@ struct ControlRow {
     const char *loads = "";
 };
 
-/// The rows of all controls.
+/// The rows of such controls.
 const std::vector<ControlRow> &controlRows();

@@ -1,9 +1,12 @@
 #include "walk/effects.h"
 
 #include "support/schema.h"
+#include "walk/comborules.h"
 #include "walk/controlrows.h"
+#include "walk/radiorules.h"
 #include "walk/scene.h"
 
+#include <QHash>
 #include <QMap>
 #include <QSet>
 
@@ -91,16 +94,49 @@ const LoadRow &loadRow(const QString &page)
     qFatal("No page %s", qPrintable(page));
 }
 
-const ControlRow *controlRow(const QString &name)
+struct Written {
+    QString page;
+    QString paths;
+    QString loads;
+};
+
+/// By "Page/control": the one path of a rule, unless a row tells otherwise.
+QHash<QString, Written> joinedRows()
 {
-    const QString page = name.section(QLatin1Char('/'), 0, 0);
-    const QString control = name.section(QLatin1Char('/'), 1);
-    for (const ControlRow &row : controlRows()) {
-        if (page == QLatin1String(row.page) && words(QLatin1String(row.controls)).contains(control)) {
-            return &row;
+    QHash<QString, Written> all;
+    const auto add = [&all](const QString &page, const QString &control, const QString &path) {
+        if (!path.isEmpty()) {
+            all.insert(page + QLatin1Char('/') + control, {page, QLatin1Char('/') + path, {}});
+        }
+    };
+    for (const ComboRule &rule : comborules::all()) {
+        const QString name = QLatin1String(rule.name);
+        add(name.section(QLatin1Char('/'), 0, 0), name.section(QLatin1Char('/'), 1), rule.path);
+    }
+    for (const RadioRule &rule : radioRules()) {
+        for (const QString &radio : words(QLatin1String(rule.radios))) {
+            add(QLatin1String(rule.page), radio, rule.path);
         }
     }
-    return nullptr;
+    for (const ControlRow &row : controlRows()) {
+        for (const QString &control : words(QLatin1String(row.controls))) {
+            all.insert(QLatin1String(row.page) + QLatin1Char('/') + control,
+                       {QLatin1String(row.page), QLatin1String(row.paths), QLatin1String(row.loads)});
+        }
+    }
+    return all;
+}
+
+const QHash<QString, Written> &allRows()
+{
+    static const QHash<QString, Written> rows = joinedRows();
+    return rows;
+}
+
+const Written *controlRow(const QString &name)
+{
+    const auto row = allRows().find(name);
+    return row == allRows().end() ? nullptr : &*row;
 }
 
 /// The full paths of a row. Without a scene, also those that are written only at times.
@@ -141,9 +177,9 @@ void follow(const QString &page, QSet<QString> &pages)
 
 QStringList effects::loadsBy(const QString &name)
 {
-    const ControlRow *row = controlRow(name);
+    const Written *row = controlRow(name);
     QSet<QString> pages;
-    const auto loads = row == nullptr ? QStringList() : words(QLatin1String(row->loads));
+    const auto loads = row == nullptr ? QStringList() : words(row->loads);
     for (const QString &page : loads) {
         follow(page, pages);
     }
@@ -168,22 +204,22 @@ QStringList effects::ofLoads(const QStringList &pages, const Scene &scene)
 
 QStringList effects::ofControl(const QString &name, const Scene &scene)
 {
-    const ControlRow *row = controlRow(name);
+    const Written *row = controlRow(name);
     if (row == nullptr) {
         return {};
     }
     QStringList paths;
-    if (scene.isOpen(QLatin1String(row->page))) {
-        const QString root = QLatin1String(loadRow(QLatin1String(row->page)).root);
-        paths = expand(QLatin1String(row->paths), root, &scene);
+    if (scene.isOpen(row->page)) {
+        const QString root = QLatin1String(loadRow(row->page).root);
+        paths = expand(row->paths, root, &scene);
     }
-    return paths + ofLoads(words(QLatin1String(row->loads)), scene);
+    return paths + ofLoads(words(row->loads), scene);
 }
 
 QStringList effects::own(const QString &name, const Scene &scene)
 {
-    const ControlRow *row = controlRow(name);
-    const QStringList told = words(QLatin1String(row->paths));
+    const Written *row = controlRow(name);
+    const QStringList told = words(row->paths);
     // Of a choice with several paths, one or another changes.
     const bool depends = told.size() > 1
         && name.section(QLatin1Char('/'), 1).startsWith(QLatin1String("radio"));
@@ -191,7 +227,7 @@ QStringList effects::own(const QString &name, const Scene &scene)
     for (const QString &path : told) {
         if (!depends && !path.startsWith(QLatin1Char('@'))
             && (paths.isEmpty() || path.startsWith(QLatin1Char('~')))) {
-            paths += expand(path, QLatin1String(loadRow(QLatin1String(row->page)).root), &scene);
+            paths += expand(path, QLatin1String(loadRow(row->page).root), &scene);
         }
     }
     return paths;
@@ -199,10 +235,10 @@ QStringList effects::own(const QString &name, const Scene &scene)
 
 bool effects::isBelowMissingGroup(const QString &name, const Scene &scene)
 {
-    const ControlRow *row = controlRow(name);
+    const Written *row = controlRow(name);
     const QStringList paths = row == nullptr
         ? QStringList()
-        : expand(QLatin1String(row->paths), QLatin1String(loadRow(QLatin1String(row->page)).root), nullptr);
+        : expand(row->paths, QLatin1String(loadRow(row->page).root), nullptr);
     return std::any_of(paths.begin(), paths.end(), [&](const QString &path) {
         return !scene.value(path.section(QLatin1Char('.'), 0, -2)).isObject();
     });
@@ -214,9 +250,8 @@ QStringList effects::all()
     for (const LoadRow &row : loadRows) {
         paths += expand(QLatin1String(row.paths), QLatin1String(row.root), nullptr);
     }
-    for (const ControlRow &row : controlRows()) {
-        paths += expand(QLatin1String(row.paths), QLatin1String(loadRow(QLatin1String(row.page)).root),
-                        nullptr);
+    for (const Written &row : allRows()) {
+        paths += expand(row.paths, QLatin1String(loadRow(row.page).root), nullptr);
     }
     paths.removeDuplicates();
     return paths;

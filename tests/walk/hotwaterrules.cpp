@@ -6,6 +6,7 @@
 namespace {
 
 using comborules::byWords;
+using comborules::indexed;
 using comborules::plain;
 using comborules::temperature;
 
@@ -65,21 +66,21 @@ std::vector<ComboRule> comborules::ofHotWater()
          atTemperature(installation("hotwater_logic.compMaxTemp"))},
         kelvin("InstallationDWH/comboTankHeatingHysterisis", installation("hotwater_addData.hysterisis"),
                always(2, 4)),
-        {"InstallationDWH/comboHeatingDurationTime", plain(5, 95, 5, "OperationMinute"),
-         atIndex(installation("hotwater_timer.maintain_time"), 1)},
-        {"InstallationDWH/comboStopDurationTime", plain(0, 600, 30, "OperationMinute"),
-         atIndex(installation("hotwater_timer.restrict_time"), 0)},
+        indexed("InstallationDWH/comboHeatingDurationTime", plain(5, 95, 5, "OperationMinute"),
+                installation("hotwater_timer.maintain_time"), 1),
+        indexed("InstallationDWH/comboStopDurationTime", plain(0, 600, 30, "OperationMinute"),
+                installation("hotwater_timer.restrict_time"), 0),
         keyed("InstallationDWH/comboHeatPump", installation("waterThermoOnOff"),
               {"STEP0", "STEP1", "STEP2", "STEP3"}),
-        {"InstallationDWH/comboSchedule1", texts({"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"}),
-         atIndex(installation("disinfect_time.day"), 0)},
-        {"InstallationDWH/comboSchedule2", fixed(wholeHours()),
-         atIndex(installation("disinfect_time.start"), 0)},
+        indexed("InstallationDWH/comboSchedule1", texts({"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"}),
+                installation("disinfect_time.day"), 0),
+        indexed("InstallationDWH/comboSchedule2", fixed(wholeHours()), installation("disinfect_time.start"),
+                0),
         temperature("InstallationDWH/comboMaxTemp", installation("disinfect_data.maxTemp"),
                     byWords("disinfection")),
-        {"InstallationDWH/comboMaxTempDuration", plain(5, 60, 5, "OperationMinute"),
-         atIndex(installation("disinfect_data.howLong"), 5)},
-        {"InstallationDWH/comboCutOffDuration", plain(1, 12, 1, "Hour"),
-         atIndex(installation("disinfect_data.cutOffTime"), 1)},
+        indexed("InstallationDWH/comboMaxTempDuration", plain(5, 60, 5, "OperationMinute"),
+                installation("disinfect_data.howLong"), 5),
+        indexed("InstallationDWH/comboCutOffDuration", plain(1, 12, 1, "Hour"),
+                installation("disinfect_data.cutOffTime"), 1),
     };
 }

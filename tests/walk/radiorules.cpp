@@ -28,7 +28,8 @@ RadioRule words(const char *page, const char *radios, const QString &path, const
                 Else otherwise)
 {
     const QStringList names = QString::fromLatin1(radios).split(QLatin1Char(' '));
-    return {page, radios, [=](const Scene &scene) -> std::optional<QString> {
+    return {page, radios,
+            [=](const Scene &scene) -> std::optional<QString> {
                 const int index = words.indexOf(scene.word(path));
                 if (index >= 0) {
                     return names.at(index);
@@ -44,7 +45,8 @@ RadioRule words(const char *page, const char *radios, const QString &path, const
                     return names.at(1);
                 }
                 return std::nullopt;
-            }};
+            },
+            path};
 }
 
 /// "CLR" for the first radio, "SET" for the second.
@@ -57,7 +59,8 @@ RadioRule flags(const char *page, const char *radios, const QString &path, Else 
 RadioRule when(const std::function<bool(const Scene &)> &condition, const RadioRule &rule)
 {
     return {rule.page, rule.radios,
-            [=](const Scene &scene) { return condition(scene) ? rule.checked(scene) : std::nullopt; }};
+            [=](const Scene &scene) { return condition(scene) ? rule.checked(scene) : std::nullopt; },
+            rule.path};
 }
 
 QString pick(bool first, const char *one, const char *other) { return QLatin1String(first ? one : other); }

@@ -14,6 +14,7 @@ struct RadioRule {
     const char *page;
     const char *radios; ///< separated by blanks
     std::function<std::optional<QString>(const Scene &)> checked;
+    QString path = {}; ///< what they write, too, and nothing else; none where controlrows.cpp tells that
 };
 
 /// The rules of all radios, by hand.

@@ -7,22 +7,6 @@
 
 namespace {
 
-std::vector<ComboRule> joinedRules()
-{
-    std::vector<ComboRule> rules;
-    for (const auto &part : {comborules::ofOperation(), comborules::ofSystem(), comborules::ofWater(),
-                             comborules::ofHotWater(), comborules::ofOutdoorMode()}) {
-        rules.insert(rules.end(), part.begin(), part.end());
-    }
-    return rules;
-}
-
-const std::vector<ComboRule> &comboRules()
-{
-    static const std::vector<ComboRule> rules = joinedRules();
-    return rules;
-}
-
 /// "Page/radio" of each radio of the rule.
 QStringList radiosOf(const RadioRule &rule)
 {
@@ -81,7 +65,7 @@ QStringList Selections::complaints(const Scene &scene, const QString &page)
 QStringList Selections::ofCombos(const Scene &scene, const QString &page) const
 {
     QStringList result;
-    for (const ComboRule &rule : comboRules()) {
+    for (const ComboRule &rule : comborules::all()) {
         const QString name = QLatin1String(rule.name);
         const auto *combo = scene.control<QComboBox>(name);
         if (!combo->isVisible() || !name.startsWith(page)) {
@@ -164,7 +148,7 @@ QStringList Selections::ofTexts(const Scene &scene)
 QStringList Selections::ruled()
 {
     QStringList names;
-    for (const ComboRule &rule : comboRules()) {
+    for (const ComboRule &rule : comborules::all()) {
         names.append(QLatin1String(rule.name));
     }
     for (const RadioRule &rule : radioRules()) {

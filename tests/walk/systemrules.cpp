@@ -9,6 +9,7 @@ using comborules::always;
 using comborules::atIndex;
 using comborules::find;
 using comborules::fixed;
+using comborules::indexed;
 using comborules::kelvin;
 using comborules::keyed;
 using comborules::plain;
@@ -181,25 +182,25 @@ std::vector<ComboRule> ofProducts()
 {
     return {
         {"InstallationSystemAWHP/comboValveClosingTime", plain(60, 999, 1, "OperationSecond"), valveClosing},
-        {"InstallationSystemAWHP/comboHysterisis", hysteresisItems,
-         atIndex(installation("circuitMainZone.hysterisisMainZone"), 0)},
-        {"InstallationSystemAWHP/comboStep", texts({"STEP0", "STEP1", "STEP2"}),
-         atIndex(installation("smartGrid.smartGridMode"), 0)},
+        indexed("InstallationSystemAWHP/comboHysterisis", hysteresisItems,
+                installation("circuitMainZone.hysterisisMainZone"), 0),
+        indexed("InstallationSystemAWHP/comboStep", texts({"STEP0", "STEP1", "STEP2"}),
+                installation("smartGrid.smartGridMode"), 0),
         temperature("InstallationSystemAWHP/comboHeaterOnTemperature",
                     installation("eheater_onoff.heater1_value"), heaterOn),
         {"InstallationSystemAWHP/comboHeatingPriority", texts({"Cycle", "Cycle_Heater"}),
          atWord("hotWaterTankHeater.tankHeaterPriority",
                 {QStringLiteral("HP_ONLY"), QStringLiteral("HP_BH_BOTH")})},
-        {"InstallationSystemAWHP/comboDelayTime", delayItems,
-         atIndex(installation("hotWaterTankHeater.tankHeaterDelay"), 0)},
+        indexed("InstallationSystemAWHP/comboDelayTime", delayItems,
+                installation("hotWaterTankHeater.tankHeaterDelay"), 0),
         {"InstallationSystemAWHP/comboAntiFreezingTemp",
          fixed({QStringLiteral("-25K"), QStringLiteral("-20K"), QStringLiteral("-15K"),
                 QStringLiteral("-10K"), QStringLiteral("-5K")}),
          antiFreeze},
-        {"InstallationSystemAWHP/comboPreRun", plain(1, 10, 1, "OperationMinute"),
-         atIndex(installation("pumpPreOverRun.preRun"), 1)},
-        {"InstallationSystemAWHP/comboOverRun", plain(1, 10, 1, "OperationMinute"),
-         atIndex(installation("pumpPreOverRun.overRun"), 1)},
+        indexed("InstallationSystemAWHP/comboPreRun", plain(1, 10, 1, "OperationMinute"),
+                installation("pumpPreOverRun.preRun"), 1),
+        indexed("InstallationSystemAWHP/comboOverRun", plain(1, 10, 1, "OperationMinute"),
+                installation("pumpPreOverRun.overRun"), 1),
         {"InstallationSystemAWHP/comboControlMode", texts({"Manual", "Auto"}), boilerMode},
         temperature("InstallationSystemAWHP/comboControlTemp",
                     installation("boilerOfThirdParty.thirdPartyTemp"), always(-25, 25)),
@@ -222,8 +223,8 @@ std::vector<ComboRule> comborules::ofSystem()
         {"InstallationSystemSetting/comboBoxScreedStep", plain(1, 11), atText("cement_cure.cmt_step")},
         temperature("InstallationSystemSetting/comboBoxScreedMaxTemp",
                     installation("cement_cure.cmt_maxTemp"), always(35, 55)),
-        {"InstallationSystemSetting/comboBoxScreedHolding", plain(1, 30, 1, "day"),
-         atIndex(installation("cement_cure.cmt_holding"), 1)},
+        indexed("InstallationSystemSetting/comboBoxScreedHolding", plain(1, 30, 1, "day"),
+                installation("cement_cure.cmt_holding"), 1),
         {"InstallationSystemSetting/comboModbus", fixed(hexadecimal(1, 247, false)), modbus},
         {"InstallationSystemSetting/comboWaterRpmDuty", fixed(percents()),
          atText("pumpRPM.pumpRPMValue", 1, QStringLiteral("%"))},

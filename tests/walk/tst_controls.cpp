@@ -16,11 +16,11 @@ const QString fahrenheit = QStringLiteral("FAHRENHEIT");
 /// All that the pages of a refrigerant can offer, with other values.
 QJsonDocument everything(const char *refrigerant, const QVariantMap &values = {})
 {
-    const QVariantMap more{{installation("boilerOfThirdParty.thirdPartyMode"), "AUTO"},
-                           {installation("combination200.combiValue"), "SET"},
-                           {installation("pumpOperOptionInHeat.option"), "CLR"}};
+    const QVariantMap offered{{installation("boilerOfThirdParty.thirdPartyMode"), "AUTO"},
+                              {installation("combination200.combiValue"), "SET"},
+                              {installation("pumpOperOptionInHeat.option"), "CLR"}};
     return documents::with(documents::everything(QLatin1String(refrigerant)),
-                           documents::joined(more, values));
+                           documents::joined(offered, values));
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 namespace {
 
 using comborules::always;
-using comborules::atIndex;
 using comborules::byWords;
 using comborules::clamped;
 using comborules::keyed;
@@ -58,8 +57,8 @@ ComboRule::Shown reference(const char *key)
 
 ComboRule minutes(const char *name, const char *key)
 {
-    return {name, comborules::plain(1, 60, 1, "OperationMinute"),
-            atIndex(installation(QLatin1String(key)), 1)};
+    return comborules::indexed(name, comborules::plain(1, 60, 1, "OperationMinute"),
+                               installation(QLatin1String(key)), 1);
 }
 
 ComboRule criterion(const char *name, const char *key)
