@@ -271,7 +271,10 @@ void TestDocumentFiles::dialogsListJsonFiles()
         put(desktop.filePath(name), unsorted);
     }
     const QStringList expected{"a.json", "C.JSON"};
-    QCOMPARE(filedialogs::listed([this] { Window::click(&window->dialog, "openButton"); }), expected);
+    for (const bool choosesFilter : {false, true}) {
+        QCOMPARE(filedialogs::listed([this] { Window::click(&window->dialog, "openButton"); }, choosesFilter),
+                 expected);
+    }
     window->dialog.openNewJsonFile("R32");
     window->completeSteps();
     QCOMPARE(filedialogs::listed([this] { Window::click(&window->dialog, "saveButton"); }), expected);

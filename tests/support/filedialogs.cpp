@@ -1,5 +1,7 @@
 #include "support/filedialogs.h"
 
+#include "support/window.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -64,7 +66,7 @@ filedialogs::Seen filedialogs::answer(const std::function<void()> &action, const
     return seen;
 }
 
-QStringList filedialogs::listed(const std::function<void()> &action)
+QStringList filedialogs::listed(const std::function<void()> &action, bool choosesFilter)
 {
     QStringList names;
     QTimer poll;
@@ -72,6 +74,11 @@ QStringList filedialogs::listed(const std::function<void()> &action)
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         if (dialog == nullptr) {
+            return;
+        }
+        if (choosesFilter) {
+            choosesFilter = false;
+            Window::choose(dialog, "fileTypeCombo", dialog->nameFilters().constFirst());
             return;
         }
         const auto *view = dialog->findChild<QListView *>(QStringLiteral("listView"));

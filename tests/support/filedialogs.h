@@ -25,7 +25,7 @@ struct Seen {
 Seen answer(const std::function<void()> &action, const QString &path);
 
 /// Runs `action` and gives the files that the file dialog lists which it opens, by name, before it is
-/// cancelled. Waits for the first one, a few seconds at most.
-QStringList listed(const std::function<void()> &action);
+/// cancelled. Waits for the first one, a few seconds at most. May choose the dialog's own filter before.
+QStringList listed(const std::function<void()> &action, bool choosesFilter = false);
 
 } // namespace filedialogs
