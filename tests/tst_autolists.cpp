@@ -6,7 +6,8 @@ using automode::root;
 using automode::seasonalPlant;
 using automode::seasonalRoot;
 
-// The lists of the Auto mode section: their limits on the page, and how they narrow one another.
+// How the lists of the Auto mode section narrow one another, and limits that move what is stored. Their
+// limits by words are held in core/tst_ranges.cpp and walk/tst_controls.cpp.
 class TestAutoLists : public QObject
 {
     Q_OBJECT
@@ -16,13 +17,9 @@ private slots:
     void init() { messages::clear(); }
     void cleanupTestCase() { section.reset(); }
 
-    void outdoorLists_data();
-    void outdoorLists();
     void outdoorLimitsAreClampedAndWrittenBack_data();
     void outdoorLimitsAreClampedAndWrittenBack();
     void outdoorIndoorValuesAreNotClamped();
-    void limitsFollowTheFlags_data();
-    void limitsFollowTheFlags();
     void unknownRefrigerantLeavesOneOutdoorItem();
     void outdoorChainNarrows();
     void mainZoneFollowsWhileOff();
@@ -35,52 +32,6 @@ private slots:
 private:
     std::unique_ptr<automode::Section> section;
 };
-
-void TestAutoLists::outdoorLists_data()
-{
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QByteArray>("unit");
-    QTest::addColumn<QString>("outdoor");
-    QTest::addColumn<QString>("water");
-    const QVariantMap entrance{{root + "heatWaterControlBasis", "ENTRANCE"}};
-    const QVariantMap heater{{"IduFuncList.is_installed_heater", "set"}};
-    const QVariantMap r410{{"IduFuncList.isR32", "CLR"}};
-    const QByteArray celsius("CENTIGRADE");
-    QTest::newRow("R32") << QVariantMap() << celsius << "10°C 35°C, -25°C 5°C"
-                         << "35°C 65°C, 20°C 34°C";
-    QTest::newRow("R32, written small")
-        << QVariantMap{{"IduFuncList.isR32", "set"}, {root + "heatWaterControlBasis", "exit"}} << celsius
-        << "10°C 35°C, -25°C 5°C"
-        << "35°C 65°C, 20°C 34°C";
-    QTest::newRow("R32, entrance") << entrance << celsius << "10°C 35°C, -25°C 5°C"
-                                   << "35°C 55°C, 20°C 34°C";
-    QTest::newRow("R32, heater") << heater << celsius << "10°C 35°C, -25°C 5°C"
-                                 << "35°C 65°C, 15°C 34°C";
-    QTest::newRow("R410") << r410 << celsius << "10°C 20°C, -20°C 5°C"
-                          << "35°C 57°C, 20°C 34°C";
-    QTest::newRow("R410, entrance, heater")
-        << join({r410, entrance, heater}) << celsius << "10°C 20°C, -20°C 5°C"
-        << "35°C 50°C, 15°C 34°C";
-    QTest::newRow("R32, °F") << QVariantMap() << QByteArray("FAHRENHEIT") << "50°F 94°F, -12°F 40°F"
-                             << "94°F 148°F, 68°F 94°F";
-}
-
-void TestAutoLists::outdoorLists()
-{
-    QFETCH(QVariantMap, values);
-    QFETCH(QByteArray, unit);
-    QFETCH(QString, outdoor);
-    QFETCH(QString, water);
-    section->load(values, "R32", unit);
-    QCOMPARE(section->ends("comboOutdoorOutdoorMax") + ", " + section->ends("comboOutdoorOutdoorMin"),
-             outdoor);
-    QCOMPARE(section->ends("comboOutdoorWaterMax") + ", " + section->ends("comboOutdoorWaterMin"), water);
-    const bool fahrenheit = unit == "FAHRENHEIT";
-    QCOMPARE(section->items("comboOutdoorIndoorMax"),
-             fahrenheit ? range(68, 86, "°F", 2) : range(20, 30, "°C"));
-    QCOMPARE(section->items("comboOutdoorIndoorMin"),
-             fahrenheit ? range(60, 66, "°F", 2) : range(16, 19, "°C"));
-}
 
 void TestAutoLists::outdoorLimitsAreClampedAndWrittenBack_data()
 {
@@ -137,85 +88,6 @@ void TestAutoLists::outdoorIndoorValuesAreNotClamped()
     QCOMPARE(section->shown("comboOutdoorIndoorMax"), QString("30°C"));
     QCOMPARE(section->shown("comboOutdoorIndoorMin"), QString("16°C"));
     QVERIFY(messages::contain("# Error index setting"));
-}
-
-void TestAutoLists::limitsFollowTheFlags_data()
-{
-    QTest::addColumn<QVariantMap>("flags");
-    QTest::addColumn<QByteArray>("unit");
-    QTest::addColumn<QString>("outdoor");
-    QTest::addColumn<QString>("heatingWater");
-    QTest::addColumn<QString>("coolingWater");
-    QTest::addColumn<QString>("coolingIndoor");
-    const auto row = [](const char *name, const QVariantMap &flags, const char *outdoor,
-                        const char *heatingWater, const char *coolingWater, const char *coolingIndoor,
-                        const char *unit = "CENTIGRADE") {
-        QTest::newRow(name) << flags << QByteArray(unit) << QString(outdoor) << QString(heatingWater)
-                            << QString(coolingWater) << QString(coolingIndoor);
-    };
-    const QVariantMap expand{{"IduFuncList.isR32", "CLR"}, {"IduFuncList.isR410CoolExpand", "set"}};
-    const QVariantMap fan{{root + "UFH_stop.FCU_disable", "CLR"}};
-    const QVariantMap min6{{"IduFuncList.isCoolTempMin5", "CLR"}};
-    const QVariantMap heatIn{{root + "heatWaterControlBasis", "entrance"}};
-    const QVariantMap coolIn{{root + "coolWaterControlBasis", "entrance"}};
-    const QVariantMap noHeatBasis{{"IduFuncList.is_heatwatercontrolbasis", "CLR"}};
-    const QVariantMap noCoolBasis{{"IduFuncList.is_coolwatercontrolbasis", "CLR"}};
-    row("R32", {}, "-25 46", "20 65", "16 27", "16 30");
-    row("R32, written small",
-        {{"IduFuncList.isR32", "set"},
-         {"IduFuncList.isCoolAir16", "set"},
-         {"IduFuncList.is_heatwatercontrolbasis", "set"},
-         {root + "heatWaterControlBasis", "entrance"},
-         {root + "UFH_stop.FCU_disable", "set"}},
-        "-25 46", "20 55", "16 27", "16 30");
-    row("no fan coil rule, written small",
-        join({fan,
-              coolIn,
-              {{"IduFuncList.isCoolTempMin5", "set"}, {"IduFuncList.is_coolwatercontrolbasis", "set"}}}),
-        "-25 46", "20 65", "10 27", "16 30");
-    row("R410, expand", expand, "-15 43", "20 57", "16 27", "16 30");
-    row("no 16 °C", {{"IduFuncList.isCoolAir16", "CLR"}}, "-25 46", "20 65", "16 27", "18 30");
-    row("heater", {{"IduFuncList.is_installed_heater", "Set"}}, "-25 46", "15 65", "16 27", "16 30");
-    row("heating entrance", heatIn, "-25 46", "20 55", "16 27", "16 30");
-    row("heating entrance, expand", join({heatIn, expand}), "-15 43", "20 50", "16 27", "16 30");
-    row("heating entrance that can't be chosen", join({heatIn, noHeatBasis}), "-25 46", "20 65", "16 27",
-        "16 30");
-    row("cooling entrance", coolIn, "-25 46", "20 65", "20 27", "16 30");
-    row("cooling entrance that can't be chosen", join({coolIn, noCoolBasis}), "-25 46", "20 65", "16 27",
-        "16 30");
-    row("no fan coil rule", fan, "-25 46", "20 65", "5 27", "16 30");
-    row("no fan coil rule, 6 °C", join({fan, min6}), "-25 46", "20 65", "6 27", "16 30");
-    row("no fan coil rule, cooling entrance", join({fan, coolIn}), "-25 46", "20 65", "10 27", "16 30");
-    row("no fan coil rule, cooling entrance, 6 °C", join({fan, coolIn, min6}), "-25 46", "20 65", "11 27",
-        "16 30");
-    row("R32, °F", {}, "-12 114", "68 148", "60 80", "60 86", "FAHRENHEIT");
-    row("R410, expand, °F", join({expand, heatIn, fan}), "4 110", "68 122", "40 80", "60 86", "FAHRENHEIT");
-}
-
-void TestAutoLists::limitsFollowTheFlags()
-{
-    QFETCH(QVariantMap, flags);
-    QFETCH(QByteArray, unit);
-    QFETCH(QString, outdoor);
-    QFETCH(QString, heatingWater);
-    QFETCH(QString, coolingWater);
-    QFETCH(QString, coolingIndoor);
-    const QVariantMap room = join({limits("coolWaterTemp", 21, 22), limits("coolWaterTempMainZone", 23, 24)});
-    const auto span = [this, unit](const char *low, const char *high) {
-        QString texts = section->items(low).first() + ' ' + section->items(high).last();
-        return texts.remove(unit == "FAHRENHEIT" ? "°F" : "°C");
-    };
-    section->load(join({seasonalPlant("CLR"), room, flags}), "R32", unit);
-    QCOMPARE(span("comboHeatingOutdoorMin", "comboCoolingOutdoorMax"), outdoor);
-    QCOMPARE(span("comboHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
-    QCOMPARE(span("comboCoolingWaterMin", "comboCoolingWaterMax"), coolingWater);
-    QCOMPARE(span("comboCoolingIndoorMin", "comboCoolingIndoorMax"), coolingIndoor);
-    QCOMPARE(span("comboHeatingIndoorMin", "comboHeatingIndoorMax"),
-             unit == "FAHRENHEIT" ? QString("60 86") : QString("16 30"));
-    section->load(join({seasonalPlant("SET"), room, flags}), "R32", unit);
-    QCOMPARE(span("comboMainZoneHeatingWaterMin", "comboHeatingWaterMax"), heatingWater);
-    QCOMPARE(span("comboCoolingWaterMin", "comboMainZoneWaterMax"), coolingWater);
-    QCOMPARE(span("comboCoolingIndoorMin", "comboMainZoneIndoorMax"), coolingIndoor);
 }
 
 void TestAutoLists::unknownRefrigerantLeavesOneOutdoorItem()

@@ -9,7 +9,7 @@ QString at(const char *key) { return HotWaterSection::at(key); }
 } // namespace
 
 // The hot water section's lists before a language change, and which of its groups are offered. What its lists
-// hold is held in walk/tst_controls.cpp and, for all words, in core/tst_waterranges.cpp.
+// hold is held in walk/tst_controls.cpp and, for all words, in core/tst_ranges.cpp.
 class TestHotWaterLists : public QObject
 {
     Q_OBJECT

@@ -9,143 +9,27 @@ static bool operator==(const Range &left, const Range &right)
     return left.low == right.low && left.high == right.high;
 }
 
-static char *toString(const Range &range)
-{
-    return QTest::toString(QString("%1 to %2").arg(range.low).arg(range.high));
-}
-
-Q_DECLARE_METATYPE(Range)
-
-// The limits of the auto mode lists by flag, and which box bounds which list, without a window.
+// Which limits each box of the auto mode has, and which box bounds which list, without a window. The limits
+// themselves are held in tst_ranges.cpp.
 class TestAutoRanges : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void outdoors_data();
-    void outdoors();
-    void heatingWater_data();
-    void heatingWater();
-    void coolingWater_data();
-    void coolingWater();
-    void indoors();
     void limitsStandInTheOrderOfTheTable();
     void eachBoxHasItsLimits_data();
     void eachBoxHasItsLimits();
-    void outdoorModeLists_data();
-    void outdoorModeLists();
     void neighboursBoundTheList_data();
     void neighboursBoundTheList();
     void groups();
     void unknownBoxesHaveNoRow();
-
-private:
-    static autoranges::Flags flags(const QString &names);
 };
-
-// Words: r32, expand, heater, min5, air16, fan, heatIn, coolIn.
-autoranges::Flags TestAutoRanges::flags(const QString &names)
-{
-    const QStringList set = names.split(' ', Qt::SkipEmptyParts);
-    autoranges::Flags flags{};
-    flags.r32 = set.contains("r32");
-    flags.r410CoolExpand = set.contains("expand");
-    flags.installedHeater = set.contains("heater");
-    flags.coolTempMin5 = set.contains("min5");
-    flags.coolAir16 = set.contains("air16");
-    flags.fanCoilDisabled = set.contains("fan");
-    flags.heatingEntrance = set.contains("heatIn");
-    flags.coolingEntrance = set.contains("coolIn");
-    return flags;
-}
-
-void TestAutoRanges::outdoors_data()
-{
-    QTest::addColumn<Range>("heating");
-    QTest::addColumn<Range>("cooling");
-    QTest::newRow("r32") << Range{-25, 35} << Range{10, 46};
-    QTest::newRow("r32 expand") << Range{-25, 35} << Range{10, 46};
-    QTest::newRow("expand") << Range{-15, 24} << Range{10, 43};
-    QTest::newRow("heater min5 air16 fan heatIn coolIn") << Range{0, 0} << Range{0, 0};
-}
-
-void TestAutoRanges::outdoors()
-{
-    QFETCH(Range, heating);
-    QFETCH(Range, cooling);
-    QCOMPARE(autoranges::heatingOutdoor(flags(QTest::currentDataTag())), heating);
-    QCOMPARE(autoranges::coolingOutdoor(flags(QTest::currentDataTag())), cooling);
-}
-
-void TestAutoRanges::heatingWater_data()
-{
-    QTest::addColumn<Range>("range");
-    QTest::newRow("r32") << Range{20, 65};
-    QTest::newRow("r32 heater") << Range{15, 65};
-    QTest::newRow("r32 heatIn") << Range{20, 55};
-    QTest::newRow("r32 expand heater heatIn") << Range{15, 55};
-    QTest::newRow("r32 coolIn") << Range{20, 65};
-    QTest::newRow("expand") << Range{20, 57};
-    QTest::newRow("expand heater") << Range{15, 57};
-    QTest::newRow("expand heatIn") << Range{20, 50};
-    QTest::newRow("expand heater heatIn") << Range{15, 50};
-    QTest::newRow("") << Range{20, 57};
-    QTest::newRow("heater") << Range{15, 57};
-    QTest::newRow("heatIn") << Range{20, 50};
-    QTest::newRow("heater heatIn") << Range{15, 50};
-}
-
-void TestAutoRanges::heatingWater()
-{
-    QFETCH(Range, range);
-    QCOMPARE(autoranges::heatingWater(flags(QTest::currentDataTag())), range);
-}
-
-void TestAutoRanges::coolingWater_data()
-{
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<Range>("range");
-    struct Case {
-        const char *names;
-        int known;
-        int neither;
-    };
-    const Case cases[] = {{"fan coolIn min5", 20, 16},
-                          {"fan coolIn", 20, 16},
-                          {"fan min5", 16, 16},
-                          {"fan", 16, 16},
-                          {"coolIn min5", 10, 5},
-                          {"coolIn", 11, 6},
-                          {"min5", 5, 5},
-                          {"", 6, 6},
-                          {"heatIn", 6, 6}};
-    for (const Case &each : cases) {
-        for (const char *known : {"r32", "expand", "r32 expand"}) {
-            const QString names = QString("%1 %2").arg(known, each.names);
-            QTest::newRow(qPrintable(names)) << names << Range{each.known, 27};
-        }
-        QTest::newRow(qPrintable(QString("neither ") + each.names))
-            << QString(each.names) << Range{each.neither, 0};
-    }
-}
-
-void TestAutoRanges::coolingWater()
-{
-    QFETCH(QString, names);
-    QFETCH(Range, range);
-    QCOMPARE(autoranges::coolingWater(flags(names)), range);
-}
-
-void TestAutoRanges::indoors()
-{
-    QCOMPARE(autoranges::heatingIndoor(), (Range{16, 30}));
-    QCOMPARE(autoranges::coolingIndoor(flags("air16")), (Range{16, 30}));
-    QCOMPARE(autoranges::coolingIndoor(flags("r32 heater min5")), (Range{18, 30}));
-}
 
 void TestAutoRanges::limitsStandInTheOrderOfTheTable()
 {
-    const std::array<Range, 20> limits = autoranges::seasonalMode(flags("r32 fan heater"));
+    autoranges::Flags flags{};
+    flags.r32 = flags.fanCoilDisabled = flags.installedHeater = true;
+    const std::array<Range, 20> limits = autoranges::seasonalMode(flags);
     const Range heatOut{-25, 35};
     const Range coolOut{10, 46};
     const Range heatWater{15, 65};
@@ -204,43 +88,6 @@ void TestAutoRanges::eachBoxHasItsLimits()
     QCOMPARE(static_cast<int>(row->slot), slot);
     QCOMPARE(QString(row->path), path);
     QCOMPARE(row->mainZone, mainZone);
-}
-
-void TestAutoRanges::outdoorModeLists_data()
-{
-    QTest::addColumn<bool>("r32");
-    QTest::addColumn<bool>("waterExit");
-    QTest::addColumn<bool>("heater");
-    QTest::addColumn<Range>("outdoorMax");
-    QTest::addColumn<Range>("outdoorMin");
-    QTest::addColumn<Range>("waterMax");
-    QTest::addColumn<Range>("waterMin");
-    QTest::newRow("R32, exit") << true << true << false << Range{10, 35} << Range{-25, 5} << Range{35, 65}
-                               << Range{20, 34};
-    QTest::newRow("R32, entrance, heater")
-        << true << false << true << Range{10, 35} << Range{-25, 5} << Range{35, 55} << Range{15, 34};
-    QTest::newRow("R410, exit, heater")
-        << false << true << true << Range{10, 20} << Range{-20, 5} << Range{35, 57} << Range{15, 34};
-    QTest::newRow("R410, entrance") << false << false << false << Range{10, 20} << Range{-20, 5}
-                                    << Range{35, 50} << Range{20, 34};
-}
-
-void TestAutoRanges::outdoorModeLists()
-{
-    QFETCH(bool, r32);
-    QFETCH(bool, waterExit);
-    QFETCH(bool, heater);
-    QFETCH(Range, outdoorMax);
-    QFETCH(Range, outdoorMin);
-    QFETCH(Range, waterMax);
-    QFETCH(Range, waterMin);
-    const autoranges::OutdoorMode lists = autoranges::outdoorMode(r32, waterExit, heater);
-    QCOMPARE(lists.outdoorMax, outdoorMax);
-    QCOMPARE(lists.outdoorMin, outdoorMin);
-    QCOMPARE(lists.indoorMax, (Range{20, 30}));
-    QCOMPARE(lists.indoorMin, (Range{16, 19}));
-    QCOMPARE(lists.waterMax, waterMax);
-    QCOMPARE(lists.waterMin, waterMin);
 }
 
 // Which boxes bound the low and the high end of each list, with the margin, "!" where only while the main

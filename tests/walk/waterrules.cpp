@@ -116,10 +116,6 @@ std::vector<ComboRule> ofHeating()
     };
 }
 
-Limits outdoorMax(const Scene &scene) { return {10, flag(scene, "isR32") ? 35 : 20}; }
-
-Limits outdoorMin(const Scene &scene) { return {flag(scene, "isR32") ? -25 : -20, 5}; }
-
 } // namespace
 
 std::vector<ComboRule> comborules::ofWater()
@@ -135,8 +131,10 @@ std::vector<ComboRule> comborules::ofOutdoorMode()
 {
     const auto path = [](const char *key) { return installation(QLatin1String(key)); };
     return {
-        clamped("InstallationaAuto/comboOutdoorOutdoorMax", path("autoOp_outtemp.max"), outdoorMax),
-        clamped("InstallationaAuto/comboOutdoorOutdoorMin", path("autoOp_outtemp.min"), outdoorMin),
+        clamped("InstallationaAuto/comboOutdoorOutdoorMax", path("autoOp_outtemp.max"),
+                byWords("outdoorMax")),
+        clamped("InstallationaAuto/comboOutdoorOutdoorMin", path("autoOp_outtemp.min"),
+                byWords("outdoorMin")),
         temperature("InstallationaAuto/comboOutdoorIndoorMax", path("autoOp_tempair.max"), always(20, 30)),
         temperature("InstallationaAuto/comboOutdoorIndoorMin", path("autoOp_tempair.min"), always(16, 19)),
         clamped("InstallationaAuto/comboOutdoorWaterMax", path("autoOp_tempwater.high_limit"),

@@ -1,6 +1,6 @@
-#include "rules/waterranges.h"
-
+#include "rules/autoranges.h"
 #include "rules/hotwaterranges.h"
+#include "rules/waterranges.h"
 #include "support/ranges.h"
 
 #include <QTest>
@@ -13,7 +13,7 @@ Q_DECLARE_METATYPE(RangeOf)
 
 // Which temperatures of water are offered, without a window: the ranges by tests/data/ranges.tsv for all
 // words, what brings values into them by hand.
-class TestWaterRanges : public QObject
+class TestRanges : public QObject
 {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private slots:
     void listsStopAtTheOtherCircuit();
 };
 
-void TestWaterRanges::rangesOfAllWords_data()
+void TestRanges::rangesOfAllWords_data()
 {
     using ranges::Word;
     QTest::addColumn<RangeOf>("range");
@@ -53,19 +53,47 @@ void TestWaterRanges::rangesOfAllWords_data()
         [](const Word &word) { return hotwater::compressorLimit(word("is_indoor_model"), word("isR32")); });
     QTest::newRow("disinfection") << RangeOf(
         [](const Word &word) { return hotwater::disinfection(word("hotWaterTankHeater.tankHeaterUse")); });
+    const auto seasonal = [=](const Word &word) -> autoranges::Flags {
+        return {isSet(word("isR32")),
+                isSet(word("isR410CoolExpand")),
+                isSet(word("is_installed_heater")),
+                isSet(word("isCoolTempMin5")),
+                isSet(word("isCoolAir16")),
+                isSet(word("UFH_stop.FCU_disable")),
+                isSet(word("is_heatwatercontrolbasis")) && word("heatWaterControlBasis") == "ENTRANCE",
+                isSet(word("is_coolwatercontrolbasis")) && word("coolWaterControlBasis") == "ENTRANCE"};
+    };
+    for (const auto &[list, slot] :
+         {std::make_pair("heatingOutdoor", 0), std::make_pair("coolingOutdoor", 2),
+          std::make_pair("heatingWater", 4), std::make_pair("coolingWater", 6),
+          std::make_pair("heatingIndoor", 8), std::make_pair("coolingIndoor", 10)}) {
+        QTest::newRow(list) << RangeOf([=, slot = static_cast<std::size_t>(slot)](const Word &word) {
+            return autoranges::seasonalMode(seasonal(word)).at(slot);
+        });
+    }
+    const auto outdoor = [=](const Word &word) {
+        return autoranges::outdoorMode(isSet(word("isR32")), word("heatWaterControlBasis") == "EXIT",
+                                       isSet(word("is_installed_heater")));
+    };
+    QTest::newRow("outdoorMax") << RangeOf([=](const Word &word) { return outdoor(word).outdoorMax; });
+    QTest::newRow("outdoorMin") << RangeOf([=](const Word &word) { return outdoor(word).outdoorMin; });
+    QTest::newRow("heatHigh in outdoor mode")
+        << RangeOf([=](const Word &word) { return outdoor(word).waterMax; });
+    QTest::newRow("heatLow in outdoor mode")
+        << RangeOf([=](const Word &word) { return outdoor(word).waterMin; });
 }
 
-void TestWaterRanges::rangesOfAllWords()
+void TestRanges::rangesOfAllWords()
 {
     QFETCH(RangeOf, range);
-    const QString list = QLatin1String(QTest::currentDataTag());
+    const QString list = QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(' '), 0, 0);
     ranges::forAllWords(list, [&](const ranges::Word &word) {
         const Range found = range(word);
         QCOMPARE(std::make_pair(found.low, found.high), ranges::of(list, word));
     });
 }
 
-void TestWaterRanges::clampsIntoTheRange()
+void TestRanges::clampsIntoTheRange()
 {
     QCOMPARE(waterranges::clamp(15, {16, 20}), 16);
     QCOMPARE(waterranges::clamp(16, {16, 20}), 16);
@@ -75,7 +103,7 @@ void TestWaterRanges::clampsIntoTheRange()
     QCOMPARE(waterranges::clamp(-5, {-1, -1}), -1);
 }
 
-void TestWaterRanges::keepsConstantsInLine_data()
+void TestRanges::keepsConstantsInLine_data()
 {
     QTest::addColumn<int>("circuits");
     QTest::addColumn<int>("other");
@@ -106,7 +134,7 @@ void TestWaterRanges::keepsConstantsInLine_data()
     row("below, main zone above", Circuits::MainZoneBelow, 20, 25, 20, 25);
 }
 
-void TestWaterRanges::keepsConstantsInLine()
+void TestRanges::keepsConstantsInLine()
 {
     QFETCH(int, circuits);
     QFETCH(int, other);
@@ -116,7 +144,7 @@ void TestWaterRanges::keepsConstantsInLine()
     QTEST(kept.mainZone, "keptMainZone");
 }
 
-void TestWaterRanges::listsStopAtTheOtherCircuit()
+void TestRanges::listsStopAtTheOtherCircuit()
 {
     const auto check = [](Circuits circuits, Range other, Range mainZone) {
         const auto lists = waterranges::lists({20, 22}, {18, 24}, circuits);
@@ -130,5 +158,5 @@ void TestWaterRanges::listsStopAtTheOtherCircuit()
     check(Circuits::MainZoneBelow, {22, 24}, {18, 20});
 }
 
-QTEST_APPLESS_MAIN(TestWaterRanges)
-#include "tst_waterranges.moc"
+QTEST_APPLESS_MAIN(TestRanges)
+#include "tst_ranges.moc"
