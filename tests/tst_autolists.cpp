@@ -20,6 +20,7 @@ private slots:
     void outdoorLimitsAreClampedAndWrittenBack_data();
     void outdoorLimitsAreClampedAndWrittenBack();
     void outdoorIndoorValuesAreNotClamped();
+    void entranceCountsWhereItCanBeChosen();
     void unknownRefrigerantLeavesOneOutdoorItem();
     void outdoorChainNarrows();
     void mainZoneFollowsWhileOff();
@@ -88,6 +89,20 @@ void TestAutoLists::outdoorIndoorValuesAreNotClamped()
     QCOMPARE(section->shown("comboOutdoorIndoorMax"), QString("30°C"));
     QCOMPARE(section->shown("comboOutdoorIndoorMin"), QString("16°C"));
     QVERIFY(messages::contain("# Error index setting"));
+}
+
+void TestAutoLists::entranceCountsWhereItCanBeChosen()
+{
+    const QVariantMap entrances{{root + "heatWaterControlBasis", "entrance"},
+                                {root + "coolWaterControlBasis", "entrance"}};
+    const auto ends = [this] {
+        return section->items("comboHeatingWaterMax").last() + ' '
+            + section->items("comboCoolingWaterMin").first();
+    };
+    section->load(join({seasonalPlant("CLR"), entrances, {{"IduFuncList.is_heatwatercontrolbasis", "CLR"}}}));
+    QCOMPARE(ends(), QStringLiteral("65°C 20°C"));
+    section->load(join({seasonalPlant("CLR"), entrances, {{"IduFuncList.is_coolwatercontrolbasis", "CLR"}}}));
+    QCOMPARE(ends(), QStringLiteral("55°C 16°C"));
 }
 
 void TestAutoLists::unknownRefrigerantLeavesOneOutdoorItem()

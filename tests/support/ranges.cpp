@@ -42,17 +42,52 @@ QHash<QString, QVector<Row>> read()
     return rows;
 }
 
-const QVector<Row> &rowsOf(const QString &list)
+const QHash<QString, QVector<Row>> &table()
 {
     static const QHash<QString, QVector<Row>> rows = read();
-    const auto found = rows.find(list);
-    if (found == rows.end()) {
+    return rows;
+}
+
+const QVector<Row> &rowsOf(const QString &list)
+{
+    const auto found = table().find(list);
+    if (found == table().end()) {
         qFatal("No range %s", qPrintable(list));
     }
     return *found;
 }
 
 } // namespace
+
+QString ranges::path(const QString &key)
+{
+    const bool isFlag = key.startsWith(QLatin1String("is"));
+    return key == QLatin1String("product") ? key
+        : isFlag                           ? QStringLiteral("IduFuncList.") + key
+                                           : QStringLiteral("SettingInfo.installation.") + key;
+}
+
+QStringList ranges::lists() { return table().keys(); }
+
+QVector<QMap<QString, QString>> ranges::borders(const QString &list)
+{
+    QVector<QMap<QString, QString>> all;
+    for (const Row &row : rowsOf(list)) {
+        QMap<QString, QString> words;
+        for (const Condition &condition : row.conditions) {
+            words.insert(condition.keys.constFirst(), condition.words.constFirst());
+        }
+        all.append(words);
+        for (const Condition &condition : row.conditions) {
+            QMap<QString, QString> broken = words;
+            for (const QString &key : condition.keys) {
+                broken.insert(key, QStringLiteral("CLR"));
+            }
+            all.append(broken);
+        }
+    }
+    return all;
+}
 
 std::pair<int, int> ranges::of(const QString &list, const Word &word)
 {

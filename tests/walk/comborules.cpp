@@ -36,12 +36,8 @@ comborules::LimitsOf comborules::always(int low, int high)
 comborules::LimitsOf comborules::byWords(const char *list)
 {
     return [name = QLatin1String(list)](const Scene &scene) {
-        const auto limits = ranges::of(name, [&scene](const QString &key) {
-            const bool isFlag = key.startsWith(QLatin1String("is"));
-            return scene.word(key == QLatin1String("product") ? key
-                                  : isFlag                    ? QStringLiteral("IduFuncList.") + key
-                                           : QStringLiteral("SettingInfo.installation.") + key);
-        });
+        const auto limits = ranges::of(
+            name, [&scene](const QString &key) { return scene.word(ranges::path(key)); });
         return Limits{limits.first, limits.second};
     };
 }

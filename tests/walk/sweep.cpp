@@ -117,6 +117,13 @@ QStringList Sweep::show(const QJsonDocument &document, const QString &unit)
     return complaints;
 }
 
+QStringList Sweep::showInstallation(const QJsonDocument &document, const QString &unit)
+{
+    complaints.clear();
+    load(places().constLast(), document, unit);
+    return complaints;
+}
+
 void Sweep::load(const Place &place, const QJsonDocument &document, const QString &unit)
 {
     window.use(document, unit);

@@ -26,6 +26,8 @@ public:
     QStringList touch(const QJsonDocument &document, const QString &unit);
     /// Shows each page with the document. Returns what doesn't hold.
     QStringList show(const QJsonDocument &document, const QString &unit);
+    /// The same of the Installation tab alone.
+    QStringList showInstallation(const QJsonDocument &document, const QString &unit);
 
     /// The controls that no document has offered so far.
     QStringList untouched() const;

@@ -1,3 +1,4 @@
+#include "support/ranges.h"
 #include "support/schema.h"
 #include "walk/sweep.h"
 
@@ -42,6 +43,8 @@ private slots:
     void noneIsLeftOut();
     void eachShows_data();
     void eachShows();
+    void eachRangeFollowsItsWords_data();
+    void eachRangeFollowsItsWords();
 
 private:
     std::unique_ptr<Sweep> sweep;
@@ -110,6 +113,32 @@ void TestControls::eachShows()
     for (const char *refrigerant : {"R32", "R410"}) {
         const QStringList complaints = sweep->show(everything(refrigerant, values),
                                                    round % 4 == 3 ? fahrenheit : celsius);
+        QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(QLatin1Char('\n'))));
+    }
+}
+
+void TestControls::eachRangeFollowsItsWords_data()
+{
+    QTest::addColumn<bool>("seasonal");
+    for (const QString &list : ranges::lists()) {
+        QTest::newRow(qPrintable(list)) << !list.startsWith(QLatin1String("outdoor"));
+        if (list.startsWith(QLatin1String("heatLow")) || list.startsWith(QLatin1String("heatHigh"))) {
+            QTest::newRow(qPrintable(list + QStringLiteral(" in outdoor mode"))) << false;
+        }
+    }
+}
+
+// At the borders of each row of the table: the page asks for the right words.
+void TestControls::eachRangeFollowsItsWords()
+{
+    QFETCH(bool, seasonal);
+    const QString list = QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(' '), 0, 0);
+    for (const auto &words : ranges::borders(list)) {
+        QVariantMap values{{QStringLiteral("IduFuncList.isSeasonalAuto"), seasonal ? "SET" : "CLR"}};
+        for (auto word = words.begin(); word != words.end(); ++word) {
+            values.insert(ranges::path(word.key()), word.value());
+        }
+        const QStringList complaints = sweep->showInstallation(everything("R32", values), celsius);
         QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(QLatin1Char('\n'))));
     }
 }
