@@ -3,6 +3,7 @@
 #include "app/accessible.h"
 #include "app/frameless.h"
 #include "app/maindialog.h"
+#include "app/radioring.h"
 #include "languages/languagebox.h"
 #include "languages/languagemenu.h"
 #include "ui_maindialog.h"
@@ -19,8 +20,10 @@ void MainDialog::initLanguages()
     connect(&languages, &Languages::replaced, this, &MainDialog::changeOwnTexts);
     connect(&languages, &Languages::changed, this, &MainDialog::changeLanguage);
     connect(&languages, &Languages::reloaded, this, [this] { setLanguageMenuOpen(false); });
-    connect(&languages, &Languages::editorMade, this,
-            [](QWidget *editor) { (new FrameLess(editor, true))->setParent(editor); });
+    connect(&languages, &Languages::editorMade, this, [](QWidget *editor) {
+        (new FrameLess(editor, true))->setParent(editor);
+        new RadioRing(editor);
+    });
     connect(ui->languageCombobox, &LanguageBox::pressedByKey, this, [this] {
         if (state.languageMenuOpen) {
             state.languageMenuWidget->takeKeys(ui->labelCurrentLanguage->text());
@@ -59,6 +62,10 @@ void MainDialog::initLanguageMenu()
     connect(state.languageMenuWidget, &LanguageMenu::closed, this, [this] { setLanguageMenuOpen(false); });
     state.languageMenuWidget->setLanguageList(Languages::names());
     state.languageMenuWidget->close();
+    // The first menu is there before the ring.
+    if (auto *ring = findChild<RadioRing *>()) {
+        ring->serve(state.languageMenuWidget);
+    }
 }
 
 // Oddity 50: a second form of the toggle that the filter does; nothing connects it.

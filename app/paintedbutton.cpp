@@ -69,9 +69,6 @@ void PaintedButton::drawText(QPainter &painter, const QRect &place) const
     }
     QFont large = font();
     large.setPointSize(15);
-    // The focus that the window gets at its start, or that a program sets, isn't the user's choice.
-    const bool shown = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-    large.setUnderline(large.underline() || shown);
     painter.setFont(large);
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, plaintext::shown(text));
 }

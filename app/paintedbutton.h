@@ -22,8 +22,7 @@ protected:
     /// Emits the button's own signal.
     virtual void click() = 0;
 
-    /// Draws the text in the middle of `place`, in the widget's font at 15 points; a line below it tells the
-    /// focus.
+    /// Draws the text in the middle of `place`, in the widget's font at 15 points.
     void drawText(QPainter &painter, const QRect &place) const;
 
     bool pressed = false;

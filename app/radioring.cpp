@@ -6,7 +6,6 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QProxyStyle>
-#include <QPushButton>
 #include <QRadioButton>
 
 namespace {
@@ -17,10 +16,12 @@ constexpr int room = 5;
 /// What has a look of its own for the focus, in the style sheet, needs no ring.
 bool isServed(const QWidget *widget)
 {
-    const auto *button = qobject_cast<const QPushButton *>(widget);
+    static const QStringList buttons{
+        QStringLiteral("minimizeButton"), QStringLiteral("maximumButton"), QStringLiteral("newButton"),
+        QStringLiteral("openButton"),     QStringLiteral("saveButton"),    QStringLiteral("closeButton"),
+        QStringLiteral("loadButton"),     QStringLiteral("buttonModify"),  QStringLiteral("searchLineEdit")};
     return qobject_cast<const QRadioButton *>(widget) != nullptr
-        || dynamic_cast<const PaintedButton *>(widget) != nullptr
-        || (button != nullptr && button->parentWidget()->objectName() == QLatin1String("titleFrame"));
+        || dynamic_cast<const PaintedButton *>(widget) != nullptr || buttons.contains(widget->objectName());
 }
 
 /// Leaves room around the radio, and lets the ring be painted as it is.
@@ -60,7 +61,9 @@ public:
         if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) {
             // The window comes back with the focus where it was.
         } else if (event->type() == QEvent::FocusIn) {
-            const bool byKeys = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+            // A window gives its first focus as if by Tab.
+            const bool byKeys = (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+                && static_cast<QWidget *>(radio)->window()->testAttribute(Qt::WA_KeyboardFocusChange);
             ring->setWidget(byKeys ? static_cast<QWidget *>(radio) : nullptr);
         } else if (event->type() == QEvent::FocusOut) {
             ring->setWidget(nullptr);
@@ -76,13 +79,18 @@ private:
 
 RadioRing::RadioRing(QWidget *window)
     : QFocusFrame(window)
+    , follower(new Follower(this))
 {
     hide();
     auto *roomAround = new RoomAround;
     roomAround->setParent(this);
     setStyle(roomAround);
-    auto *follower = new Follower(this);
-    const auto widgets = window->findChildren<QWidget *>();
+    serve(window);
+}
+
+void RadioRing::serve(const QWidget *part)
+{
+    const auto widgets = part->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         if (isServed(widget)) {
             widget->installEventFilter(follower);
@@ -113,7 +121,8 @@ void RadioRing::paintEvent(QPaintEvent *)
     if (qobject_cast<const QRadioButton *>(served) != nullptr) {
         // Not around the empty end of a radio that is wider than its text.
         ring.setRight(ring.right() - qMax(0, served->width() - served->sizeHint().width()));
-    } else {
+    } else if (served->inherits("TabButton")
+               || served->parentWidget()->objectName() == QLatin1String("titleFrame")) {
         ring.adjust(room, room, -room, -room);
     }
     const qreal corner = served->inherits("ImageButton") ? ring.height() / 2 : 4;

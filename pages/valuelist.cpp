@@ -1,10 +1,41 @@
 #include "pages/valuelist.h"
 
+#include "widgets/palette.h"
+
 #include <QKeyEvent>
 #include <QListView>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
+
+namespace {
+
+/// Marks the item that is chosen; the style sheet tells the one under the mouse.
+class ItemPainter : public QStyledItemDelegate
+{
+public:
+    explicit ItemPainter(QComboBox *painted)
+        : QStyledItemDelegate(painted)
+        , list(painted)
+    {
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.row() == list->currentIndex()) {
+            constexpr int widthOfBar = 2;
+            const QRect bar(option.rect.topLeft(), QSize(widthOfBar, option.rect.height()));
+            painter->fillRect(bar, QColor(palette::accent.value));
+        }
+    }
+
+private:
+    QComboBox *list;
+};
+
+} // namespace
 
 ValueList::ValueList(QWidget *parent)
     : QComboBox(parent)
@@ -33,7 +64,7 @@ bool ValueList::hasPopup() const
 void ValueList::showPopup()
 {
     if (itemPainter == nullptr) {
-        itemPainter = new QStyledItemDelegate(this);
+        itemPainter = new ItemPainter(this);
         setItemDelegate(itemPainter);
     }
     // Measuring each item by itself would delay the opening noticeably.

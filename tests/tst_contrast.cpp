@@ -223,8 +223,6 @@ void TestContrast::controlsHaveThePalettesEdge_data()
                           << "comboDateYear";
     QTest::newRow("line") << "serviceTabButton"
                           << "lineEditOfficeName";
-    QTest::newRow("button") << "userTabButton"
-                            << "openButton";
     QTest::newRow("languages") << "userTabButton"
                                << "languageCombobox";
 }
@@ -238,8 +236,7 @@ void TestContrast::controlsHaveThePalettesEdge()
     window.showPage(MainDialog::SettingPage);
     Window::click(&window.dialog, qPrintable(button));
     const QWidget *frame = Window::find(&window.dialog, "windowFrame");
-    const QWidget *bar = Window::find(frame, "toolbarGroupBox");
-    auto *widget = Window::find(control == "openButton" ? bar : frame, qPrintable(control));
+    auto *widget = Window::find(frame, qPrintable(control));
     QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
     widget->clearFocus();
     const auto colourAt = [widget](int x) {

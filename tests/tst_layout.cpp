@@ -6,6 +6,7 @@
 #include "languages/userlanguageeditpopup.h"
 #include "pages/installation/installationsystemsetting.h"
 
+#include <QAbstractItemView>
 #include <QGroupBox>
 #include <QLayout>
 
@@ -93,6 +94,9 @@ private slots:
     void rowsBeginWithBullets_data();
     void rowsBeginWithBullets();
     void openHeadersEndStraight();
+    void curvesAreSetApart();
+    void chosenItemIsMarked();
+    void stepsAreJoined();
     void editorHasRoom();
     void menuHasRoom();
 };
@@ -236,6 +240,59 @@ void TestLayout::openHeadersEndStraight()
         QVERIFY((corner(bottom) == line) == open);
         QCOMPARE(corner(bottom / 2), line);
     }
+}
+
+// Each curve of the auto mode, like each group of the other sections.
+void TestLayout::curvesAreSetApart()
+{
+    Window window;
+    window.use(documents::everything("R32"));
+    window.dialog.setSideBarVisible(true);
+    window.showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    Tour(window, QStringLiteral("R32")).expandSections();
+    Tour::settle();
+    auto *body = Window::find(&window.dialog, "groupBoxSeasonalAutoMode")->parentWidget();
+    const QImage picture = body->grab().toImage();
+    int lines = 0;
+    for (int y = 1; y < picture.height() - 1; ++y) {
+        lines += picture.pixelColor(20, y) == QColor(0xE6, 0xE6, 0xE7) ? 1 : 0;
+    }
+    QCOMPARE(lines, 5);
+    QVERIFY(Window::find(body, "labelSeasonalOutdoor")->font().family()
+            != Window::find(body, "labelSeasonalOutdoorHeat")->font().family());
+}
+
+// Whatever is under the mouse.
+void TestLayout::chosenItemIsMarked()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *months = Window::find<QComboBox>(&window.dialog, "comboDateMonth");
+    months->setCurrentIndex(2);
+    months->showPopup();
+    months->view()->setCurrentIndex(months->model()->index(5, 0));
+    const QImage picture = months->view()->viewport()->grab().toImage();
+    for (int row = 0; row < months->count(); ++row) {
+        const QRect place = months->view()->visualRect(months->model()->index(row, 0));
+        const QColor colour = picture.pixelColor(place.left(), place.center().y());
+        QCOMPARE(colour == QColor(0xA5, 0x00, 0x34), row == 2);
+        QCOMPARE(colour == QColor(0xF2, 0xF2, 0xF2), row == 5);
+    }
+    months->hidePopup();
+}
+
+void TestLayout::stepsAreJoined()
+{
+    Window window;
+    window.dialog.setSideBarVisible(true);
+    for (const char *line : {"stepLine1", "stepLine2", "stepLine3"}) {
+        QVERIFY2(Window::find(&window.dialog, line)->height() >= 20, line);
+    }
+    // Crimson is left to the caption of the page that is shown.
+    const QImage disc(QStringLiteral(":/images/btn_step_1_focus.png"));
+    QCOMPARE(disc.pixelColor(4, disc.height() / 2), QColor(0x33, 0x33, 0x33));
+    QCOMPARE(disc.pixelColor(10, disc.height() / 2), QColor(Qt::white));
 }
 
 void TestLayout::editorHasRoom()

@@ -81,9 +81,13 @@ private slots:
     void dipSwitchPageShowsAll_data();
     void dipSwitchPageShowsAll();
     void pairsStandSideBySide();
+    void choicesStandApart_data() { everyLanguage(); }
+    void choicesStandApart();
+    void dipSwitchPageHasNoHistory();
     void guideStandsBesideTheOptions_data() { everyLanguage(); }
     void guideStandsBesideTheOptions();
     void emptySectionHasNoStrip();
+    void startShowsNoRing();
     void stepCaptionsAreLargeEnough();
     void saveIsPrimaryWhileItWouldSave();
     void saveIsPrimaryForAnOpenedFile();
@@ -274,6 +278,71 @@ void TestLook::pairsStandSideBySide()
     }
 }
 
+// The circle to the right of a word isn't that word's.
+void TestLook::choicesStandApart()
+{
+    QFETCH(QString, language);
+    Window window;
+    window.dialog.setSideBarVisible(true);
+    speak(window, language);
+    int measured = 0;
+    for (const QSize &size : {QSize(974, 612), QSize(1440, 800)}) {
+        resize(window, size);
+        for (const QJsonDocument &document : {documents::standard("R32"), documents::everything("R410")}) {
+            window.use(document);
+            window.showPage(MainDialog::SelectPage);
+            window.showPage(MainDialog::DipSwitchPage);
+            Tour::settle();
+            const auto *rows = Window::find(&window.dialog, "optionRows");
+            for (const auto *left : rows->findChildren<QRadioButton *>()) {
+                const auto neighbours = left->parentWidget()->findChildren<QRadioButton *>();
+                for (const auto *right : neighbours) {
+                    if (left->isVisible() && right->isVisible() && left->y() == right->y()
+                        && left->x() < right->x()) {
+                        QVERIFY2(right->x() - left->x() - left->sizeHint().width() >= 24,
+                                 qPrintable(right->objectName()));
+                        ++measured;
+                    }
+                }
+            }
+            const auto inRow = [&window](const char *one, const char *other) {
+                return Window::find(&window.dialog, one)->y() == Window::find(&window.dialog, other)->y();
+            };
+            const bool hasThird = Window::find(&window.dialog, "radioDhwOnly")->isVisible();
+            QVERIFY(hasThird
+                    || inRow("radioDhwNotUse", "radioDhwUse")
+                        == inRow("radioSolarThermalKitNotuse", "radioSolarThermalKitUse"));
+        }
+    }
+    QVERIFY(measured > 20);
+}
+
+// Bank C comes and goes while the page is shown.
+void TestLook::dipSwitchPageHasNoHistory()
+{
+    Window window;
+    window.dialog.setSideBarVisible(true);
+    speak(window, QStringLiteral("Polski"));
+    resize(window, QSize(974, 612));
+    const auto places = [&window](const char *refrigerant) {
+        window.use(documents::standard(refrigerant));
+        window.showPage(MainDialog::SelectPage);
+        window.showPage(MainDialog::DipSwitchPage);
+        Tour::settle();
+        QList<QPoint> all;
+        for (const char *name :
+             {"radioDhwNotUse", "radioDhwUse", "radioOperationBoth", "radioThermostatUse"}) {
+            all.append(placeOf(Window::find(&window.dialog, name)).topLeft());
+        }
+        return all;
+    };
+    places("R32");
+    const QList<QPoint> first = places("R410");
+    QCOMPARE(places("R410"), first);
+    const QList<QPoint> back = places("R32");
+    QCOMPARE(places("R32"), back);
+}
+
 void TestLook::guideStandsBesideTheOptions()
 {
     QFETCH(QString, language);
@@ -315,6 +384,33 @@ void TestLook::emptySectionHasNoStrip()
         }
     }
     QVERIFY(empty > 0);
+}
+
+// Save has white between its red and the ring.
+void TestLook::startShowsNoRing()
+{
+    const QColor blue(0x1D, 0x5F, 0xA6);
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    const auto *bar = Window::find(&window.dialog, "toolbarGroupBox");
+    const auto beside = [&window, bar](const char *name, int away) {
+        const QRect button = placeOf(Window::find(bar, name));
+        const QPoint place(button.left() - away, button.center().y());
+        return window.dialog.grab(QRect(place, QSize(1, 1))).toImage().pixelColor(0, 0);
+    };
+    QVERIFY(Window::find(bar, "newButton")->hasFocus());
+    for (int away = -3; away <= 5; ++away) {
+        QVERIFY(beside("newButton", away) != blue);
+    }
+    window.use(documents::standard("R32"));
+    for (const int step : {1, 2, 3}) {
+        window.dialog.setStepCompleted(true, step);
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(beside("openButton", 4), blue);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(beside("saveButton", 4), blue);
+    QCOMPARE(beside("saveButton", 2), QColor(Qt::white));
 }
 
 void TestLook::stepCaptionsAreLargeEnough()

@@ -132,8 +132,6 @@ private slots:
     void isReleasedWhenItClicks();
     void keysClick_data() { bothButtons(); }
     void keysClick();
-    void focusUnderlinesTheText_data() { bothButtons(); }
-    void focusUnderlinesTheText();
 
     void tabShowsItsLine();
     void tabShowsItsText_data();
@@ -387,33 +385,6 @@ void TestPaintedButtons::keysClick()
     // The rest is left to the window, and so is a key that is held down.
     QVERIFY(!press(Qt::Key_Space, true) && !press(Qt::Key_A) && !press(Qt::Key_Escape));
     QCOMPARE(clicked.size(), 3);
-}
-
-// By Tab alone: a click leaves the focus where it is, and what a window gives by itself isn't shown.
-void TestPaintedButtons::focusUnderlinesTheText()
-{
-    tabButton->setText("Function");
-    imageButton->setText("New");
-    QVERIFY(QTest::qWaitForWindowActive(host.get()));
-    QWidget *widget = button();
-    widget->clearFocus();
-    const QImage plain = looks(widget);
-    QTest::mouseClick(widget, Qt::LeftButton);
-    QVERIFY(!widget->hasFocus());
-    widget->setFocus(Qt::ActiveWindowFocusReason);
-    QVERIFY(widget->hasFocus());
-    QCOMPARE(looks(widget), plain);
-    QTest::keyClick(host.get(), Qt::Key_Tab);
-    QTest::keyClick(host.get(), Qt::Key_Backtab);
-    widget->setFocus();
-    const QImage focused = looks(widget);
-    QFont line = widget->font();
-    line.setUnderline(true);
-    widget->clearFocus();
-    QCOMPARE(looks(widget), plain);
-    widget->setFont(line);
-    QCOMPARE(focused, looks(widget));
-    QVERIFY(focused != plain);
 }
 
 void TestPaintedButtons::tabShowsItsLine()

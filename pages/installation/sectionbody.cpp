@@ -6,10 +6,12 @@
 #include <QGroupBox>
 #include <QLayout>
 #include <QPainter>
+#include <QVariant>
 
 namespace {
 
-/// The groups of rows of a body, those of a product's settings in it among them, from the top.
+/// The groups of rows of a body from the top, those of a product's settings in it among them, and the curves
+/// of a group instead of itself.
 QList<const QGroupBox *> groupsOf(const QWidget *body)
 {
     QList<const QGroupBox *> groups;
@@ -19,7 +21,8 @@ QList<const QGroupBox *> groupsOf(const QWidget *body)
         if (part == nullptr || part->isHidden()) {
             continue;
         }
-        if (const auto *group = qobject_cast<const QGroupBox *>(part)) {
+        const auto *group = qobject_cast<const QGroupBox *>(part);
+        if (group != nullptr && !group->property("ofGroups").toBool()) {
             groups.append(group);
         } else {
             groups += groupsOf(part);

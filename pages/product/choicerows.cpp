@@ -10,31 +10,29 @@
 namespace {
 
 constexpr int gap = 8;
+constexpr int betweenLines = 2; // as in the form
+/// Beside the gap, between a choice and the circle of the next one.
+constexpr int apart = 16;
+/// Choices below their caption, with the gap.
+constexpr int indented = 8;
+constexpr int aboveCaption = 8;
 constexpr int columns = 5; // the caption, three choices, and the room of one that is missing
 /// Captions that break their lines.
 constexpr int narrowCaptions = 138;
 /// However much room the controls beside it ask for.
 constexpr int narrowest = 80;
 
-/// A hidden choice takes no room.
-int widthOf(const QWidget *choice)
+/// What is hidden takes no room, and a spacing has a line of its own.
+bool isThere(const QWidget *choice)
 {
-    if (choice->isHidden()) {
-        return 0;
-    }
-    const bool isRadio = qobject_cast<const QRadioButton *>(choice) != nullptr;
-    return isRadio ? choice->sizeHint().width() : choice->minimumWidth();
+    return !choice->isHidden() && qobject_cast<const QRadioButton *>(choice) != nullptr;
 }
 
-/// Of choices that are there; a spacing is none.
+int widthOf(const QWidget *choice) { return isThere(choice) ? choice->sizeHint().width() : 0; }
+
 bool isPair(const std::vector<QWidget *> &choices)
 {
-    return std::count_if(choices.begin(), choices.end(),
-                         [](const QWidget *choice) {
-                             return !choice->isHidden()
-                                 && qobject_cast<const QRadioButton *>(choice) != nullptr;
-                         })
-        == 2;
+    return std::count_if(choices.begin(), choices.end(), isThere) == 2;
 }
 
 int widest(const std::vector<QWidget *> &choices)
@@ -46,15 +44,15 @@ int widest(const std::vector<QWidget *> &choices)
     return width;
 }
 
-/// All beside each other; the first is at least `first` wide if there are two.
+/// All beside each other; the first of several takes at least `first`.
 int together(const std::vector<QWidget *> &choices, int first)
 {
-    int width = -gap;
+    int width = -gap - apart;
     for (const QWidget *choice : choices) {
-        const int own = widthOf(choice);
-        width += own > 0 ? own + gap : 0;
+        width += isThere(choice) ? widthOf(choice) + apart + gap : 0;
     }
-    return isPair(choices) ? width + std::max(0, first - widthOf(choices.front())) : width;
+    const bool several = std::count_if(choices.begin(), choices.end(), isThere) > 1;
+    return several ? width + std::max(0, first - widthOf(choices.front()) - apart) : width;
 }
 
 } // namespace
@@ -92,15 +90,22 @@ ChoiceRows::Plan ChoiceRows::planFor(int room) const
             plan.captions = captions;
         }
     }
-    const int left = plan.captions == 0 ? room : room - plan.captions - gap;
+    if (plan.captions == 0 && indented + gap + choice <= room) {
+        plan.indent = indented;
+    }
+    const int beside = plan.captions + plan.indent;
+    const int left = beside > 0 ? room - beside - gap : room;
     for (const Row &row : rows) {
         if (isPair(row.choices) && together(row.choices, 0) <= left) {
-            plan.first = std::max(plan.first, widthOf(row.choices.front()));
+            plan.first = std::max(plan.first, widthOf(row.choices.front()) + apart);
         }
     }
     for (const Row &row : rows) {
         plan.pairs.push_back(isPair(row.choices));
-        plan.sideBySide.push_back(together(row.choices, plan.first) <= left);
+        // Three give up the common column before they stand below each other.
+        const bool inColumn = together(row.choices, plan.first) <= left;
+        plan.firsts.push_back(inColumn ? plan.first : 0);
+        plan.sideBySide.push_back(inColumn || (!isPair(row.choices) && together(row.choices, 0) <= left));
     }
     return plan;
 }
@@ -109,7 +114,7 @@ void ChoiceRows::place(int room)
 {
     const Plan plan = planFor(room);
     for (std::size_t index = 0; !(plan == current) && index < rows.size(); ++index) {
-        place(rows.at(index), plan.captions, plan.first, plan.sideBySide.at(index));
+        place(rows.at(index), plan, index);
     }
     current = plan;
     for (QLabel *caption : further) {
@@ -119,32 +124,43 @@ void ChoiceRows::place(int room)
     }
 }
 
-void ChoiceRows::place(const Row &row, int captions, int first, bool sideBySide)
+void ChoiceRows::place(const Row &row, const Plan &plan, std::size_t index)
 {
+    const int captions = plan.captions;
+    const bool sideBySide = plan.sideBySide.at(index);
     const bool below = captions == 0;
+    const int firstColumn = below && plan.indent == 0 ? 0 : 1;
     const int choices = static_cast<int>(row.choices.size());
     row.grid->removeWidget(row.caption);
     row.caption->setMinimumWidth(below ? 0 : captions);
     row.caption->setMaximumWidth(below ? QWIDGETSIZE_MAX : captions);
     if (below) {
-        row.grid->addWidget(row.caption, row.line, 0, 1, std::min(sideBySide ? 2 : 1, choices));
+        row.grid->addWidget(row.caption, row.line, 0, 1, firstColumn + std::min(sideBySide ? 2 : 1, choices));
     } else {
         row.grid->addWidget(row.caption, row.line, 0, sideBySide ? 1 : choices, 1);
     }
+    row.grid->setColumnMinimumWidth(0, plan.indent);
+    row.grid->setContentsMargins(0, below ? aboveCaption : 0, 0, 0);
+    const auto last = std::find_if(row.choices.rbegin(), row.choices.rend(), isThere);
     int line = row.line + (below ? 1 : 0);
-    int column = below ? 0 : 1;
+    int column = firstColumn;
     for (QWidget *choice : row.choices) {
         row.grid->removeWidget(choice);
-        const bool isFirstOfPair = sideBySide && isPair(row.choices) && choice == row.choices.front();
-        if (qobject_cast<QRadioButton *>(choice) != nullptr) {
-            choice->setMinimumWidth(isFirstOfPair ? first : 0);
+        if (qobject_cast<QRadioButton *>(choice) == nullptr) {
+            // A line without height needs no distance from a single one above it.
+            row.grid->setVerticalSpacing(below || !sideBySide ? betweenLines : 0);
+            row.grid->addWidget(choice, row.line + choices, firstColumn);
+            continue;
         }
+        const bool isFollowed = sideBySide && last != row.choices.rend() && choice != *last;
+        const int own = isFollowed ? widthOf(choice) + apart : 0;
+        choice->setMinimumWidth(
+            isFollowed && choice == row.choices.front() ? std::max(plan.firsts.at(index), own) : own);
         row.grid->addWidget(choice, line, column);
         (sideBySide ? column : line) += 1;
     }
     // What is left goes to the end of the row, where nothing is to be seen.
-    const int last = sideBySide ? column - 1 : column;
     for (int each = 0; each < columns; ++each) {
-        row.grid->setColumnStretch(each, each == last ? 1 : 0);
+        row.grid->setColumnStretch(each, each == (sideBySide ? column - 1 : column) ? 1 : 0);
     }
 }

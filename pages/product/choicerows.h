@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 class QGridLayout;
@@ -30,21 +31,23 @@ public:
 
 private:
     struct Plan {
-        int captions = 0; ///< width of the column, 0: choices stand below their caption
-        int first = 0;    ///< width of the first choice of a pair
+        int captions = 0;        ///< width of the column, 0: choices stand below their caption
+        int indent = 0;          ///< of choices below their caption
+        int first = 0;           ///< width of the column of first choices
+        std::vector<int> firsts; ///< of each row, 0: not in that column
         std::vector<bool> sideBySide;
         std::vector<bool> pairs;
 
         bool operator==(const Plan &other) const
         {
-            return captions == other.captions && first == other.first && sideBySide == other.sideBySide
-                && pairs == other.pairs;
+            return captions == other.captions && indent == other.indent && firsts == other.firsts
+                && sideBySide == other.sideBySide && pairs == other.pairs;
         }
     };
 
     Plan planFor(int room) const;
     int widestCaption() const;
-    static void place(const Row &row, int captions, int first, bool sideBySide);
+    static void place(const Row &row, const Plan &plan, std::size_t index);
 
     std::vector<Row> rows;
     std::vector<QLabel *> further;

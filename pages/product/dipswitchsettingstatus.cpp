@@ -61,6 +61,7 @@ void DipSwitchSettingStatus::placeRows()
     }
     constexpr int edges = 4;      // of the card
     constexpr int roomOfBar = 12; // beside the rows
+    ui->layout_guide->activate(); // bank C may have come or gone
     const QMargins page = layout()->contentsMargins();
     const QMargins margins = ui->layout_optionRows->contentsMargins();
     const int rowsWidth = width() - page.left() - page.right() - ui->guide->minimumSizeHint().width()
