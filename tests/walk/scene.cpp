@@ -70,6 +70,12 @@ void Scene::look()
     isFahrenheit = dialog.tempUnit() == QLatin1String("FAHRENHEIT");
 }
 
+void Scene::look(const QJsonDocument &document)
+{
+    look();
+    now = document;
+}
+
 QJsonValue Scene::value(const QString &path) const
 {
     QJsonValue current = now.object();

@@ -16,6 +16,8 @@ public:
 
     /// Takes document, unit and language as they stand now.
     void look();
+    /// The same with another document, such as the one that has been loaded.
+    void look(const QJsonDocument &document);
 
     const QJsonDocument &document() const { return now; }
     QJsonValue value(const QString &path) const;

@@ -139,6 +139,18 @@ void Sweep::load(const Place &place, const QJsonDocument &document, const QStrin
     scene.look();
     selections.loaded(place.pages);
     judge(QStringLiteral("show"), document, effects::ofLoads(place.pages, scene));
+    // A load that writes back what it shows would hide that it shows something else than what was stored. Of
+    // water, one section sets back what another shows.
+    scene.look(document);
+    for (const QString &page : place.pages) {
+        for (const QString &complaint : selections.complaints(scene, page + QLatin1Char('/'))) {
+            if (page != QLatin1String("InstallationaAuto")
+                && !complaint.contains(QLatin1String("/comboControl"))) {
+                complain(QStringLiteral("stored"), complaint);
+            }
+        }
+    }
+    scene.look();
 }
 
 /// After another of its choice, so that it changes something, and back to the one that was checked.
