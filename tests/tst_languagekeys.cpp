@@ -82,6 +82,10 @@ void TestLanguageKeys::keysOpen()
 {
     QFETCH(Qt::Key, key);
     box->setFocus(Qt::TabFocusReason);
+    // One that is held down opens nothing.
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(box, &held);
+    verifyClosed();
     QTest::keyClick(box, key);
     QVERIFY(isOpen() && menu()->isVisible());
     QCOMPARE(QApplication::focusWidget(), list());
