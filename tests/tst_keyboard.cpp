@@ -141,10 +141,10 @@ bool isForeign(const QImage &picture)
 }
 
 /// Without the Tab key.
-void focusAsByTab(QWidget *widget)
+void focusAsByTab(QWidget *widget, Qt::FocusReason reason = Qt::TabFocusReason)
 {
     widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    widget->setFocus(Qt::TabFocusReason);
+    widget->setFocus(reason);
 }
 
 bool showsFocus(QWidget *widget)
@@ -288,6 +288,9 @@ void TestKeyboard::radioIsRinged()
         QCOMPARE(with.pixelColor(inside.left() - 2, middle), QColor(Qt::white));
         QCOMPARE(with.pixelColor(inside.left() + radio->sizeHint().width() + 3, middle), blue);
         QCOMPARE(with.pixelColor(inside.left() - 5, middle), blue);
+        radio->clearFocus();
+        focusAsByTab(radio, Qt::BacktabFocusReason);
+        QCOMPARE(look(radio), with);
     }
 }
 
