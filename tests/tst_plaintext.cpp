@@ -50,7 +50,9 @@ QStringList richLabels(const QWidget *window)
 void lookAlike(QWidget &reference, QWidget *shown)
 {
     shown->grab(); // which lays it out
-    reference.setProperty("role", shown->property("role"));
+    for (const char *name : {"role", "level"}) {
+        reference.setProperty(name, shown->property(name));
+    }
     reference.setStyleSheet(shown->styleSheet());
     reference.setFont(shown->font());
     reference.setEnabled(shown->isEnabled());
