@@ -14,14 +14,14 @@ QString installation(const char *key)
 const QString celsius = QStringLiteral("CENTIGRADE");
 const QString fahrenheit = QStringLiteral("FAHRENHEIT");
 
-/// All that the pages of a refrigerant can offer, with other values.
-QJsonDocument everything(const char *refrigerant, const QVariantMap &values = {})
+/// All that the pages of a refrigerant can offer, with `changed` values.
+QJsonDocument everything(const char *refrigerant, const QVariantMap &changed = {})
 {
-    const QVariantMap offered{{installation("boilerOfThirdParty.thirdPartyMode"), "AUTO"},
-                              {installation("combination200.combiValue"), "SET"},
-                              {installation("pumpOperOptionInHeat.option"), "CLR"}};
+    const QVariantMap offers{{installation("boilerOfThirdParty.thirdPartyMode"), "AUTO"},
+                             {installation("combination200.combiValue"), "SET"},
+                             {installation("pumpOperOptionInHeat.option"), "CLR"}};
     return documents::with(documents::everything(QLatin1String(refrigerant)),
-                           documents::joined(offered, values));
+                           documents::joined(offers, changed));
 }
 
 } // namespace
