@@ -286,6 +286,7 @@ void TestLayout::stepsAreJoined()
 {
     Window window;
     window.dialog.setSideBarVisible(true);
+    Tour::settle();
     for (const char *line : {"stepLine1", "stepLine2", "stepLine3"}) {
         QVERIFY2(Window::find(&window.dialog, line)->height() >= 20, line);
     }

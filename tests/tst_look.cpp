@@ -83,6 +83,7 @@ private slots:
     void pairsStandSideBySide();
     void choicesStandApart_data() { everyLanguage(); }
     void choicesStandApart();
+    void dipSwitchPageHasNoHistory_data() { everyLanguage(); }
     void dipSwitchPageHasNoHistory();
     void guideStandsBesideTheOptions_data() { everyLanguage(); }
     void guideStandsBesideTheOptions();
@@ -320,9 +321,10 @@ void TestLook::choicesStandApart()
 // Bank C comes and goes while the page is shown.
 void TestLook::dipSwitchPageHasNoHistory()
 {
+    QFETCH(QString, language);
     Window window;
     window.dialog.setSideBarVisible(true);
-    speak(window, QStringLiteral("Polski"));
+    speak(window, language);
     resize(window, QSize(974, 612));
     const auto places = [&window](const char *refrigerant) {
         window.use(documents::standard(refrigerant));

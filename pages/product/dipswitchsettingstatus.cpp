@@ -61,7 +61,11 @@ void DipSwitchSettingStatus::placeRows()
     }
     constexpr int edges = 4;      // of the card
     constexpr int roomOfBar = 12; // beside the rows
-    ui->layout_guide->activate(); // bank C may have come or gone
+    // Bank C may have come or gone, which the guide learns from within.
+    for (QLayout *part :
+         std::initializer_list<QLayout *>{ui->layout_bankC, ui->layout_smallBanks, ui->layout_guide}) {
+        part->activate();
+    }
     const QMargins page = layout()->contentsMargins();
     const QMargins margins = ui->layout_optionRows->contentsMargins();
     const int rowsWidth = width() - page.left() - page.right() - ui->guide->minimumSizeHint().width()
