@@ -20,8 +20,8 @@ bool isServed(const QWidget *widget)
         QStringLiteral("minimizeButton"), QStringLiteral("maximumButton"), QStringLiteral("newButton"),
         QStringLiteral("openButton"),     QStringLiteral("saveButton"),    QStringLiteral("closeButton"),
         QStringLiteral("loadButton"),     QStringLiteral("buttonModify"),  QStringLiteral("searchLineEdit")};
-    return qobject_cast<const QRadioButton *>(widget) != nullptr
-        || dynamic_cast<const PaintedButton *>(widget) != nullptr || buttons.contains(widget->objectName());
+    return buttons.contains(widget->objectName()) || qobject_cast<const QRadioButton *>(widget) != nullptr
+        || dynamic_cast<const PaintedButton *>(widget) != nullptr;
 }
 
 /// Leaves room around the radio, and lets the ring be painted as it is.

@@ -55,6 +55,16 @@ int together(const std::vector<QWidget *> &choices, int first)
     return several ? width + std::max(0, first - widthOf(choices.front()) - apart) : width;
 }
 
+/// Of a choice beside the others: the last one has nothing to stand apart from.
+int widthInRow(const std::vector<QWidget *> &choices, const QWidget *choice, int first)
+{
+    const auto last = std::find_if(choices.rbegin(), choices.rend(), isThere);
+    if (last == choices.rend() || choice == *last) {
+        return 0;
+    }
+    return std::max(choice == choices.front() ? first : 0, widthOf(choice) + apart);
+}
+
 } // namespace
 
 ChoiceRows::ChoiceRows(std::vector<Row> placedRows, std::vector<QLabel *> furtherCaptions)
@@ -126,22 +136,18 @@ void ChoiceRows::place(int room)
 
 void ChoiceRows::place(const Row &row, const Plan &plan, std::size_t index)
 {
-    const int captions = plan.captions;
     const bool sideBySide = plan.sideBySide.at(index);
-    const bool below = captions == 0;
+    const bool below = plan.captions == 0;
     const int firstColumn = below && plan.indent == 0 ? 0 : 1;
     const int choices = static_cast<int>(row.choices.size());
     row.grid->removeWidget(row.caption);
-    row.caption->setMinimumWidth(below ? 0 : captions);
-    row.caption->setMaximumWidth(below ? QWIDGETSIZE_MAX : captions);
-    if (below) {
-        row.grid->addWidget(row.caption, row.line, 0, 1, firstColumn + std::min(sideBySide ? 2 : 1, choices));
-    } else {
-        row.grid->addWidget(row.caption, row.line, 0, sideBySide ? 1 : choices, 1);
-    }
+    row.caption->setMinimumWidth(plan.captions);
+    row.caption->setMaximumWidth(below ? QWIDGETSIZE_MAX : plan.captions);
+    const int lines = below || sideBySide ? 1 : choices;
+    row.grid->addWidget(row.caption, row.line, 0, lines,
+                        below ? firstColumn + std::min(sideBySide ? 2 : 1, choices) : 1);
     row.grid->setColumnMinimumWidth(0, plan.indent);
     row.grid->setContentsMargins(0, below ? aboveCaption : 0, 0, 0);
-    const auto last = std::find_if(row.choices.rbegin(), row.choices.rend(), isThere);
     int line = row.line + (below ? 1 : 0);
     int column = firstColumn;
     for (QWidget *choice : row.choices) {
@@ -152,15 +158,13 @@ void ChoiceRows::place(const Row &row, const Plan &plan, std::size_t index)
             row.grid->addWidget(choice, row.line + choices, firstColumn);
             continue;
         }
-        const bool isFollowed = sideBySide && last != row.choices.rend() && choice != *last;
-        const int own = isFollowed ? widthOf(choice) + apart : 0;
-        choice->setMinimumWidth(
-            isFollowed && choice == row.choices.front() ? std::max(plan.firsts.at(index), own) : own);
+        choice->setMinimumWidth(sideBySide ? widthInRow(row.choices, choice, plan.firsts.at(index)) : 0);
         row.grid->addWidget(choice, line, column);
         (sideBySide ? column : line) += 1;
     }
     // What is left goes to the end of the row, where nothing is to be seen.
+    const int end = sideBySide ? column - 1 : column;
     for (int each = 0; each < columns; ++each) {
-        row.grid->setColumnStretch(each, each == (sideBySide ? column - 1 : column) ? 1 : 0);
+        row.grid->setColumnStretch(each, static_cast<int>(each == end));
     }
 }
