@@ -42,6 +42,7 @@ def make_debian(path, names, mode, _owner, stamp):
             file.chmod(mode | (0o100 if name.endswith("program") else 0))
             os.utime(file, (stamp, stamp))
         (root / "DEBIAN").mkdir()
+        (root / "DEBIAN").chmod(0o755)  # dpkg-deb refuses what a strict umask makes
         (root / "DEBIAN/control").write_text(f"Package: a\nVersion: 1\nArchitecture: amd64\nMaintainer: A <a@example.org>\n"
                                              f"Installed-Size: {stamp % 100}\nDescription: a\n")
         (root / "DEBIAN/md5sums").write_text("".join(f"{'0' * 32}  {name}\n" for name in names))
