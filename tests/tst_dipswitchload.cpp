@@ -1,6 +1,7 @@
 #include "support/dipswitchtest.h"
 
-// Step 2: what the page shows of a document, and what showing it writes.
+// Step 2: what the page shows of a document, and what showing it writes. By which words a radio is checked:
+// tests/data/dipswitches.tsv.
 class TestDipSwitchLoad : public DipSwitchTest
 {
     Q_OBJECT
@@ -68,82 +69,52 @@ void TestDipSwitchLoad::showsHotWater_data()
 {
     QTest::addColumn<QString>("product");
     QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("radio");
     QTest::addColumn<QString>("pair");
-    QTest::newRow("no tank") << "awhp"
-                             << "is_hotwater CLR"
-                             << "radioDhwNotUse"
-                             << "00";
-    QTest::newRow("tank") << "awhp"
-                          << "is_hotwater set"
-                          << "radioDhwUse"
-                          << "01";
-    QTest::newRow("Aquabox, tank") << "aquabox"
-                                   << "is_hotwater SET"
-                                   << "radioDhwUse"
-                                   << "01";
-    QTest::newRow("Aquabox, no tank") << "aquabox"
-                                      << "is_hotwater CLR"
-                                      << "radioDhwNotUse"
-                                      << "00";
-    QTest::newRow("DHW only") << "aquabox"
-                              << "is_boosterht_onlyMode set is_heater1 SET"
-                              << "radioDhwOnly"
-                              << "11";
-    QTest::newRow("never for an AWHP") << "awhp"
-                                       << "is_boosterht_onlyMode SET is_hotwater CLR"
-                                       << "radioDhwNotUse"
-                                       << "00";
-    QTest::newRow("AWHP with both") << "awhp"
-                                    << "is_boosterht_onlyMode SET is_hotwater SET"
-                                    << "radioDhwUse"
-                                    << "01";
-    QTest::newRow("other product") << "boiler"
-                                   << "is_boosterht_onlyMode SET is_hotwater SET"
-                                   << "radioDhwUse"
-                                   << "01";
+    const auto row = [](const char *name, const char *product, const char *values, const char *pair) {
+        QTest::newRow(name) << product << values << pair;
+    };
+    row("no tank", "awhp", "is_hotwater CLR", "00");
+    row("tank", "awhp", "is_hotwater set", "01");
+    row("Aquabox, tank", "aquabox", "is_hotwater SET", "01");
+    row("Aquabox, no tank", "aquabox", "is_hotwater CLR", "00");
+    row("DHW only", "aquabox", "is_boosterht_onlyMode set is_heater1 SET", "11");
+    row("never for an AWHP", "awhp", "is_boosterht_onlyMode SET is_hotwater CLR", "00");
+    row("AWHP with both", "awhp", "is_boosterht_onlyMode SET is_hotwater SET", "01");
+    row("other product", "boiler", "is_boosterht_onlyMode SET is_hotwater SET", "01");
 }
 
 void TestDipSwitchLoad::showsHotWater()
 {
     QFETCH(QString, product);
     QFETCH(QString, values);
-    QFETCH(QString, radio);
     QFETCH(QString, pair);
     load({{"product", product}});
-    load(documents::joined(flags(values), {{"product", product}}));
-    QCOMPARE(checkedOf("radioDhwNotUse radioDhwUse radioDhwOnly"), radio);
+    const QVariantMap shown = documents::joined(flags(values), {{"product", product}});
+    load(shown);
+    QCOMPARE(checkedOf("radioDhwNotUse radioDhwUse radioDhwOnly"), expected("tank", shown));
     QCOMPARE(bank(2).mid(1, 2), pair);
 }
 
 void TestDipSwitchLoad::showsSolarKit_data()
 {
     QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("radio");
+    QTest::addColumn<bool>("offered");
     QTest::addColumn<QString>("pair");
-    QTest::newRow("no kit") << "is_hotwater SET is_sun CLR"
-                            << "radioSolarThermalKitNotuse"
-                            << "01";
-    QTest::newRow("kit") << "is_hotwater SET is_sun set"
-                         << "radioSolarThermalKitUse"
-                         << "10";
-    QTest::newRow("no tank") << "is_hotwater CLR is_sun SET"
-                             << ""
-                             << "00";
-    QTest::newRow("DHW only") << "is_boosterht_onlyMode SET is_sun SET is_heater1 SET"
-                              << ""
-                              << "11";
+    QTest::newRow("no kit") << "is_hotwater SET is_sun CLR" << true << "01";
+    QTest::newRow("kit") << "is_hotwater SET is_sun set" << true << "10";
+    QTest::newRow("no tank") << "is_hotwater CLR is_sun SET" << false << "00";
+    QTest::newRow("DHW only") << "is_boosterht_onlyMode SET is_sun SET is_heater1 SET" << false << "11";
 }
 
 void TestDipSwitchLoad::showsSolarKit()
 {
     QFETCH(QString, values);
-    QFETCH(QString, radio);
+    QFETCH(bool, offered);
     QFETCH(QString, pair);
     load(documents::joined(flags(values), {{"product", "aquabox"}}));
-    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"), radio);
+    QCOMPARE(checkedOf("radioSolarThermalKitNotuse radioSolarThermalKitUse"),
+             offered ? expected("solar", flags(values)) : QString());
     QCOMPARE(bank(2).mid(1, 2), pair);
-    const bool offered = !radio.isEmpty();
     QCOMPARE(style("labelSolar"), offered ? labelEnabled : labelDimmed + ';');
     for (const char *name : {"radioSolarThermalKitNotuse", "radioSolarThermalKitUse"}) {
         QCOMPARE(Window::enabled(page, name), offered);
@@ -155,56 +126,49 @@ void TestDipSwitchLoad::showsSolarKit()
 void TestDipSwitchLoad::showsOperationMode_data()
 {
     QTest::addColumn<QString>("values");
-    QTest::addColumn<bool>("both");
-    QTest::newRow("heating only") << "is_autoOp SET is_heat set is_cool clr" << false;
-    QTest::newRow("both") << "is_autoOp SET is_heat SET is_cool SET" << true;
-    QTest::newRow("no auto") << "is_autoOp CLR is_heat SET is_cool CLR" << true;
-    QTest::newRow("no heat") << "is_autoOp SET is_heat CLR is_cool CLR" << true;
-    QTest::newRow("odd cool") << "is_autoOp SET is_heat SET is_cool x" << true;
+    QTest::newRow("heating only") << "is_autoOp SET is_heat set is_cool clr";
+    QTest::newRow("both") << "is_autoOp SET is_heat SET is_cool SET";
+    QTest::newRow("no auto") << "is_autoOp CLR is_heat SET is_cool CLR";
+    QTest::newRow("no heat") << "is_autoOp SET is_heat CLR is_cool CLR";
+    QTest::newRow("odd cool") << "is_autoOp SET is_heat SET is_cool x";
 }
 
 void TestDipSwitchLoad::showsOperationMode()
 {
     QFETCH(QString, values);
-    QFETCH(bool, both);
     load(flags(values));
-    QCOMPARE(checked("radioOperationBoth"), both);
-    QCOMPARE(checked("radioOperationHeating"), !both);
-    QCOMPARE(bank(2).at(3), QChar(both ? '1' : '0'));
+    const QString radio = expected("operation", flags(values));
+    QCOMPARE(checkedOf("radioOperationHeating radioOperationBoth"), radio);
+    QCOMPARE(bank(2).at(3), QChar(radio == QLatin1String("radioOperationBoth") ? '1' : '0'));
 }
 
 void TestDipSwitchLoad::showsPair_data()
 {
-    QTest::addColumn<QByteArray>("set");
-    QTest::addColumn<QByteArray>("notSet");
+    QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("banks");
-    QTest::newRow("isIduAirTempSW") << QByteArray("radioAdditionalAirUse")
-                                    << QByteArray("radioAdditionalAirNotUse") << "00000000 1000";
-    QTest::newRow("is_flow_switch") << QByteArray("radioFlowOnlyPump") << QByteArray("radioFlowAlways")
-                                    << "00000000 0000";
-    QTest::newRow("isAntiFreeze") << QByteArray("radioAntifreezeUse") << QByteArray("radioAntifreezeNotuse")
-                                  << "00000000 0100";
-    QTest::newRow("is_ThermostatModeChange")
-        << QByteArray("radioThermostatUse") << QByteArray("radioThermostatNone") << "00000001 0000";
+    QTest::newRow("sensor") << "IduFuncList.isIduAirTempSW"
+                            << "00000000 1000";
+    QTest::newRow("flow") << "IduFuncList.is_flow_switch"
+                          << "00000000 0000";
+    QTest::newRow("antifreeze") << "IduFuncList.isAntiFreeze"
+                                << "00000000 0100";
+    QTest::newRow("thermostat") << "IduFuncList.is_ThermostatModeChange"
+                                << "00000001 0000";
 }
 
 void TestDipSwitchLoad::showsPair()
 {
-    QFETCH(QByteArray, set);
-    QFETCH(QByteArray, notSet);
+    QFETCH(QString, path);
     QFETCH(QString, banks);
-    const QString path = QStringLiteral("IduFuncList.") + QTest::currentDataTag();
+    const QString choice = QTest::currentDataTag();
     load({});
     Window::click(page, "radioFlowAlways");
-    for (const char *word : {"SET", "set"}) {
+    for (const QVariant &word :
+         {QVariant("SET"), QVariant("set"), QVariant("CLR"), QVariant("x"), QVariant()}) {
         load({{path, word}});
-        QVERIFY(checked(set) && !checked(notSet));
-        QCOMPARE(bank(2) + ' ' + bank(3), banks);
-    }
-    for (const QVariant &word : {QVariant("CLR"), QVariant("x"), QVariant()}) {
-        load({{path, word}});
-        QVERIFY(!checked(set) && checked(notSet));
-        QCOMPARE(bank(2) + ' ' + bank(3), QStringLiteral("00000000 0000"));
+        QCOMPARE(checkedOf(dipswitches::radios(choice).join(' ')), expected(choice, {{path, word}}));
+        QCOMPARE(bank(2) + ' ' + bank(3),
+                 word.toString().toUpper() == "SET" ? banks : QStringLiteral("00000000 0000"));
     }
 }
 
@@ -225,67 +189,61 @@ void TestDipSwitchLoad::flowSwitchStaysAsDrawn()
 void TestDipSwitchLoad::showsElectricHeater_data()
 {
     QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("radio");
     QTest::addColumn<QString>("pair");
-    QTest::addColumn<QVariantMap>("written");
-    const QString heater = QStringLiteral("is_installed_heater SET is_comm_disinfection SET "
-                                          "isIndoorHotWaterKey SET is_hotwater_by_disinfection SET ");
-    const QVariantMap none = flags("is_installed_heater CLR is_comm_disinfection CLR is_boosterht_onlyMode "
-                                   "CLR isIndoorHotWaterKey CLR is_hotwater_by_disinfection CLR");
+    QTest::addColumn<QString>("written"); // as for this radio
     QTest::newRow("step 1") << "is_heater1 set is_heater2 CLR"
-                            << "radioElectricHeater1"
-                            << "10" << flags(heater + "is_timer_hotwater SET");
+                            << "10"
+                            << "radioElectricHeater1";
     QTest::newRow("step 1 and 2") << "is_heater1 CLR is_heater2 set"
-                                  << "radioElectricHeaterBoth"
-                                  << "11" << flags(heater);
+                                  << "11"
+                                  << "radioElectricHeaterBoth";
     QTest::newRow("none") << "is_heater1 CLR is_heater2 CLR"
-                          << "radioElectricHeaterNotuse"
-                          << "00" << none;
+                          << "00"
+                          << "radioElectricHeaterNotuse";
     QTest::newRow("both flags") << "is_heater1 SET is_heater2 SET"
-                                << "radioElectricHeaterBoth"
-                                << "10" << flags(heater + "is_timer_hotwater SET");
+                                << "10"
+                                << "radioElectricHeater1";
 }
 
 void TestDipSwitchLoad::showsElectricHeater()
 {
     QFETCH(QString, values);
-    QFETCH(QString, radio);
     QFETCH(QString, pair);
-    QFETCH(QVariantMap, written);
+    QFETCH(QString, written);
     const QVariantMap marked = documents::joined(
         marks(), documents::joined(flags(values), {{meter + "interfaceAdd", 0}}));
     load(marked);
     QCOMPARE(
         documents::changes(documents::with(documents::standard("R32"), marked), window->dialog.document()),
-        written);
-    QCOMPARE(checkedOf("radioElectricHeaterNotuse radioElectricHeater1 radioElectricHeaterBoth"), radio);
+        dipswitches::loaded(written));
+    QCOMPARE(checkedOf("radioElectricHeaterNotuse radioElectricHeater1 radioElectricHeaterBoth"),
+             expected("heater", marked));
     QCOMPARE(bank(2).mid(5, 2), pair);
 }
 
 void TestDipSwitchLoad::showsMeterAddress_data()
 {
     QTest::addColumn<QVariant>("address");
-    QTest::addColumn<QString>("radio");
     QTest::addColumn<bool>("pulses");
-    QTest::newRow("none") << QVariant(0) << "radioOrvometerInterfaceNotuse" << false;
-    QTest::newRow("B0") << QVariant(176) << "radioOrvoAddressB0" << true;
-    QTest::newRow("B1") << QVariant(177) << "radioOrvoAddressB1" << true;
-    QTest::newRow("other") << QVariant(5) << "" << true;
-    QTest::newRow("missing") << QVariant() << "radioOrvometerInterfaceNotuse" << false;
-    QTest::newRow("text") << QVariant("176") << "radioOrvometerInterfaceNotuse" << false;
-    QTest::newRow("huge") << QVariant(1e300) << "radioOrvometerInterfaceNotuse" << false;
+    QTest::newRow("none") << QVariant(0) << false;
+    QTest::newRow("B0") << QVariant(176) << true;
+    QTest::newRow("B1") << QVariant(177) << true;
+    QTest::newRow("other") << QVariant(5) << true;
+    QTest::newRow("missing") << QVariant() << false;
+    QTest::newRow("text") << QVariant("176") << false;
+    QTest::newRow("huge") << QVariant(1e300) << false;
 }
 
 void TestDipSwitchLoad::showsMeterAddress()
 {
     QFETCH(QVariant, address);
-    QFETCH(QString, radio);
     QFETCH(bool, pulses);
     for (const int before : {0, 176}) {
         load({{meter + "interfaceAdd", before}});
         load({{meter + "interfaceAdd", 0}});
         load({{meter + "interfaceAdd", address}});
-        QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"), radio);
+        QCOMPARE(checkedOf("radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1"),
+                 expected("meter", {{meter + "interfaceAdd", address}}));
         QCOMPARE(Window::enabled(page, "groupBoxMeterInterface"), pulses);
         QCOMPARE(Window::enabled(page, "lineEditWHM1"), pulses);
         QVERIFY(Window::enabled(page, "radioOrvoAddressB0"));

@@ -1,6 +1,6 @@
-#include "support/window.h"
-
 #include "pages/operation/settingfunction.h"
+#include "support/times.h"
+#include "support/window.h"
 
 #include <QWheelEvent>
 
@@ -14,7 +14,7 @@ const QString dimmedLabel = QStringLiteral("color : rgba(55,55,55,30%)");
 
 } // namespace
 
-// The Function tab's silent mode and its time window.
+// The Function tab's silent mode and its time window; which hour is kept as which: tests/data/times.tsv.
 class TestSettingSilentTimes : public QObject
 {
     Q_OBJECT
@@ -180,34 +180,32 @@ void TestSettingSilentTimes::silentModeEnablesItsTimes()
 
 void TestSettingSilentTimes::hoursAreSavedByHalfDays_data()
 {
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<QString>("ampm");
-    QTest::newRow("00") << 0 << "AM";
-    QTest::newRow("01") << 1 << "AM";
-    QTest::newRow("11") << 11 << "AM";
-    QTest::newRow("12") << 12 << "AM";
-    QTest::newRow("13") << 1 << "PM";
-    QTest::newRow("22") << 10 << "PM";
-    QTest::newRow("23") << 11 << "PM";
+    QTest::addColumn<QString>("shown");
+    for (const QString &hour : times::hours()) {
+        QTest::newRow(qPrintable(hour)) << hour;
+    }
 }
 
+// Coming from another hour of each half.
 void TestSettingSilentTimes::hoursAreSavedByHalfDays()
 {
-    QFETCH(int, hour);
-    QFETCH(QString, ampm);
+    QFETCH(QString, shown);
+    const auto [hour, half] = times::saved(shown);
     const std::vector<std::pair<const char *, QString>> clocks{{"comboSilentStartHour", startClock},
                                                                {"comboSilentEndHour", endClock}};
     for (const auto &[combo, clock] : clocks) {
-        show({{func + "silentTimer.set", "SET"}, {clock + ".hour", 5}, {clock + ".ampm", "PM"}});
-        QCOMPARE(Window::shown(page, combo), QStringLiteral("17"));
-        QVariantMap expected{{clock + ".hour", hour}};
-        if (ampm == "AM") {
-            expected.insert(clock + ".ampm", ampm);
+        for (const QString &other : {QStringLiteral("AM"), QStringLiteral("PM")}) {
+            const QVariantMap before{{clock + ".hour", hour == 5 ? 6 : 5}, {clock + ".ampm", other}};
+            show(documents::joined(before, {{func + "silentTimer.set", "SET"}}));
+            QVariantMap expected{{clock + ".hour", hour}};
+            if (half != other) {
+                expected.insert(clock + ".ampm", half);
+            }
+            QCOMPARE(changesOf(combo, shown), expected);
+            QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
+            window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
+            QCOMPARE(Window::shown(page, combo), shown);
         }
-        QCOMPARE(changesOf(combo, QTest::currentDataTag()), expected);
-        QVERIFY(messages::contain("SettingFunction::validationCheck succeed!"));
-        window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
-        QCOMPARE(Window::shown(page, combo), QString(QTest::currentDataTag()));
     }
 }
 
@@ -215,37 +213,25 @@ void TestSettingSilentTimes::timesShow_data()
 {
     QTest::addColumn<QString>("ampm");
     QTest::addColumn<int>("hour");
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<QString>("shownHour");
-    QTest::addColumn<QString>("shownMinute");
-    QTest::newRow("AM 0:00") << "AM" << 0 << 0 << "00"
-                             << "00";
-    QTest::newRow("AM 9:09") << "AM" << 9 << 9 << "09"
-                             << "09";
-    QTest::newRow("AM 12:10") << "AM" << 12 << 10 << "12"
-                              << "10";
-    QTest::newRow("pm 1:59") << "pm" << 1 << 59 << "13"
-                             << "59";
-    QTest::newRow("PM 11:30") << "PM" << 11 << 30 << "23"
-                              << "30";
-    QTest::newRow("PM 0:00") << "PM" << 0 << 0 << "12"
-                             << "00";
-    QTest::newRow("PM -1:01") << "PM" << -1 << 1 << "11"
-                              << "01";
-    QTest::newRow("unknown half") << "x" << 4 << 5 << "04"
-                                  << "05";
+    QTest::addColumn<QString>("shown");
+    for (const QString &hour : times::hours()) {
+        QTest::addRow("AM %s", qPrintable(hour)) << "AM" << hour.toInt() << hour;
+        QTest::addRow("pm %s", qPrintable(hour)) << "pm" << times::afternoon(hour) << hour;
+        QTest::addRow("other half %s", qPrintable(hour)) << "x" << hour.toInt() << hour;
+    }
 }
 
 void TestSettingSilentTimes::timesShow()
 {
     QFETCH(QString, ampm);
     QFETCH(int, hour);
-    QFETCH(int, minute);
+    const int minute = qAbs(hour) * 9 % 60;
     for (const QString &clock : {startClock, endClock}) {
         show({{clock + ".ampm", ampm}, {clock + ".hour", hour}, {clock + ".min", minute}});
         const bool start = clock == startClock;
-        QTEST(Window::shown(page, start ? "comboSilentStartHour" : "comboSilentEndHour"), "shownHour");
-        QTEST(Window::shown(page, start ? "comboSilentStartMin" : "comboSilentEndMin"), "shownMinute");
+        QTEST(Window::shown(page, start ? "comboSilentStartHour" : "comboSilentEndHour"), "shown");
+        QCOMPARE(Window::shown(page, start ? "comboSilentStartMin" : "comboSilentEndMin"),
+                 QStringLiteral("%1").arg(minute, 2, 10, QLatin1Char('0')));
     }
 }
 

@@ -1,9 +1,11 @@
+#include "support/times.h"
 #include "support/usertabtest.h"
 
 #include <QScopeGuard>
 #include <QSignalSpy>
 
-// The User tab's date and summer time.
+// The User tab's date and summer time. The days of months: tests/data/times.tsv. What a listed date shows:
+// walk/tst_controls.cpp; here what odd ones show and what a load makes of them.
 class TestSettingUserDates : public UserTabTest
 {
     Q_OBJECT
@@ -88,9 +90,8 @@ void TestSettingUserDates::summerTimeOffPasses()
 void TestSettingUserDates::daysFollowTheMonth_data()
 {
     QTest::addColumn<int>("days");
-    const std::vector<int> days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    for (std::size_t index = 0; index < days.size(); ++index) {
-        QTest::addRow("%d", static_cast<int>(index) + 1) << days.at(index);
+    for (int number = 1; number <= 12; ++number) {
+        QTest::addRow("%d", number) << times::daysOf(number);
     }
 }
 

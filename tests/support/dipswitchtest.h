@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/product/dipswitchsettingstatus.h"
+#include "support/dipswitches.h"
 #include "support/window.h"
 
 /// A window with the dip switch page, and short ways to load and ask that page.
@@ -44,16 +45,6 @@ protected:
         return result;
     }
 
-    /// °C: the eight values that a heater radio brings back.
-    static QVariantMap seasonalDefaults()
-    {
-        const QString below = QStringLiteral("SettingInfo.installation.seasonalAutoOption.");
-        return {{below + "coolWaterTemp.min", 16},         {below + "coolWaterTemp.max", 20},
-                {below + "coolWaterTempMainZone.min", 16}, {below + "coolWaterTempMainZone.max", 20},
-                {below + "heatWaterTemp.min", 28},         {below + "heatWaterTemp.max", 35},
-                {below + "heatWaterTempMainZone.min", 28}, {below + "heatWaterTempMainZone.max", 35}};
-    }
-
     /// An Aquabox with everything on the page. The path of the function master, as the page reads it, ends in
     /// "Ms".
     static QVariantMap everything()
@@ -67,27 +58,25 @@ protected:
     /// Every path that a control of the page writes, with a value that none of them writes.
     static QVariantMap marks()
     {
-        QVariantMap result;
-        for (const char *flag :
-             {"is_hotwater", "is_sun", "is_boosterht_onlyMode", "is_timer_hotwater", "is_power_hotwater",
-              "is_autoOp", "is_heat", "is_cool", "isSeasonalAuto", "is_flow_switch", "is_heater1",
-              "is_heater2", "is_installed_heater", "is_comm_disinfection", "isIndoorHotWaterKey",
-              "is_hotwater_by_disinfection", "is_ThermostatModeChange", "isIduAirTempSW", "isAntiFreeze"}) {
-            result.insert(QStringLiteral("IduFuncList.") + QLatin1String(flag), "x");
+        QVariantMap result{{meter + "interface1", 1},
+                           {meter + "interface2", 1},
+                           {meter + "interface3", 1},
+                           {meter + "interface4", 1}};
+        for (const QString &radio : dipswitches::radios()) {
+            const QVariantMap written = dipswitches::clicked(radio);
+            for (auto value = written.begin(); value != written.end(); ++value) {
+                result.insert(value.key(), value->type() == QVariant::Int ? QVariant(1) : QVariant("x"));
+            }
         }
-        const QVariantMap seasonal = seasonalDefaults();
-        for (auto path = seasonal.keyBegin(); path != seasonal.keyEnd(); ++path) {
-            result.insert(*path, 1);
-        }
-        return documents::joined(result,
-                                 {{meter + "interfaceAdd", 1},
-                                  {meter + "interface1", 1},
-                                  {meter + "interface2", 1},
-                                  {meter + "interface3", 1},
-                                  {meter + "interface4", 1},
-                                  {oduFunction, "x"},
-                                  {silentPriority, "x"},
-                                  {"SettingInfo.installation.sensorDefine.airTempLocation", "x"}});
+        return result;
+    }
+
+    /// The radio that a load of a default document with these values checks.
+    static QString expected(const QString &choice, const QVariantMap &values)
+    {
+        const QVariantMap held = documents::changes({}, documents::with(documents::standard("R32"), values));
+        return dipswitches::checked(
+            choice, [&held](const QString &path) { return QJsonValue::fromVariant(held.value(path)); });
     }
 
     void open()

@@ -1,6 +1,7 @@
 #include "support/ranges.h"
 
-#include <QFile>
+#include "support/tables.h"
+
 #include <QHash>
 #include <QMap>
 #include <QStringList>
@@ -21,17 +22,8 @@ struct Row {
 
 QHash<QString, QVector<Row>> read()
 {
-    QFile file(QStringLiteral(TEST_DATA_DIR "/ranges.tsv"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("No table of ranges");
-    }
     QHash<QString, QVector<Row>> rows;
-    const auto lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString &line : lines) {
-        const QStringList cells = line.split(QLatin1Char('\t'));
-        if (line.startsWith(QLatin1Char('#'))) {
-            continue;
-        }
+    for (const QStringList &cells : tables::rows("ranges.tsv")) {
         Row row{{cells.at(1).toInt(), cells.at(2).toInt()}, {}};
         for (const QString &condition : cells.at(3).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
             row.conditions.append({condition.section(QLatin1Char('='), 0, 0).split(QLatin1Char('|')),

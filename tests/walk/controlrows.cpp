@@ -8,33 +8,14 @@ namespace {
 const char *const sections = "InstallationCool InstallationHeat InstallationaAuto InstallationDWH";
 const char *const autoMode = "InstallationaAuto";
 
-// The refrigerants aren't here: they replace the document.
+// The refrigerants aren't here: they replace the document. The radios of the dip switch page have a table of
+// their own, tests/data/dipswitches.tsv.
 const std::vector<ControlRow> productRows{
     {"ProductSelection", "radioButtonAwhp radioButtonMiddleTemp", ""},
-    {"DipSwitchSettingStatus", "radioDhwNotUse",
-     "is_hotwater is_sun is_boosterht_onlyMode is_timer_hotwater is_power_hotwater"},
-    {"DipSwitchSettingStatus", "radioDhwUse",
-     "is_hotwater is_boosterht_onlyMode is_timer_hotwater is_power_hotwater"},
-    {"DipSwitchSettingStatus", "radioDhwOnly", "is_boosterht_onlyMode is_hotwater is_sun is_power_hotwater"},
-    {"DipSwitchSettingStatus", "radioSolarThermalKitNotuse radioSolarThermalKitUse", "is_sun"},
-    {"DipSwitchSettingStatus", "radioOperationHeating radioOperationBoth",
-     "is_autoOp is_heat is_cool isSeasonalAuto"},
-    {"DipSwitchSettingStatus", "radioElectricHeaterNotuse",
-     "is_heater1 is_heater2 @heater is_boosterht_onlyMode @seasonalWater"},
-    {"DipSwitchSettingStatus", "radioElectricHeater1",
-     "is_heater1 is_heater2 @heater is_timer_hotwater @seasonalWater"},
-    {"DipSwitchSettingStatus", "radioElectricHeaterBoth", "is_heater1 is_heater2 @heater @seasonalWater"},
-    {"DipSwitchSettingStatus", "radioAdditionalAirNotUse radioAdditionalAirUse",
-     "isIduAirTempSW /SettingInfo.installation.sensorDefine.airTempLocation"},
-    {"DipSwitchSettingStatus", "radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1",
-     "/SettingInfo.installation.meterInterface.interfaceAdd"},
     {"DipSwitchSettingStatus", "lineEditWHM1", "/SettingInfo.installation.meterInterface.interface1"},
     {"DipSwitchSettingStatus", "lineEditWHM2", "/SettingInfo.installation.meterInterface.interface2"},
     {"DipSwitchSettingStatus", "lineEditWHM3", "/SettingInfo.installation.meterInterface.interface3"},
     {"DipSwitchSettingStatus", "lineEditWHM4", "/SettingInfo.installation.meterInterface.interface4"},
-    {"DipSwitchSettingStatus", "radioOduMaster radioOduSlave", "/SettingInfo.installation.OduFunctionMS"},
-    {"DipSwitchSettingStatus", "radioSilentODU radioSilentRemote",
-     "/SettingInfo.installation.silentModePriority"},
     {"DipSwitchSettingStatus",
      "DipSwitch11 DipSwitch12 DipSwitch13 DipSwitch14 DipSwitch21 DipSwitch22 DipSwitch23 DipSwitch24 "
      "DipSwitch25 DipSwitch26 DipSwitch27 DipSwitch28 DipSwitch31 DipSwitch32 DipSwitch33 DipSwitch34",

@@ -1,5 +1,6 @@
 #include "walk/effects.h"
 
+#include "support/dipswitches.h"
 #include "support/schema.h"
 #include "walk/comborules.h"
 #include "walk/controlrows.h"
@@ -8,6 +9,7 @@
 
 #include <QHash>
 #include <QMap>
+#include <QRegularExpression>
 #include <QSet>
 
 namespace {
@@ -22,7 +24,7 @@ struct LoadRow {
 
 const LoadRow loadRows[] = {
     {"ProductSelection", "", ""},
-    {"DipSwitchSettingStatus", "IduFuncList.", "@heater is_timer_hotwater is_boosterht_onlyMode"},
+    {"DipSwitchSettingStatus", "IduFuncList.", "@heater"},
     {"SettingFunction", "SettingInfo.func.",
      "silentTimer.start.hour silentTimer.start.ampm silentTimer.start.min silentTimer.end.hour "
      "silentTimer.end.ampm silentTimer.end.min installDefrostMode"},
@@ -55,11 +57,29 @@ const LoadRow loadRows[] = {
      "disinfect_time.start disinfect_data.howLong disinfect_data.cutOffTime"},
 };
 
+QStringList words(const QString &text) { return text.split(QLatin1Char(' '), Qt::SkipEmptyParts); }
+
+/// The paths below the document's root, as rows say them.
+QString whole(const QVariantMap &values)
+{
+    QStringList paths = values.keys();
+    return paths.replaceInStrings(QRegularExpression(QStringLiteral("^")), QStringLiteral("/"))
+        .join(QLatin1Char(' '));
+}
+
+QString heaterFlags()
+{
+    QVariantMap values;
+    for (const QString &radio : dipswitches::radios(QStringLiteral("heater"))) {
+        values.insert(dipswitches::loaded(radio));
+    }
+    return whole(values);
+}
+
 const QMap<QString, QString> &groups()
 {
     static const QMap<QString, QString> paths{
-        {"@heater",
-         "is_installed_heater is_comm_disinfection isIndoorHotWaterKey is_hotwater_by_disinfection"},
+        {"@heater", heaterFlags()},
         {"@sensing", "sensorDefine.settemp_select sensorDefine.airAndWaterUse sensorDefine.remote_sensor"},
         {"@coolLimits", "settempLimit.coolWater.low_limit settempLimit.coolWater.high_limit"},
         {"@heatLimits", "settempLimit.heatWater.low_limit settempLimit.heatWater.high_limit"},
@@ -81,8 +101,6 @@ const QMap<QString, QString> &groups()
     };
     return paths;
 }
-
-QStringList words(const QString &text) { return text.split(QLatin1Char(' '), Qt::SkipEmptyParts); }
 
 const LoadRow &loadRow(const QString &page)
 {
@@ -114,9 +132,14 @@ QHash<QString, Written> joinedRows()
         add(name.section(QLatin1Char('/'), 0, 0), name.section(QLatin1Char('/'), 1), rule.path);
     }
     for (const RadioRule &rule : radioRules()) {
-        for (const QString &radio : words(QLatin1String(rule.radios))) {
+        for (const QString &radio : words(rule.radios)) {
             add(QLatin1String(rule.page), radio, rule.path);
         }
+    }
+    const QString dipSwitches = QStringLiteral("DipSwitchSettingStatus");
+    for (const QString &radio : dipswitches::radios()) {
+        all.insert(dipSwitches + QLatin1Char('/') + radio,
+                   {dipSwitches, whole(dipswitches::clicked(radio)), {}});
     }
     for (const ControlRow &row : controlRows()) {
         for (const QString &control : words(QLatin1String(row.controls))) {

@@ -1,5 +1,6 @@
 // The lists of the Function and the User tab. tst_controls.cpp holds them.
 
+#include "support/times.h"
 #include "walk/comborules.h"
 #include "walk/scene.h"
 
@@ -14,10 +15,10 @@ QString twoDigits(int value)
     return value < 0 ? QString() : QString::number(value).rightJustified(2, QLatin1Char('0'));
 }
 
-QStringList counted(int count)
+QStringList minutes()
 {
     QStringList items;
-    for (int value = 0; value < count; ++value) {
+    for (int value = 0; value < 60; ++value) {
         items.append(twoDigits(value));
     }
     return items;
@@ -25,17 +26,16 @@ QStringList counted(int count)
 
 ComboRule hour(const char *name, const QString &path)
 {
-    return {name, comborules::fixed(counted(24)), [path](const Scene &scene, const QComboBox &combo) {
-                // 12 "PM" shows as midnight.
-                const bool afternoon = scene.word(path + QStringLiteral(".ampm")) == QLatin1String("PM");
-                const int shown = scene.number(path + QStringLiteral(".hour")) + (afternoon ? 12 : 0);
-                return qMax(0, find(combo, twoDigits(afternoon && shown == 24 ? 0 : shown)));
+    return {name, comborules::fixed(times::hours()), [path](const Scene &scene, const QComboBox &combo) {
+                return find(combo,
+                            times::shown(scene.number(path + QStringLiteral(".hour")),
+                                         scene.word(path + QStringLiteral(".ampm"))));
             }};
 }
 
 ComboRule minute(const char *name, const QString &path)
 {
-    return {name, comborules::fixed(counted(60)), [path](const Scene &scene, const QComboBox &combo) {
+    return {name, comborules::fixed(minutes()), [path](const Scene &scene, const QComboBox &combo) {
                 return qMax(0, find(combo, twoDigits(scene.number(path))));
             }};
 }
@@ -52,11 +52,7 @@ ComboRule::Items days(const char *monthCombo)
 {
     return [monthCombo](const Scene &scene) -> std::optional<QStringList> {
         const int month = scene.control<QComboBox>(QLatin1String(monthCombo))->currentText().toInt();
-        if (month == 0) {
-            return std::nullopt;
-        }
-        const bool isShort = month == 4 || month == 6 || month == 9 || month == 11;
-        return led("UserDay", 1, month == 2 ? 28 : isShort ? 30 : 31)(scene);
+        return month == 0 ? std::nullopt : led("UserDay", 1, times::daysOf(month))(scene);
     };
 }
 

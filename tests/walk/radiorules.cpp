@@ -3,6 +3,7 @@
 
 #include "walk/radiorules.h"
 
+#include "support/dipswitches.h"
 #include "walk/scene.h"
 
 #include <QPair>
@@ -21,14 +22,12 @@ QString installation(const char *key)
 
 QString function(const char *key) { return QStringLiteral("SettingInfo.func.") + QLatin1String(key); }
 
-QString indoor(const char *flag) { return QStringLiteral("IduFuncList.") + QLatin1String(flag); }
-
 /// The words in the order of the radios.
 RadioRule words(const char *page, const char *radios, const QString &path, const QStringList &words,
                 Else otherwise)
 {
     const QStringList names = QString::fromLatin1(radios).split(QLatin1Char(' '));
-    return {page, radios,
+    return {page, QLatin1String(radios),
             [=](const Scene &scene) -> std::optional<QString> {
                 const int index = words.indexOf(scene.word(path));
                 if (index >= 0) {
@@ -63,52 +62,6 @@ RadioRule when(const std::function<bool(const Scene &)> &condition, const RadioR
             rule.path};
 }
 
-QString pick(bool first, const char *one, const char *other) { return QLatin1String(first ? one : other); }
-
-std::optional<QString> tank(const Scene &scene)
-{
-    const bool only = scene.word(QStringLiteral("product")) == QLatin1String("AQUABOX")
-        && scene.isSet(indoor("is_boosterht_onlyMode"));
-    return only ? QStringLiteral("radioDhwOnly")
-                : pick(scene.isSet(indoor("is_hotwater")), "radioDhwUse", "radioDhwNotUse");
-}
-
-std::optional<QString> solar(const Scene &scene)
-{
-    if (!scene.control("DipSwitchSettingStatus/radioSolarThermalKitUse")->isEnabled()) {
-        return QString();
-    }
-    return pick(scene.isSet(indoor("is_sun")), "radioSolarThermalKitUse", "radioSolarThermalKitNotuse");
-}
-
-std::optional<QString> operation(const Scene &scene)
-{
-    const bool heating = scene.isSet(indoor("is_autoOp")) && scene.isSet(indoor("is_heat"))
-        && scene.word(indoor("is_cool")) == QLatin1String("CLR");
-    return pick(heating, "radioOperationHeating", "radioOperationBoth");
-}
-
-std::optional<QString> heater(const Scene &scene)
-{
-    return scene.isSet(indoor("is_heater2"))
-        ? QStringLiteral("radioElectricHeaterBoth")
-        : pick(scene.isSet(indoor("is_heater1")), "radioElectricHeater1", "radioElectricHeaterNotuse");
-}
-
-std::optional<QString> meter(const Scene &scene)
-{
-    switch (scene.number(installation("meterInterface.interfaceAdd"))) {
-    case 0:
-        return QStringLiteral("radioOrvometerInterfaceNotuse");
-    case 176:
-        return QStringLiteral("radioOrvoAddressB0");
-    case 177:
-        return QStringLiteral("radioOrvoAddressB1");
-    default:
-        return std::nullopt;
-    }
-}
-
 /// A stored choice of the second leaves the radios as they are.
 std::optional<QString> oilRecovery(const Scene &scene)
 {
@@ -125,20 +78,26 @@ bool locksAreLoaded(const Scene &scene)
     return scene.word(function("lock.buttonLock")) == QLatin1String("CLR");
 }
 
+/// By tests/data/dipswitches.tsv. A kit that isn't offered has no choice; words that fit none leave the
+/// radios.
 std::vector<RadioRule> ofDipSwitches()
 {
-    const char *page = "DipSwitchSettingStatus";
-    return {
-        {page, "radioDhwNotUse radioDhwUse radioDhwOnly", tank},
-        {page, "radioSolarThermalKitNotuse radioSolarThermalKitUse", solar},
-        {page, "radioOperationHeating radioOperationBoth", operation},
-        flags(page, "radioFlowAlways radioFlowOnlyPump", indoor("is_flow_switch"), Else::First),
-        {page, "radioElectricHeaterNotuse radioElectricHeater1 radioElectricHeaterBoth", heater},
-        flags(page, "radioThermostatNone radioThermostatUse", indoor("is_ThermostatModeChange"), Else::First),
-        flags(page, "radioAdditionalAirNotUse radioAdditionalAirUse", indoor("isIduAirTempSW"), Else::First),
-        flags(page, "radioAntifreezeNotuse radioAntifreezeUse", indoor("isAntiFreeze"), Else::First),
-        {page, "radioOrvometerInterfaceNotuse radioOrvoAddressB0 radioOrvoAddressB1", meter},
-    };
+    std::vector<RadioRule> rules;
+    for (const QString &choice : dipswitches::choices()) {
+        const QStringList radios = dipswitches::radios(choice);
+        rules.push_back(
+            {"DipSwitchSettingStatus", radios.join(QLatin1Char(' ')),
+             [choice](const Scene &scene) -> std::optional<QString> {
+                 if (choice == QLatin1String("solar")
+                     && !scene.control("DipSwitchSettingStatus/radioSolarThermalKitUse")->isEnabled()) {
+                     return QString();
+                 }
+                 const QString radio = dipswitches::checked(
+                     choice, [&scene](const QString &path) { return scene.value(path); });
+                 return radio.isEmpty() ? std::nullopt : std::optional<QString>(radio);
+             }});
+    }
+    return rules;
 }
 
 std::vector<RadioRule> ofOperation()
@@ -203,7 +162,7 @@ std::vector<RadioRule> ofModule()
              flags(page, "radioHsmodeNotuse radioHsmodeUse", installation("hsSetting"), Else::None)),
         flags(page, "radioCombinationNotuse radioCombinationUse", installation("combination200.combiValue"),
               Else::First),
-        {page, "radioOpt1 radioOpt2", oilRecovery},
+        {page, QStringLiteral("radioOpt1 radioOpt2"), oilRecovery},
         flags(page, "radioRefrigerantNotuse radioRefrigerantUse", installation("leakRefrigerant"),
               Else::None),
     };

@@ -12,7 +12,7 @@ class Scene;
 /// doesn't tell.
 struct RadioRule {
     const char *page;
-    const char *radios; ///< separated by blanks
+    QString radios; ///< separated by blanks
     std::function<std::optional<QString>(const Scene &)> checked;
     QString path = {}; ///< what they write, too, and nothing else; none where controlrows.cpp tells that
 };

@@ -10,7 +10,7 @@ namespace {
 /// "Page/radio" of each radio of the rule.
 QStringList radiosOf(const RadioRule &rule)
 {
-    QStringList names = QString::fromLatin1(rule.radios).split(QLatin1Char(' '));
+    QStringList names = rule.radios.split(QLatin1Char(' '));
     for (QString &name : names) {
         name.prepend(QLatin1String(rule.page) + QLatin1Char('/'));
     }

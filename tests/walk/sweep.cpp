@@ -1,5 +1,6 @@
 #include "walk/sweep.h"
 
+#include "support/dipswitches.h"
 #include "support/schema.h"
 #include "walk/effects.h"
 #include "walk/exceptions.h"
@@ -217,6 +218,14 @@ void Sweep::act(const QWidget *control, const std::function<void()> &action)
         complain(name, QStringLiteral("isn't checked"));
     }
     const auto isWritten = [&changes](const QString &path) { return changes.contains(path); };
+    if (dipswitches::radios().contains(control->objectName())) {
+        const QVariantMap left = dipswitches::clicked(control->objectName());
+        for (auto value = left.begin(); value != left.end(); ++value) {
+            if (scene.value(value.key()).toVariant() != value.value()) {
+                complain(name, QStringLiteral("doesn't leave its value at ") + value.key());
+            }
+        }
+    }
     // A slave stays the master that it is written as.
     const bool mayStay = name.startsWith(QLatin1String("DipSwitchSettingStatus/radioOdu"));
     const bool whole = mayStay
