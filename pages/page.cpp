@@ -252,11 +252,13 @@ void Page::offer(QComboBox *list, Range range)
     mainDialog->setRangeValueInComboBox(list, range.low, range.high, MainDialog::Temperature, 1);
 }
 
+void Page::selectText(QComboBox *list, const QString &text) { list->setCurrentIndex(list->findText(text)); }
+
 void Page::selectTemperature(QComboBox *list, int shown)
 {
     const QString unit = mainDialog->isFahrenheit() ? QStringLiteral("°F") : QStringLiteral("°C");
     const QSignalBlocker quiet(list);
-    list->setCurrentIndex(list->findText(QString::number(shown) + unit));
+    selectText(list, QString::number(shown) + unit);
 }
 
 int Page::celsius(int shown) { return mainDialog->celsius(shown); }

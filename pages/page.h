@@ -98,6 +98,8 @@ protected:
     static void refill(QComboBox *list, const QStringList &items);
     /// Offers the temperatures of a range, in the unit in force.
     static void offer(QComboBox *list, Range range);
+    /// Selects the item of a text; none where the list doesn't hold it.
+    static void selectText(QComboBox *list, const QString &text);
     /// Selects the item of a number in the unit in force, quietly; none where the list doesn't hold it.
     static void selectTemperature(QComboBox *list, int shown);
     /// °C of a number in the unit in force.

@@ -86,6 +86,7 @@ private:
     void choose3rdPartyBoiler(const QRadioButton *radio);
     void loadHeaters();
     void loadWaterTankHeater();
+    void loadTankPriority();
     void loadPumps();
     void load3rdPartyBoiler();
     void setControlledByTemperature(bool controlled);

@@ -13,10 +13,6 @@
 namespace {
 
 constexpr const char *pumpValue = "SettingInfo.installation.pumpRPM.pumpRPMValue";
-constexpr const char *dryContact = "SettingInfo.installation.dryContactInstallation";
-constexpr const char *digitalInput = "SettingInfo.installation.digitalInput";
-constexpr const char *centralAddress = "SettingInfo.installation.cc_address";
-constexpr const char *modbusAddress = "SettingInfo.installation.modbusAddress";
 constexpr const char *screedStep = "SettingInfo.installation.cement_cure.cmt_step";
 
 // What item 0 stands for: hours, minutes and days.
@@ -28,33 +24,6 @@ constexpr int firstHolding = 1;
 constexpr int waterItem = 0;
 constexpr int airItem = 1;
 constexpr int airWaterItem = 2;
-
-/// The document's word for "no Modbus address".
-constexpr int noAddress = -9999;
-
-/// Two lower case hexadecimal digits.
-QString hexadecimal(int value) { return QStringLiteral("%1").arg(value, 2, 16, QLatin1Char('0')); }
-
-QStringList modbusAddresses()
-{
-    QStringList items;
-    for (int address = 1; address <= 247; ++address) {
-        items.append(hexadecimal(address));
-    }
-    return items;
-}
-
-QStringList centralAddresses()
-{
-    QStringList items;
-    for (int address = 0; address <= 255; ++address) {
-        items.append(hexadecimal(address).toUpper());
-    }
-    return items;
-}
-
-/// A value that isn't listed leaves the combo box blank.
-void selectText(QComboBox *combo, const QString &text) { combo->setCurrentIndex(combo->findText(text)); }
 
 /// What a control method stores, by the key of its text.
 struct Sensing {
@@ -176,22 +145,6 @@ QStringList InstallationSystemSetting::airTempTexts()
                                       : languageTexts({"RemoteController"});
 }
 
-QStringList InstallationSystemSetting::digitalInputTexts()
-{
-    std::vector<const char *> keys{"NotUse", "SimpleOperation", "SimpleDryContact", "SingleEmergencyStop"};
-    // Oddity 34: this flag counts in capitals only.
-    if (text("IduFuncList.isEmergencyAllStop") == QLatin1String("SET")) {
-        keys.push_back("MultiEmergencyStop");
-    }
-    return languageTexts(keys);
-}
-
-// In the order of the list.
-QStringList InstallationSystemSetting::dryContactWords()
-{
-    return {QStringLiteral("IDU"), QStringLiteral("NOT_INSTALL"), QStringLiteral("INSTALL")};
-}
-
 void InstallationSystemSetting::saveJsonData(const QString &path, const QJsonValue &value)
 {
     writeWhileExpanded(path, value);
@@ -257,37 +210,6 @@ void InstallationSystemSetting::loadSensing()
     }
 }
 
-void InstallationSystemSetting::loadCentralAddress()
-{
-    const bool unlocked = word("ExtSysInfo.hard_lock") == QLatin1String("CLR");
-    const QString address = text(centralAddress);
-    ui->groupBoxCCAddress->setEnabled(unlocked);
-    if (!unlocked) {
-        return;
-    }
-    if (address.isEmpty()) {
-        ui->comboCentral->setCurrentIndex(0);
-    } else {
-        selectText(ui->comboCentral, address);
-    }
-}
-
-// Oddity 8: shown in hexadecimal, though the slot stores the text read as decimal.
-void InstallationSystemSetting::loadModbusAddress()
-{
-    const int address = number(modbusAddress);
-    const bool available = isSet("IduFuncList.isModbusAddress");
-    ui->groupBoxModbusAddress->setVisible(available);
-    if (!available) {
-        return;
-    }
-    if (address == noAddress) {
-        ui->comboModbus->setCurrentIndex(0);
-    } else {
-        selectText(ui->comboModbus, hexadecimal(address));
-    }
-}
-
 void InstallationSystemSetting::loadScreedDrying()
 {
     selectText(ui->comboBoxScreedStep, QString::number(number(screedStep)));
@@ -323,20 +245,6 @@ void InstallationSystemSetting::loadEnforcedCirculation()
     enableEnforcedCirculation();
 }
 
-void InstallationSystemSetting::loadDigitalInput()
-{
-    ui->groupBoxDryContact->setVisible(isSet("IduFuncList.is_DryContactInstallationSetting"));
-    const QString installed = word(dryContact);
-    const QString input = text(digitalInput);
-    const int item = installed.isEmpty() ? 0 : dryContactWords().indexOf(installed);
-    if (item >= 0) {
-        ui->comboDryContactInstallation->setCurrentIndex(item);
-    }
-    // An empty text reads as 0.
-    ui->comboCnEXT->setCurrentIndex(QString(input).remove(QStringLiteral("STEP")).toInt());
-    ui->groupBoxCnExt->setVisible(isSet("IduFuncList.isDiExpand"));
-}
-
 void InstallationSystemSetting::refreshAwhpWidget() { emit refreshAwhpCategory(); }
 
 void InstallationSystemSetting::refreshAquaboxWidget() {}
@@ -362,10 +270,6 @@ void InstallationSystemSetting::setTempValue(QComboBox *comboBox, int value)
 {
     selectTemperature(comboBox, value);
 }
-
-void InstallationSystemSetting::on_radioDryManual_clicked() { change(ui->radioDryManual); }
-
-void InstallationSystemSetting::on_radioDryAuto_clicked() { change(ui->radioDryAuto); }
 
 void InstallationSystemSetting::chooseEnforced(const QRadioButton *radio)
 {
@@ -409,31 +313,6 @@ void InstallationSystemSetting::on_comboWaterRpmDuty_currentTextChanged(const QS
 void InstallationSystemSetting::on_comboWaterpumpRPM_currentTextChanged(const QString &text)
 {
     change(pumpValue, text.toInt() / 10);
-}
-
-void InstallationSystemSetting::on_comboDryContactInstallation_currentTextChanged(const QString &)
-{
-    const QString chosen = dryContactWords().value(ui->comboDryContactInstallation->currentIndex());
-    if (!chosen.isEmpty()) {
-        save(dryContact, chosen);
-    }
-    validationCheck();
-}
-
-void InstallationSystemSetting::on_comboCnEXT_currentIndexChanged(int index)
-{
-    change(digitalInput, QStringLiteral("STEP") + QString::number(index));
-}
-
-void InstallationSystemSetting::on_comboCentral_currentTextChanged(const QString &text)
-{
-    change(centralAddress, text.toUpper());
-}
-
-// Oddity 8: the text is read as decimal though it shows hexadecimal digits: "10" stores 10 and "0a" 0.
-void InstallationSystemSetting::on_comboModbus_currentTextChanged(const QString &text)
-{
-    change(modbusAddress, text.toInt());
 }
 
 void InstallationSystemSetting::on_comboBoxScreedStep_currentTextChanged(const QString &arg1)

@@ -86,6 +86,8 @@ private:
     static QStringList sensingTexts();
     static QStringList airTempTexts();
     static QStringList digitalInputTexts();
+    static QStringList centralAddresses();
+    static QStringList modbusAddresses();
     /// The document's words for the dry contact installation.
     static QStringList dryContactWords();
 
