@@ -67,7 +67,9 @@ void Page::writeUnlessEmpty(const QString &path, const QJsonValue &value)
 
 const Choice &Page::choiceOf(const QRadioButton *radio) const
 {
-    return rowOf(choices, radio, [radio](const Choice &each) { return optionOf(each, radio) != nullptr; });
+    return rowOf(choices, radio, [radio](const Choice &each) {
+        return each.path != nullptr && optionOf(each, radio) != nullptr;
+    });
 }
 
 const ValueRow &Page::listOf(const QComboBox *list) const

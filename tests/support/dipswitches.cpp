@@ -19,7 +19,7 @@ const QVector<QStringList> &table()
 
 const QStringList &rowOf(const QString &name)
 {
-    const auto row = std::find_if(table().begin(), table().end(), [&name](const QStringList &cells) {
+    const auto *row = std::find_if(table().begin(), table().end(), [&name](const QStringList &cells) {
         return cells.at(Radio) == name || cells.at(Choice) == name;
     });
     if (row == table().end()) {
