@@ -116,6 +116,15 @@ class Tool:
         self.tree.find(role, name).press()
         return self.read(*then) if then else self.tree
 
+    def end(self):
+        """Closes the window, as a person would."""
+        def closed():
+            if self.process.poll() is None:
+                [node for node in Node(self.source) if (node.role, node.name) == ("push button", "Close")][-1].press()
+            return self.process.poll() is not None
+        self.wait("the end", closed)
+        expect(self.process.returncode == 0, f"end: the tool ends with {self.process.returncode}")
+
 
 def spoken(text):
     """In one line; a word that a hyphen breaks is one word."""
@@ -184,6 +193,31 @@ def marks(tree):
     return [node.description for node in tree if node.role == "image" and node.description]
 
 
+def do(node, action):
+    """An action of a part that offers more than one."""
+    actions = node.source.queryAction()
+    names = [actions.getName(index) for index in range(actions.nActions)]
+    expect(action in names, f"{node} offers {names}, not {action}")
+    actions.doAction(names.index(action))
+
+
+def choose_next(tool, stop, box, item):
+    """Opens a list as a screen reader does, and takes the item below the one that is shown, by keys."""
+    has(stop, tool.tree, "combo box", box, ["collapsed"])
+    do(tool.tree.find("combo box", box), "ShowMenu")
+    tree = tool.read("list item", item)
+    has(stop, tree, "combo box", box, ["expanded"])
+    own = tree.find("combo box", box)
+    expect(own.find("list item", item), f"{stop}: the list of {box} isn't its child")
+    text = own.source.queryText()
+    expect((text.caretOffset, text.getNSelections(), text.getText(0, 2), text.getAttributes(0)[1:]) ==
+           (0, 0, own.value[:2], [0, len(own.value)]), f"{stop}: {box} says {own.value!r} as another text")
+    subprocess.run(["xdotool", "key", "Down", "Return"], check=True)
+    tree = tool.read("combo box", box, "collapsed")
+    has(stop, tree, "combo box", box, value=item)
+    return tree
+
+
 def walk(tool, texts):
     """Every page of a new document, by its names in the language in force."""
     text = texts.__getitem__
@@ -226,6 +260,7 @@ def walk(tool, texts):
     has(stop + "user", tree, "page tab", text("Function"), without=["selected"])
     has(stop + "user", tree, "combo box", f"{text('Date')} {text('Month')}", ["collapsed"], value=text("Month"))
     has(stop + "user", tree, "combo box", text("BRIGHTNESS"), value="10%")
+    tree = choose_next(tool, stop + "user", text("BRIGHTNESS"), "20%")
     has(stop + "user", tree, "push button", text("Setting"),
         description=f"Current step, {open_}, {text('Date')}, {text('Installation')}")
 
@@ -307,6 +342,7 @@ def main():
             hold("changed", tool.read("push button", german["ProductSelection"]), german)
             walk(tool, german)
             read_editor(tool, german)
+            tool.end()
         except Lost as end:
             findings.append(str(end))
         finally:
