@@ -160,6 +160,7 @@ void MainDialog::initSettingFunctionUi()
 void MainDialog::initSettingInstallationUi()
 {
     QWidget *content = contentOf(ui->installationScrollArea, 16);
+    content->layout()->setSpacing(12); // as between the cards of a page
     auto *system = addPage<InstallationSystemSetting>(content);
     auto *cool = addPage<InstallationCool>(content);
     auto *heat = addPage<InstallationHeat>(content);

@@ -1,7 +1,7 @@
+#include "support/look.h"
 #include "support/measure.h"
 #include "support/modal.h"
 #include "support/testfiles.h"
-#include "support/tour.h"
 
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
@@ -18,8 +18,6 @@
 
 namespace {
 
-QRect placeOf(const QWidget *widget) { return {widget->mapTo(widget->window(), QPoint()), widget->size()}; }
-
 /// All cards that the shown page has.
 QRect cards(const Window &window)
 {
@@ -27,7 +25,7 @@ QRect cards(const Window &window)
     const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QGroupBox *>();
     for (const QGroupBox *box : boxes) {
         if (box->isVisible() && box->property("role").isValid()) {
-            all |= placeOf(box);
+            all |= look::placeOf(box);
         }
     }
     return all;
@@ -53,29 +51,6 @@ QStringList tooNear(const QWidget *page, int &measured)
     return near;
 }
 
-void resize(Window &window, const QSize &size)
-{
-    window.dialog.resize(size);
-    QTRY_COMPARE(window.dialog.size(), size);
-    Tour::settle();
-}
-
-QStringList languages()
-{
-    QStringList names = QDir(LANGUAGES_DIR).entryList({"*.json"}, QDir::Files);
-    names.replaceInStrings(QStringLiteral(".json"), QString());
-    return names;
-}
-
-void speak(Window &window, const QString &language)
-{
-    QFile file(QDir(LANGUAGES_DIR).filePath(language + ".json"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    window.dialog.setLanguageDocument(QJsonDocument::fromJson(file.readAll()));
-    window.dialog.changeLanguage();
-    Tour::settle();
-}
-
 QScrollBar *barOf(const Window &window, const char *area)
 {
     return Window::find<QScrollArea>(&window.dialog, area)->verticalScrollBar();
@@ -92,20 +67,20 @@ private slots:
     void tabBarEndsWithTheCards_data() { sizes(); }
     void tabBarEndsWithTheCards();
     void tabsAreJoined();
-    void marksStandBesideTheTabsTexts_data() { everyLanguage(); }
+    void marksStandBesideTheTabsTexts_data() { look::everyLanguage(); }
     void marksStandBesideTheTabsTexts();
     void pagesAreOneColumn_data() { sizes(); }
     void pagesAreOneColumn();
-    void captionsStandInOneLine_data() { everyLanguage(); }
+    void captionsStandInOneLine_data() { look::everyLanguage(); }
     void captionsStandInOneLine();
     void dipSwitchPageShowsAll_data();
     void dipSwitchPageShowsAll();
     void pairsStandSideBySide();
-    void choicesStandApart_data() { everyLanguage(); }
+    void choicesStandApart_data() { look::everyLanguage(); }
     void choicesStandApart();
-    void dipSwitchPageHasNoHistory_data() { everyLanguage(); }
+    void dipSwitchPageHasNoHistory_data() { look::everyLanguage(); }
     void dipSwitchPageHasNoHistory();
-    void guideStandsBesideTheOptions_data() { everyLanguage(); }
+    void guideStandsBesideTheOptions_data() { look::everyLanguage(); }
     void guideStandsBesideTheOptions();
     void emptySectionHasNoStrip();
     void startShowsNoRing();
@@ -120,7 +95,6 @@ private slots:
 
 private:
     static void sizes();
-    static void everyLanguage();
 };
 
 void TestLook::sizes()
@@ -131,28 +105,18 @@ void TestLook::sizes()
     }
 }
 
-void TestLook::everyLanguage()
-{
-    QTest::addColumn<QString>("language");
-    const QStringList all = languages();
-    QCOMPARE(all.size(), 16);
-    for (const QString &language : all) {
-        QTest::newRow(qPrintable(language)) << language;
-    }
-}
-
 void TestLook::tabBarEndsWithTheCards()
 {
     QFETCH(QSize, size);
     Window window;
     window.use(documents::standard("R32"));
     window.dialog.setSideBarVisible(true);
-    resize(window, size);
+    look::resize(window, size);
     for (int tab = MainDialog::FunctionTab; tab <= MainDialog::InstallationTab; ++tab) {
         window.showPage(MainDialog::SettingPage, tab);
         Tour::settle();
-        const QRect last = placeOf(Window::find(&window.dialog, "installationTabButton"));
-        const QRect first = placeOf(Window::find(&window.dialog, "functionTabButton"));
+        const QRect last = look::placeOf(Window::find(&window.dialog, "installationTabButton"));
+        const QRect first = look::placeOf(Window::find(&window.dialog, "functionTabButton"));
         QCOMPARE(last.right(), cards(window).right());
         QCOMPARE(first.left(), cards(window).left());
     }
@@ -164,13 +128,13 @@ void TestLook::tabsAreJoined()
     window.use(documents::standard("R32"));
     window.dialog.setSideBarVisible(true);
     window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
-    int end = placeOf(Window::find(&window.dialog, "functionTabButton")).left();
+    int end = look::placeOf(Window::find(&window.dialog, "functionTabButton")).left();
     for (const char *tab : {"function", "user", "service", "installation"}) {
         const auto name = [tab](const char *kind) { return QByteArray(tab) + kind; };
-        const QRect place = placeOf(Window::find(&window.dialog, name("TabButton")));
+        const QRect place = look::placeOf(Window::find(&window.dialog, name("TabButton")));
         QCOMPARE(place.left(), end);
         end = place.left() + place.width();
-        QVERIFY(place.contains(placeOf(Window::find(&window.dialog, name("ValidationIcon")))));
+        QVERIFY(place.contains(look::placeOf(Window::find(&window.dialog, name("ValidationIcon")))));
     }
 }
 
@@ -180,8 +144,8 @@ void TestLook::marksStandBesideTheTabsTexts()
     Window window;
     window.use(documents::standard("R32"));
     window.dialog.setSideBarVisible(true);
-    speak(window, language);
-    resize(window, QSize(974, 612));
+    look::speak(window, language);
+    look::resize(window, QSize(974, 612));
     window.showPage(MainDialog::SettingPage, MainDialog::UserTab);
     Tour::settle();
     for (const char *tab : {"function", "user", "service", "installation"}) {
@@ -193,7 +157,7 @@ void TestLook::marksStandBesideTheTabsTexts()
         font.setPointSize(15);
         const QString key = QString(tab).replace(0, 1, QString(QString(tab).at(0).toUpper()));
         const int half = QFontMetrics(font).horizontalAdvance(window.dialog.languageTextOrKey(key)) / 2;
-        QVERIFY2(placeOf(button).center().x() + half < placeOf(mark).left(), tab);
+        QVERIFY2(look::placeOf(button).center().x() + half < look::placeOf(mark).left(), tab);
     }
 }
 
@@ -201,7 +165,7 @@ void TestLook::pagesAreOneColumn()
 {
     QFETCH(QSize, size);
     Window window;
-    resize(window, size);
+    look::resize(window, size);
     Tour tour(window, QStringLiteral("R32"));
     QRect column;
     int measured = 0;
@@ -230,7 +194,7 @@ void TestLook::captionsStandInOneLine()
 {
     QFETCH(QString, language);
     Window window;
-    speak(window, language);
+    look::speak(window, language);
     QStringList broken;
     int measured = 0;
     Tour tour(window, QStringLiteral("R32"));
@@ -291,8 +255,8 @@ void TestLook::pairsStandSideBySide()
              {"radioFlowAlways", "radioFlowOnlyPump"},
              {"radioThermostatNone", "radioThermostatUse"},
              {"radioOrvoAddressB0", "radioOrvoAddressB1"}}) {
-        const QRect first = placeOf(Window::find(&window.dialog, left));
-        const QRect second = placeOf(Window::find(&window.dialog, right));
+        const QRect first = look::placeOf(Window::find(&window.dialog, left));
+        const QRect second = look::placeOf(Window::find(&window.dialog, right));
         QCOMPARE(first.top(), second.top());
         column = column == 0 ? second.left() : column;
         QVERIFY2(second.left() == column, right);
@@ -305,10 +269,10 @@ void TestLook::choicesStandApart()
     QFETCH(QString, language);
     Window window;
     window.dialog.setSideBarVisible(true);
-    speak(window, language);
+    look::speak(window, language);
     int measured = 0;
     for (const QSize &size : {QSize(974, 612), QSize(1440, 800)}) {
-        resize(window, size);
+        look::resize(window, size);
         for (const QJsonDocument &document : {documents::standard("R32"), documents::everything("R410")}) {
             window.use(document);
             window.showPage(MainDialog::SelectPage);
@@ -341,8 +305,8 @@ void TestLook::dipSwitchPageHasNoHistory()
     QFETCH(QString, language);
     Window window;
     window.dialog.setSideBarVisible(true);
-    speak(window, language);
-    resize(window, QSize(974, 612));
+    look::speak(window, language);
+    look::resize(window, QSize(974, 612));
     const auto places = [&window](const char *refrigerant) {
         window.use(documents::standard(refrigerant));
         window.showPage(MainDialog::SelectPage);
@@ -351,7 +315,7 @@ void TestLook::dipSwitchPageHasNoHistory()
         QList<QPoint> all;
         for (const char *name :
              {"radioDhwNotUse", "radioDhwUse", "radioOperationBoth", "radioThermostatUse"}) {
-            all.append(placeOf(Window::find(&window.dialog, name)).topLeft());
+            all.append(look::placeOf(Window::find(&window.dialog, name)).topLeft());
         }
         return all;
     };
@@ -368,12 +332,13 @@ void TestLook::guideStandsBesideTheOptions()
     Window window;
     window.use(documents::everything("R32"));
     window.dialog.setSideBarVisible(true);
-    speak(window, language);
-    resize(window, QSize(974, 612));
+    look::speak(window, language);
+    look::resize(window, QSize(974, 612));
     window.showPage(MainDialog::DipSwitchPage);
     Tour::settle();
     const auto *guide = Window::find(&window.dialog, "guide");
-    QVERIFY(placeOf(guide).left() > placeOf(Window::find(&window.dialog, "groupBoxOptions")).right());
+    QVERIFY(look::placeOf(guide).left()
+            > look::placeOf(Window::find(&window.dialog, "groupBoxOptions")).right());
     QScrollBar *bar = barOf(window, "optionsScrollArea");
     QVERIFY(bar->maximum() > 0);
     bar->setValue(bar->maximum());
@@ -413,7 +378,7 @@ void TestLook::startShowsNoRing()
     QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
     const auto *bar = Window::find(&window.dialog, "toolbarGroupBox");
     const auto beside = [&window, bar](const char *name, int away) {
-        const QRect button = placeOf(Window::find(bar, name));
+        const QRect button = look::placeOf(Window::find(bar, name));
         const QPoint place(button.left() - away, button.center().y());
         return window.dialog.grab(QRect(place, QSize(1, 1))).toImage().pixelColor(0, 0);
     };
@@ -544,8 +509,8 @@ void TestLook::popupLinesUpWithItsBox()
     const auto *menu = window.dialog.findChild<LanguageMenu *>();
     QVERIFY(menu->isVisible());
     QCOMPARE(menu->width(), 176);
-    QCOMPARE(placeOf(menu).left(), placeOf(box).left());
-    QCOMPARE(placeOf(menu).right(), placeOf(box).right());
+    QCOMPARE(look::placeOf(menu).left(), look::placeOf(box).left());
+    QCOMPARE(look::placeOf(menu).right(), look::placeOf(box).right());
 }
 
 void TestLook::popupMarksTheLanguageInForce()

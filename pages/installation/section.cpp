@@ -78,8 +78,9 @@ void Section::scrollIntoView()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const auto *area = static_cast<QScrollArea *>(above);
     constexpr int gap = 8;
-    const int top = mapTo(area->widget(), QPoint()).y() - gap;
-    const int bottom = top + height() + 2 * gap;
+    constexpr int firstRows = 160;
+    const int top = mapTo(area->widget(), QPoint()).y();
+    const int bottom = top + qMin(height(), headerButton->parentWidget()->height() + firstRows) + gap;
     QScrollBar *bar = area->verticalScrollBar();
     bar->setValue(qMin(top, qMax(bar->value(), bottom - area->viewport()->height())));
 }

@@ -26,7 +26,7 @@ protected:
 private:
     /// Hides the body and gives the button its arrow.
     void collapse(QPushButton *hideButton, QFrame *frame);
-    /// Scrolls as little as shows the section, or its upper part when it is higher than the page.
+    /// Scrolls as little as shows the section's first rows, so that its header stays near the mouse.
     void scrollIntoView();
     /// Lets the header of the button end as the body below it goes on, or as a card of its own.
     static void styleHeader(const QPushButton *hideButton, bool open);

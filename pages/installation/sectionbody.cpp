@@ -1,5 +1,6 @@
 #include "pages/installation/sectionbody.h"
 
+#include "pages/installation/choicecolumn.h"
 #include "widgets/palette.h"
 
 #include <QEvent>
@@ -38,6 +39,8 @@ SectionBody::SectionBody(QWidget *parent)
 {
 }
 
+SectionBody::~SectionBody() = default;
+
 bool SectionBody::hasRows() const { return !groupsOf(this).isEmpty(); }
 
 QSize SectionBody::sizeHint() const { return hasRows() ? QFrame::sizeHint() : QSize(0, 0); }
@@ -48,7 +51,14 @@ bool SectionBody::hasHeightForWidth() const { return hasRows() && QFrame::hasHei
 
 bool SectionBody::event(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest) {
+    const bool isNew = event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize
+        || event->type() == QEvent::Show;
+    // A closed section isn't measured: the start would pay for it.
+    if (isNew && isVisible()) {
+        if (choices == nullptr) {
+            choices = std::make_unique<ChoiceColumn>(this);
+        }
+        choices->place();
         update(); // the lines stand where no row is
     }
     return QFrame::event(event);

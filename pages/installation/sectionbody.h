@@ -2,13 +2,19 @@
 
 #include <QFrame>
 
-/// The body of a section: hairlines stand between its groups of rows, and without any it takes no room.
+#include <memory>
+
+class ChoiceColumn;
+
+/// The body of a section: hairlines stand between its groups of rows, second choices in one column, and
+/// without any row it takes no room.
 class SectionBody : public QFrame
 {
     Q_OBJECT
 
 public:
     explicit SectionBody(QWidget *parent = nullptr);
+    ~SectionBody() override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -20,4 +26,6 @@ protected:
 
 private:
     bool hasRows() const;
+
+    std::unique_ptr<ChoiceColumn> choices;
 };
