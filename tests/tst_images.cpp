@@ -110,6 +110,8 @@ private slots:
     void statesDiffer();
     void statesAreToldApartWithoutColour_data();
     void statesAreToldApartWithoutColour();
+    void boardShowsNoPositions_data();
+    void boardShowsNoPositions();
     void hasItsSize_data();
     void hasItsSize();
     void backgroundsFillTheirWidgets();
@@ -333,6 +335,28 @@ void TestImages::statesAreToldApartWithoutColour()
         }
     }
     QVERIFY(differing * 50 >= one.width() * one.height());
+}
+
+void TestImages::boardShowsNoPositions_data()
+{
+    QTest::addColumn<QString>("board");
+    QTest::addColumn<QRect>("block");
+    // Between the mark ON and the numbers.
+    QTest::newRow("R32") << "img_pcb_R32.png" << QRect(22, 153, 94, 6);
+    QTest::newRow("R410") << "img_pcb_R410.png" << QRect(41, 64, 94, 6);
+}
+
+// Levers on it would be read as a second set of positions beside the drawn banks.
+void TestImages::boardShowsNoPositions()
+{
+    QFETCH(QString, board);
+    QFETCH(QRect, block);
+    const QImage picture = pictures.value(board).copy(block).convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < block.height(); ++y) {
+        for (int x = 0; x < block.width(); ++x) {
+            QCOMPARE(picture.pixelColor(x, y), QColor(Qt::white));
+        }
+    }
 }
 
 void TestImages::hasItsSize_data()

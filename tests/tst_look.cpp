@@ -5,6 +5,7 @@
 
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
+#include "pages/product/dipswitchsettingstatus.h"
 
 #include <QAbstractItemView>
 #include <QDir>
@@ -82,6 +83,8 @@ private slots:
     void dipSwitchPageHasNoHistory();
     void guideStandsBesideTheOptions_data() { look::everyLanguage(); }
     void guideStandsBesideTheOptions();
+    void guideHasOneEdge_data();
+    void guideHasOneEdge();
     void emptySectionHasNoStrip();
     void startShowsNoRing();
     void stepCaptionsAreLargeEnough();
@@ -346,6 +349,33 @@ void TestLook::guideStandsBesideTheOptions()
     const QStringList faults = measure::cutTexts(&window.dialog) + measure::misplaced(&window.dialog)
         + measure::needlessScrolling(&window.dialog);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
+}
+
+void TestLook::guideHasOneEdge_data() { dipSwitchPageShowsAll_data(); }
+
+// Captions, banks and board on both sides, and as wide with bank C as without.
+void TestLook::guideHasOneEdge()
+{
+    QFETCH(QString, refrigerant);
+    Window window;
+    window.dialog.setSideBarVisible(true);
+    window.use(documents::standard(refrigerant));
+    window.showPage(MainDialog::DipSwitchPage);
+    window.dialog.findChild<DipSwitchSettingStatus *>()->changeImage(refrigerant);
+    Tour::settle();
+    const QRect guide = look::placeOf(Window::find(&window.dialog, "guide"));
+    QCOMPARE(guide.width(), 1 + 16 + 270 + 16 + 1);
+    for (const char *name : {"labelDWHGuide", "labelSW2", "frameSw2", "labelSW1", "frameSw1", "labelPCB"}) {
+        QVERIFY2(look::placeOf(Window::find(&window.dialog, name)).left() == guide.left() + 17, name);
+    }
+    QStringList rights{"frameSw2", "labelPCB"};
+    if (refrigerant == "R32") {
+        rights.append("frameSw3");
+    }
+    for (const QString &name : qAsConst(rights)) {
+        QVERIFY2(look::placeOf(Window::find(&window.dialog, name.toLatin1())).right() == guide.right() - 17,
+                 qPrintable(name));
+    }
 }
 
 // Cooling offers nothing while the heat pump doesn't cool.
