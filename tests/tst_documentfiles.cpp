@@ -11,23 +11,9 @@ namespace {
 
 using testfiles::put;
 using testfiles::quoted;
-
-/// A small document out of order. It holds what the dip switch page would write on showing it.
-const QByteArray unsorted = R"({
-  "product": "awhp",
-  "a": {"d": "é", "c": [2, 1]},
-  "IduFuncList": {"is_installed_heater": "CLR", "is_comm_disinfection": "CLR", "isIndoorHotWaterKey": "CLR",
-                  "is_boosterht_onlyMode": "CLR", "is_hotwater_by_disinfection": "CLR"}
-}
-)";
-const QByteArray sorted =
-    R"({"IduFuncList":{"isIndoorHotWaterKey":"CLR","is_boosterht_onlyMode":"CLR","is_comm_disinfection":"CLR",)"
-    R"("is_hotwater_by_disinfection":"CLR","is_installed_heater":"CLR"},"a":{"c":[2,1],"d":"é"},"product":"awhp"})";
-
-QString resource(const QString &refrigerant)
-{
-    return QStringLiteral(":/defaultsettings/KV5_AWHP_DATA_%1.json").arg(refrigerant);
-}
+using testfiles::resource;
+using testfiles::sorted;
+using testfiles::unsorted;
 
 } // namespace
 

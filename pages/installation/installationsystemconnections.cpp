@@ -16,24 +16,22 @@ constexpr int noAddress = -9999;
 /// Two lower case hexadecimal digits.
 QString hexadecimal(int value) { return QStringLiteral("%1").arg(value, 2, 16, QLatin1Char('0')); }
 
-} // namespace
-
-QStringList InstallationSystemSetting::modbusAddresses()
+QStringList addresses(int first, int last)
 {
     QStringList items;
-    for (int address = 1; address <= 247; ++address) {
+    for (int address = first; address <= last; ++address) {
         items.append(hexadecimal(address));
     }
     return items;
 }
 
+} // namespace
+
+QStringList InstallationSystemSetting::modbusAddresses() { return addresses(1, 247); }
+
 QStringList InstallationSystemSetting::centralAddresses()
 {
-    QStringList items;
-    for (int address = 0; address <= 255; ++address) {
-        items.append(hexadecimal(address).toUpper());
-    }
-    return items;
+    return addresses(0, 255).join(QLatin1Char(' ')).toUpper().split(QLatin1Char(' '));
 }
 
 QStringList InstallationSystemSetting::digitalInputTexts()

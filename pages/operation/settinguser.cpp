@@ -59,21 +59,6 @@ QStringList days(const QComboBox *month)
     return itemsFrom("UserDay", 1, daysOf(month->currentText().toInt()));
 }
 
-// What isn't listed shows nothing, and the slot writes what it makes of that.
-void selectText(QComboBox *combo, const QString &text)
-{
-    combo->setCurrentIndex(combo->findText(text, Qt::MatchFixedString));
-}
-
-void selectNumber(QComboBox *combo, int value)
-{
-    if (value == unset) {
-        combo->setCurrentIndex(0);
-    } else {
-        selectText(combo, QString::number(value));
-    }
-}
-
 } // namespace
 
 SettingUser::SettingUser(QWidget *parent)
@@ -142,7 +127,8 @@ void SettingUser::loadJsonData()
     enableSummerTime();
 }
 
-// Both are read before the first selection, whose slot writes.
+// Both are read before the first selection, whose slot writes; what isn't listed shows nothing, and the slot
+// writes what it makes of that.
 void SettingUser::loadBacklight()
 {
     QString percent = word(brightness);
@@ -170,10 +156,13 @@ void SettingUser::loadDate()
     const int day = number(dateDay);
     const int month = number(dateMonth);
     const int year = number(dateYear);
-    selectNumber(ui->comboDateYear, year);
-    selectNumber(ui->comboDateMonth, month);
+    const auto showNumber = [](QComboBox *list, int value) {
+        value == unset ? list->setCurrentIndex(0) : selectText(list, QString::number(value));
+    };
+    showNumber(ui->comboDateYear, year);
+    showNumber(ui->comboDateMonth, month);
     ui->comboDateDay->setEnabled(month != unset);
-    selectNumber(ui->comboDateDay, day);
+    showNumber(ui->comboDateDay, day);
 }
 
 SettingUser::SummerDate SettingUser::summerStart() const
