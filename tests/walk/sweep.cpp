@@ -69,6 +69,7 @@ Sweep::Sweep()
         if (effects::knows(name) && !isDrawn && pageOf(name) != QLatin1String("ProductSelection")) {
             controls.append({name, widget});
         }
+        hasUntold |= !name.isEmpty() && qobject_cast<QComboBox *>(widget) != nullptr && !effects::knows(name);
     }
 }
 
@@ -139,7 +140,11 @@ void Sweep::load(const Place &place, const QJsonDocument &document, const QStrin
     }
     scene.look();
     selections.loaded(place.pages);
-    judge(QStringLiteral("show"), document, effects::ofLoads(place.pages, scene));
+    QStringList mayWrite = effects::ofLoads(place.pages, scene);
+    if (hasUntold) {
+        mayWrite += effects::untold();
+    }
+    judge(QStringLiteral("show"), document, mayWrite);
     // A load that writes back what it shows would hide that it shows something else than what was stored. Of
     // water, one section sets back what another shows.
     scene.look(document);

@@ -46,6 +46,8 @@ private:
     Selections selections;
     /// "Page/control" of all that the tables tell, in the order of the forms.
     QVector<QPair<QString, QWidget *>> controls;
+    /// Whether some list has no rules: then a load may write back what no rule tells of.
+    bool hasUntold = false;
     QSet<QString> touched;
     QStringList complaints;
 };
