@@ -5,7 +5,6 @@
 
 #include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
-#include "pages/product/dipswitchsettingstatus.h"
 
 #include <QAbstractItemView>
 #include <QDir>
@@ -52,11 +51,6 @@ QStringList tooNear(const QWidget *page, int &measured)
     return near;
 }
 
-QScrollBar *barOf(const Window &window, const char *area)
-{
-    return Window::find<QScrollArea>(&window.dialog, area)->verticalScrollBar();
-}
-
 } // namespace
 
 // What makes the window one calm page: one column, one line for a decision, the guide beside the hand.
@@ -74,17 +68,8 @@ private slots:
     void pagesAreOneColumn();
     void captionsStandInOneLine_data() { look::everyLanguage(); }
     void captionsStandInOneLine();
-    void dipSwitchPageShowsAll_data();
-    void dipSwitchPageShowsAll();
-    void pairsStandSideBySide();
     void choicesStandApart_data() { look::everyLanguage(); }
     void choicesStandApart();
-    void dipSwitchPageHasNoHistory_data() { look::everyLanguage(); }
-    void dipSwitchPageHasNoHistory();
-    void guideStandsBesideTheOptions_data() { look::everyLanguage(); }
-    void guideStandsBesideTheOptions();
-    void guideHasOneEdge_data();
-    void guideHasOneEdge();
     void emptySectionHasNoStrip();
     void startShowsNoRing();
     void stepCaptionsAreLargeEnough();
@@ -222,50 +207,6 @@ void TestLook::captionsStandInOneLine()
     QCOMPARE(broken, QStringList());
 }
 
-void TestLook::dipSwitchPageShowsAll_data()
-{
-    QTest::addColumn<QString>("refrigerant");
-    QTest::newRow("R32") << "R32";
-    QTest::newRow("R410") << "R410";
-}
-
-void TestLook::dipSwitchPageShowsAll()
-{
-    QFETCH(QString, refrigerant);
-    Window window;
-    window.dialog.setSideBarVisible(true);
-    for (const QJsonDocument &document :
-         {documents::standard(refrigerant), documents::everything(refrigerant)}) {
-        window.use(document);
-        window.showPage(MainDialog::DipSwitchPage);
-        Tour::settle();
-        QCOMPARE(barOf(window, "dipswitchSettingScrollArea")->maximum(), 0);
-        QCOMPARE(barOf(window, "optionsScrollArea")->maximum(), 0);
-    }
-}
-
-void TestLook::pairsStandSideBySide()
-{
-    Window window;
-    window.use(documents::standard("R32"));
-    window.dialog.setSideBarVisible(true);
-    window.showPage(MainDialog::DipSwitchPage);
-    Tour::settle();
-    int column = 0;
-    for (const auto &[left, right] : std::initializer_list<std::pair<const char *, const char *>>{
-             {"radioDhwNotUse", "radioDhwUse"},
-             {"radioOperationHeating", "radioOperationBoth"},
-             {"radioFlowAlways", "radioFlowOnlyPump"},
-             {"radioThermostatNone", "radioThermostatUse"},
-             {"radioOrvoAddressB0", "radioOrvoAddressB1"}}) {
-        const QRect first = look::placeOf(Window::find(&window.dialog, left));
-        const QRect second = look::placeOf(Window::find(&window.dialog, right));
-        QCOMPARE(first.top(), second.top());
-        column = column == 0 ? second.left() : column;
-        QVERIFY2(second.left() == column, right);
-    }
-}
-
 // The circle to the right of a word isn't that word's.
 void TestLook::choicesStandApart()
 {
@@ -300,82 +241,6 @@ void TestLook::choicesStandApart()
     Tour::settle();
     QCOMPARE(tooNear(Window::find(&window.dialog, "stackedWidget"), measured), QStringList());
     QVERIFY(measured > 30);
-}
-
-// Bank C comes and goes while the page is shown.
-void TestLook::dipSwitchPageHasNoHistory()
-{
-    QFETCH(QString, language);
-    Window window;
-    window.dialog.setSideBarVisible(true);
-    look::speak(window, language);
-    look::resize(window, QSize(974, 612));
-    const auto places = [&window](const char *refrigerant) {
-        window.use(documents::standard(refrigerant));
-        window.showPage(MainDialog::SelectPage);
-        window.showPage(MainDialog::DipSwitchPage);
-        Tour::settle();
-        QList<QPoint> all;
-        for (const char *name :
-             {"radioDhwNotUse", "radioDhwUse", "radioOperationBoth", "radioThermostatUse"}) {
-            all.append(look::placeOf(Window::find(&window.dialog, name)).topLeft());
-        }
-        return all;
-    };
-    places("R32");
-    const QList<QPoint> first = places("R410");
-    QCOMPARE(places("R410"), first);
-    const QList<QPoint> back = places("R32");
-    QCOMPARE(places("R32"), back);
-}
-
-void TestLook::guideStandsBesideTheOptions()
-{
-    QFETCH(QString, language);
-    Window window;
-    window.use(documents::everything("R32"));
-    window.dialog.setSideBarVisible(true);
-    look::speak(window, language);
-    look::resize(window, QSize(974, 612));
-    window.showPage(MainDialog::DipSwitchPage);
-    Tour::settle();
-    const auto *guide = Window::find(&window.dialog, "guide");
-    QVERIFY(look::placeOf(guide).left()
-            > look::placeOf(Window::find(&window.dialog, "groupBoxOptions")).right());
-    QScrollBar *bar = barOf(window, "optionsScrollArea");
-    QVERIFY(bar->maximum() > 0);
-    bar->setValue(bar->maximum());
-    QCOMPARE(guide->visibleRegion().boundingRect(), guide->rect());
-    const QStringList faults = measure::cutTexts(&window.dialog) + measure::misplaced(&window.dialog)
-        + measure::needlessScrolling(&window.dialog);
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
-}
-
-void TestLook::guideHasOneEdge_data() { dipSwitchPageShowsAll_data(); }
-
-// Captions, banks and board on both sides, and as wide with bank C as without.
-void TestLook::guideHasOneEdge()
-{
-    QFETCH(QString, refrigerant);
-    Window window;
-    window.dialog.setSideBarVisible(true);
-    window.use(documents::standard(refrigerant));
-    window.showPage(MainDialog::DipSwitchPage);
-    window.dialog.findChild<DipSwitchSettingStatus *>()->changeImage(refrigerant);
-    Tour::settle();
-    const QRect guide = look::placeOf(Window::find(&window.dialog, "guide"));
-    QCOMPARE(guide.width(), 1 + 16 + 270 + 16 + 1);
-    for (const char *name : {"labelDWHGuide", "labelSW2", "frameSw2", "labelSW1", "frameSw1", "labelPCB"}) {
-        QVERIFY2(look::placeOf(Window::find(&window.dialog, name)).left() == guide.left() + 17, name);
-    }
-    QStringList rights{"frameSw2", "labelPCB"};
-    if (refrigerant == "R32") {
-        rights.append("frameSw3");
-    }
-    for (const QString &name : qAsConst(rights)) {
-        QVERIFY2(look::placeOf(Window::find(&window.dialog, name.toLatin1())).right() == guide.right() - 17,
-                 qPrintable(name));
-    }
 }
 
 // Cooling offers nothing while the heat pump doesn't cool.

@@ -76,7 +76,8 @@ ChoiceRows::ChoiceRows(std::vector<Row> placedRows, std::vector<QLabel *> furthe
 int ChoiceRows::widestCaption() const
 {
     const auto needed = [](const QLabel *caption) {
-        return caption->fontMetrics().size(0, caption->text()).width() + 2 * caption->margin();
+        return caption->fontMetrics().size(0, caption->text()).width() + 2 * caption->margin()
+            + std::max(0, caption->indent());
     };
     int width = 0;
     for (const Row &row : rows) {
