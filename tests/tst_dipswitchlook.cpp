@@ -29,6 +29,7 @@ private slots:
     void dipSwitchPageHasNoHistory();
     void guideStandsBesideTheOptions_data() { look::everyLanguage(); }
     void guideStandsBesideTheOptions();
+    void pairsComeBeforeLongCaptions();
     void guideHasOneEdge_data();
     void guideHasOneEdge();
     void meterRowsDependOnTheMeter();
@@ -127,6 +128,26 @@ void TestDipSwitchLook::guideStandsBesideTheOptions()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
 }
 
+// Captions break their lines in the smallest window before choices that would fit stand below each other.
+void TestDipSwitchLook::pairsComeBeforeLongCaptions()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    look::speak(window, QStringLiteral("Suomi"));
+    look::resize(window, QSize(974, 612));
+    window.showPage(MainDialog::DipSwitchPage);
+    Tour::settle();
+    const auto top = [&window](const char *name) {
+        return look::placeOf(Window::find(&window.dialog, name)).top();
+    };
+    QCOMPARE(top("radioDhwNotUse"), top("radioDhwUse"));
+    QCOMPARE(top("radioThermostatNone"), top("radioThermostatUse"));
+    const QWidget *address = Window::find(&window.dialog, "labelOrvoAddress");
+    const QWidget *first = Window::find(&window.dialog, "radioOrvoAddressB0");
+    QCOMPARE(address->geometry().top(), first->geometry().top());
+}
+
 void TestDipSwitchLook::guideHasOneEdge_data() { dipSwitchPageShowsAll_data(); }
 
 // Captions, banks and board on both sides, and as wide with bank C as without.
@@ -171,7 +192,7 @@ void TestDipSwitchLook::meterRowsDependOnTheMeter()
          {"labelOrvoAddress", "labelOrvoWHM1", "labelOrvoWHM2", "labelOrvoWHM3", "labelOrvoWHM4"}) {
         const auto *label = Window::find<QLabel>(&window.dialog, name);
         QCOMPARE(look::placeOf(label).left(), look::placeOf(meter).left());
-        QCOMPARE(label->indent(), 12);
+        QCOMPARE(label->contentsRect().left(), 12);
         QCOMPARE(ink(name), QColor(palette::text.value));
     }
     Window::click(&window.dialog, "radioOrvometerInterfaceNotuse");

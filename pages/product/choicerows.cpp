@@ -18,7 +18,7 @@ constexpr int indented = 8;
 constexpr int aboveCaption = 8;
 constexpr int columns = 5; // the caption, three choices, and the room of one that is missing
 /// Captions that break their lines.
-constexpr int narrowCaptions = 138;
+constexpr int narrowCaptions = 142;
 /// However much room the controls beside it ask for.
 constexpr int narrowest = 80;
 
@@ -77,7 +77,7 @@ int ChoiceRows::widestCaption() const
 {
     const auto needed = [](const QLabel *caption) {
         return caption->fontMetrics().size(0, caption->text()).width() + 2 * caption->margin()
-            + std::max(0, caption->indent());
+            + caption->contentsMargins().left();
     };
     int width = 0;
     for (const Row &row : rows) {
@@ -89,22 +89,38 @@ int ChoiceRows::widestCaption() const
     return width;
 }
 
+// Captions break their lines where most pairs would else have to stand below each other.
 ChoiceRows::Plan ChoiceRows::planFor(int room) const
 {
     int choice = 0;
     for (const Row &row : rows) {
         choice = std::max(choice, widest(row.choices));
     }
-    Plan plan;
+    const auto mostStacked = [](const Plan &plan) {
+        int stacked = 0;
+        for (std::size_t index = 0; index < plan.pairs.size(); ++index) {
+            if (plan.pairs.at(index)) {
+                stacked += plan.sideBySide.at(index) ? -1 : 1;
+            }
+        }
+        return stacked > 0;
+    };
+    Plan best;
     for (const int captions : {widestCaption(), narrowCaptions}) {
-        if (plan.captions == 0 && captions + gap + choice <= room) {
-            plan.captions = captions;
+        const bool better = best.captions == 0 || mostStacked(best);
+        if (better && captions + gap + choice <= room) {
+            best = planWith(captions, 0, room);
         }
     }
-    if (plan.captions == 0 && indented + gap + choice <= room) {
-        plan.indent = indented;
-    }
-    const int beside = plan.captions + plan.indent;
+    return best.captions > 0 ? best : planWith(0, indented + gap + choice <= room ? indented : 0, room);
+}
+
+ChoiceRows::Plan ChoiceRows::planWith(int captions, int indent, int room) const
+{
+    Plan plan;
+    plan.captions = captions;
+    plan.indent = indent;
+    const int beside = captions + indent;
     const int left = beside > 0 ? room - beside - gap : room;
     for (const Row &row : rows) {
         if (isPair(row.choices) && together(row.choices, 0) <= left) {

@@ -46,6 +46,7 @@ private:
     };
 
     Plan planFor(int room) const;
+    Plan planWith(int captions, int indent, int room) const;
     int widestCaption() const;
     static void place(const Row &row, const Plan &plan, std::size_t index);
 
