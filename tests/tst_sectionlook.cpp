@@ -1,6 +1,8 @@
 #include "support/look.h"
 #include "support/measure.h"
 
+#include "widgets/palette.h"
+
 #include <QGroupBox>
 #include <QLayout>
 #include <QMap>
@@ -26,6 +28,7 @@ class TestSectionLook : public QObject
 
 private slots:
     void sectionsStandApartLikeCards();
+    void coolingAndHeatingAreToldApart();
     void singleOptionsAreDivided();
     void secondChoicesStandInOneColumn_data() { look::everyLanguage(); }
     void secondChoicesStandInOneColumn();
@@ -45,6 +48,27 @@ void TestSectionLook::sectionsStandApartLikeCards()
         QCOMPARE(Window::find(section, "frame")->geometry().left(), 0);
         QCOMPARE(Window::find(section, "frame")->width(), section->width());
     }
+}
+
+// All along their bodies, since they have the same captions.
+void TestSectionLook::coolingAndHeatingAreToldApart()
+{
+    Window window;
+    showInstallation(window, documents::everything("R32"));
+    const auto edgeOf = [&window](const char *section) {
+        QWidget *body = Window::find(Window::find(&window.dialog, section), "frame");
+        const QImage edge = body->grab(QRect(2, 4, 1, body->height() - 12)).toImage();
+        const QColor colour = edge.pixelColor(0, 0);
+        for (int y = 0; y < edge.height(); ++y) {
+            if (edge.pixelColor(0, y) != colour) {
+                return QColor();
+            }
+        }
+        return colour;
+    };
+    QCOMPARE(edgeOf("InstallationCool"), QColor(palette::cool.value));
+    QCOMPARE(edgeOf("InstallationHeat"), QColor(palette::warm.value));
+    QCOMPARE(edgeOf("InstallationDWH"), QColor(Qt::white));
 }
 
 // Each option of the tank has its hairline, those of one group of the document too.

@@ -36,10 +36,13 @@ inline constexpr Colour hairline{"@hairline", "#E6E6E7"};
 /// Bullets, which stand for nothing.
 inline constexpr Colour pale{"@pale", "#A0A0A2"};
 inline constexpr Colour ground{"@ground", "#F2F2F2"};
+/// At the side of what is about cooling, and about heating, which have the same captions.
+inline constexpr Colour cool{"@cool", "#A9C6DB"};
+inline constexpr Colour warm{"@warm", "#E3C08F"};
 /// Behind the caption of the step that is shown.
 inline constexpr Colour tint{"@tint", "#F9ECF0"};
 
-inline constexpr std::array all{accent, over, press, open,     done, focus,  text,
-                                quiet,  edge, line,  hairline, pale, ground, tint};
+inline constexpr std::array all{accent, over, press,    open, done,   focus, text, quiet,
+                                edge,   line, hairline, pale, ground, tint,  cool, warm};
 
 } // namespace palette

@@ -64,11 +64,26 @@ bool SectionBody::event(QEvent *event)
     return QFrame::event(event);
 }
 
+// The header may be out of sight.
+void SectionBody::paintTone(QPainter &painter) const
+{
+    const QString tone = property("tone").toString();
+    for (const palette::Colour &colour : {palette::cool, palette::warm}) {
+        if (tone == QLatin1String(colour.name)) {
+            constexpr int edge = 1;
+            painter.fillRect(edge, 0, 3, height() - 2 * edge, QColor(colour.value));
+        }
+    }
+}
+
 void SectionBody::paintEvent(QPaintEvent *event)
 {
     QFrame::paintEvent(event);
     QPainter painter(this);
     const QList<const QGroupBox *> groups = groupsOf(this);
+    if (!groups.isEmpty()) {
+        paintTone(painter);
+    }
     for (int index = 1; index < groups.size(); ++index) {
         const QGroupBox *above = groups.at(index - 1);
         const QGroupBox *below = groups.at(index);

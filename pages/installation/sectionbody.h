@@ -7,7 +7,7 @@
 class ChoiceColumn;
 
 /// The body of a section: hairlines stand between its groups of rows, second choices in one column, and
-/// without any row it takes no room.
+/// without any row it takes no room. One with the property "tone" has an edge in that colour of the palette.
 class SectionBody : public QFrame
 {
     Q_OBJECT
@@ -26,6 +26,7 @@ protected:
 
 private:
     bool hasRows() const;
+    void paintTone(QPainter &painter) const;
 
     std::unique_ptr<ChoiceColumn> choices;
 };
