@@ -3,6 +3,7 @@
 #include "app/accessible.h"
 #include "app/captioncolumn.h"
 #include "app/frameless.h"
+#include "app/pagearea.h"
 #include "app/radiogroups.h"
 #include "app/radioring.h"
 #include "app/windowshadow.h"
@@ -21,6 +22,8 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -256,9 +259,14 @@ bool MainDialog::focusNextPrevChild(bool next)
 }
 
 // Return presses no button and Esc leaves the dialog open: the tool ends through its close button or the
-// window system.
+// window system. What turns a page turns the one shown, wherever the focus is.
 void MainDialog::keyPressEvent(QKeyEvent *event)
 {
+    const auto areas = findChildren<PageArea *>();
+    if (std::any_of(areas.begin(), areas.end(),
+                    [event](PageArea *area) { return area->isVisible() && area->turn(event->key()); })) {
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Escape) {
         event->ignore();
         return;

@@ -1,6 +1,7 @@
 #include "app/pagearea.h"
 
 #include <QEvent>
+#include <QHash>
 #include <QScrollBar>
 
 PageArea::PageArea(QWidget *parent)
@@ -9,6 +10,21 @@ PageArea::PageArea(QWidget *parent)
     // The bar itself is always shown: its container comes and goes.
     verticalScrollBar()->parentWidget()->installEventFilter(this);
     keepRoom(false);
+}
+
+bool PageArea::turn(int key)
+{
+    static const QHash<int, QAbstractSlider::SliderAction> moves{
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+        {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+        {Qt::Key_End, QAbstractSlider::SliderToMaximum}};
+    const auto move = moves.find(key);
+    const bool turns = move != moves.end() && verticalScrollBar()->maximum() > 0;
+    if (turns) {
+        verticalScrollBar()->triggerAction(*move);
+    }
+    return turns;
 }
 
 bool PageArea::eventFilter(QObject *watched, QEvent *event)

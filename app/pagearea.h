@@ -11,6 +11,9 @@ class PageArea : public QScrollArea
 public:
     explicit PageArea(QWidget *parent = nullptr);
 
+    /// Scrolls by Page Up, Page Down, Home or End; false for other keys, and where nothing is to be scrolled.
+    bool turn(int key);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

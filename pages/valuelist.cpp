@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
+#include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
@@ -73,6 +74,8 @@ void ValueList::showPopup()
         rows->setUniformItemSizes(count() > longList);
     }
     QComboBox::showPopup();
+    // Its neighbours on both sides of it.
+    view()->scrollTo(view()->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
 // For a change of font or style a combo box builds its popup, nine widgets, long before it is first opened.
@@ -87,11 +90,28 @@ void ValueList::changeEvent(QEvent *event)
     }
 }
 
-// Left unaccepted, so that the scroll area above gets them.
+bool ValueList::isOutOfSight() const { return isVisible() && visibleRegion().isEmpty(); }
+
+void ValueList::scrollIntoView()
+{
+    for (QWidget *above = parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(above)) {
+            area->ensureWidgetVisible(this);
+        }
+    }
+}
+
+// What turns a page is left unaccepted, so that the scroll area above gets it. Out of sight no value changes:
+// a key that would change it shows the list instead.
 void ValueList::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+    const int key = event->key();
+    const bool turns = key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+    const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
+    if (turns) {
         event->ignore();
+    } else if (isOutOfSight() && (steps || !event->text().trimmed().isEmpty())) {
+        scrollIntoView();
     } else {
         QComboBox::keyPressEvent(event);
     }

@@ -3,8 +3,8 @@
 #include <QComboBox>
 
 /// A combo box of a page. The mouse wheel over it and the keys that turn pages scroll the page instead of
-/// changing the value: a settings file must not change because somebody scrolled. Its width is set in the
-/// form, so its items aren't measured.
+/// changing the value: a settings file must not change because somebody scrolled, nor by a key that is meant
+/// for what is in sight. Its width is set in the form, so its items aren't measured.
 class ValueList : public QComboBox
 {
     Q_OBJECT
@@ -23,6 +23,8 @@ protected:
 
 private:
     bool hasPopup() const;
+    bool isOutOfSight() const;
+    void scrollIntoView();
 
     QAbstractItemDelegate *itemPainter = nullptr;
 };

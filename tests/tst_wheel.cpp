@@ -3,6 +3,7 @@
 
 #include "pages/installation/installationsystemsetting.h"
 
+#include <QAbstractItemView>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -33,6 +34,9 @@ private slots:
     void scrollsThePage_data();
     void scrollsThePage();
     void keysThatTurnPagesScroll();
+    void keysThatTurnPagesScrollFromAnywhere();
+    void aListOutOfSightIsShownFirst();
+    void openListShowsBothNeighbours();
 
 private:
     std::unique_ptr<Window> window;
@@ -113,6 +117,75 @@ void TestWheel::keysThatTurnPagesScroll()
     QCOMPARE(bar->value(), 0);
     QCOMPARE(combo->currentIndex(), index);
     QCOMPARE(window->dialog.document(), document);
+}
+
+// The tab that was clicked has the focus, or a radio, which keeps none of these keys.
+void TestWheel::keysThatTurnPagesScrollFromAnywhere()
+{
+    auto *system = window->page<InstallationSystemSetting>();
+    window->showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
+    Window::click(&window->dialog, "installationTabButton");
+    Window::expand(system);
+    auto *bar = Window::find<QScrollArea>(&window->dialog, "installationScrollArea")->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    const QJsonDocument document = window->dialog.document();
+    auto *radio = Window::find<QWidget>(system, "radioDryManual");
+    for (QWidget *focused : {Window::find<QWidget>(&window->dialog, "installationTabButton"), radio}) {
+        focused->setFocus();
+        bar->setValue(0);
+        QTest::keyClick(focused, Qt::Key_PageDown);
+        const int page = bar->value();
+        QVERIFY(page > 0);
+        QTest::keyClick(focused, Qt::Key_End);
+        QCOMPARE(bar->value(), bar->maximum());
+        QTest::keyClick(focused, Qt::Key_PageUp);
+        QCOMPARE(bar->value(), bar->maximum() - page);
+        QTest::keyClick(focused, Qt::Key_Home);
+        QCOMPARE(bar->value(), 0);
+    }
+    QCOMPARE(window->dialog.document(), document);
+}
+
+void TestWheel::aListOutOfSightIsShownFirst()
+{
+    auto *system = window->page<InstallationSystemSetting>();
+    window->showPage(MainDialog::SettingPage, MainDialog::InstallationTab);
+    Window::expand(system);
+    auto *bar = Window::find<QScrollArea>(&window->dialog, "installationScrollArea")->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    auto *list = Window::find<QComboBox>(system, "comboBoxScreedHolding");
+    list->setFocus();
+    const int index = list->currentIndex();
+    const QJsonDocument document = window->dialog.document();
+    for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_1}) {
+        bar->setValue(bar->maximum());
+        QVERIFY(list->visibleRegion().isEmpty());
+        QTest::keyClick(list, static_cast<Qt::Key>(key));
+        QCOMPARE(list->visibleRegion().boundingRect(), list->rect());
+        QCOMPARE(list->currentIndex(), index);
+        QCOMPARE(window->dialog.document(), document);
+    }
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(list->currentIndex(), index + 1);
+}
+
+// Years are more than an open list shows.
+void TestWheel::openListShowsBothNeighbours()
+{
+    window->showPage(MainDialog::SettingPage, MainDialog::UserTab);
+    auto *years = Window::find<QComboBox>(&window->dialog, "comboDateYear");
+    const int middle = years->count() / 2;
+    const QSignalBlocker blocked(years);
+    years->setCurrentIndex(middle);
+    Window::click(years);
+    const QAbstractItemView *rows = years->view();
+    QTRY_VERIFY(rows->isVisible());
+    for (const int neighbour : {middle - 4, middle + 4}) {
+        const QRect row = rows->visualRect(years->model()->index(neighbour, 0));
+        QVERIFY(rows->viewport()->rect().contains(row));
+    }
+    years->hidePopup();
+    years->setCurrentIndex(0);
 }
 
 CALORA_TEST_MAIN(TestWheel)

@@ -2,8 +2,11 @@
 
 #include "support/dipswitches.h"
 #include "support/schema.h"
+#include "support/tour.h"
 #include "walk/effects.h"
 #include "walk/exceptions.h"
+
+#include <QScrollArea>
 
 namespace {
 
@@ -54,6 +57,17 @@ bool hasCheckRun(const QString &name)
     const QStringList told = messages::all().filter(QLatin1String("alidation"));
     return std::any_of(told.begin(), told.end(),
                        [&page](const QString &message) { return message.startsWith(page); });
+}
+
+/// Out of sight the first key would only show it.
+void bringIntoSight(QComboBox *list)
+{
+    Tour::settle();
+    for (QWidget *above = list->parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(above)) {
+            area->ensureWidgetVisible(list);
+        }
+    }
 }
 
 } // namespace
@@ -185,6 +199,7 @@ void Sweep::touchRadio(QRadioButton *radio)
 
 void Sweep::touchList(QComboBox *combo)
 {
+    bringIntoSight(combo);
     const int before = combo->currentIndex();
     const int count = combo->count();
     act(combo, [combo] { QTest::keyClick(combo, Qt::Key_End); });
