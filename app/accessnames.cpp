@@ -25,7 +25,7 @@ bool isCaption(const QLabel *label)
 {
     // The dip switch page gives its captions no role.
     static const QStringList roles{QString(), QStringLiteral("caption"), QStringLiteral("heading"),
-                                   QStringLiteral("title")};
+                                   QStringLiteral("pulse"), QStringLiteral("title")};
     return !label->text().trimmed().isEmpty() && roles.contains(roleOf(label));
 }
 

@@ -136,6 +136,7 @@ void TestPlainText::ampersandIsDrawnOnLabels()
         reference.setText(ampersands);
         reference.setAlignment(label->alignment());
         reference.setMargin(label->margin());
+        reference.setContentsMargins(label->contentsMargins());
         reference.setWordWrap(label->wordWrap());
         reference.setMinimumSize(label->minimumSize());
         lookAlike(reference, label);
