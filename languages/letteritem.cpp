@@ -70,6 +70,8 @@ void LetterItem::setData(const QString &reference, const QString &editText)
 {
     plaintext::setText(ui->labelReference, reference);
     ui->lineEdit->setText(editText);
+    // A long text is read from its start.
+    ui->lineEdit->setCursorPosition(0);
 }
 
 QString LetterItem::editText() const { return ui->lineEdit->text(); }

@@ -23,6 +23,7 @@ private slots:
     void rowIsAsSettled();
     void listOwnsItsRows();
     void showsEachKeyInOrder();
+    void longTextsShowTheirStart();
     void rowsAreBuiltAtEachShow();
     void showsOddLanguages();
     void initUiClears();
@@ -136,6 +137,30 @@ void TestLanguageEditor::showsEachKeyInOrder()
         const auto *label = Window::find<QLabel>(row(index), "labelReference");
         QVERIFY2(label->heightForWidth(label->width()) <= row(index)->height(), qPrintable(label->text()));
     }
+}
+
+// Until somebody types in them.
+void TestLanguageEditor::longTextsShowTheirStart()
+{
+    const QString text = QStringLiteral("one two three four five six seven eight nine ten ").repeated(4);
+    QJsonObject texts{{"a", text}, {"b", "short"}};
+    dialog().setLanguageDocument(QJsonDocument(texts));
+    QVERIFY(Window::invoke(editor.get(), "addLanguageData"));
+    auto *line = Window::find<QLineEdit>(row(0), "lineEdit");
+    QVERIFY(line->fontMetrics().horizontalAdvance(text) > 2 * line->width());
+    const auto firstShown = [line] {
+        line->grab();
+        return line->cursorPositionAt(QPoint(0, line->height() / 2));
+    };
+    QCOMPARE(firstShown(), 0);
+    QTest::keyClick(line, Qt::Key_End);
+    QTest::keyClick(line, Qt::Key_X);
+    QCOMPARE(row(0)->editText(), text + "x");
+    QVERIFY(firstShown() > 0);
+    QVERIFY(Window::invoke(editor.get(), "addLanguageData"));
+    line = Window::find<QLineEdit>(row(0), "lineEdit");
+    line->grab();
+    QCOMPARE(line->cursorPositionAt(QPoint(0, line->height() / 2)), 0);
 }
 
 void TestLanguageEditor::rowsAreBuiltAtEachShow()
