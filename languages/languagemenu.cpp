@@ -58,6 +58,12 @@ void LanguageMenu::takeKeys(const QString &language)
     ui->listWidget->setFocus(Qt::TabFocusReason);
 }
 
+QString LanguageMenu::shownLanguage() const
+{
+    const auto *label = window()->findChild<QLabel *>(QStringLiteral("labelCurrentLanguage"));
+    return label == nullptr ? QString() : label->text();
+}
+
 LanguageItem *LanguageMenu::rowAt(int index) const
 {
     return static_cast<LanguageItem *>(ui->listWidget->itemWidget(ui->listWidget->item(index)));
@@ -65,15 +71,16 @@ LanguageItem *LanguageMenu::rowAt(int index) const
 
 void LanguageMenu::showEvent(QShowEvent *event)
 {
-    const auto *shown = window()->findChild<QLabel *>(QStringLiteral("labelCurrentLanguage"));
-    for (int index = 0; shown != nullptr && index < ui->listWidget->count(); ++index) {
+    const QString shown = shownLanguage();
+    for (int index = 0; index < ui->listWidget->count(); ++index) {
         LanguageItem *row = rowAt(index);
-        row->setInForce(row->language() == shown->text());
-        if (row->language() == shown->text()) {
+        row->setInForce(row->language() == shown);
+        if (row->language() == shown) {
             ui->listWidget->scrollToItem(ui->listWidget->item(index), QAbstractItemView::PositionAtCenter);
         }
     }
     QWidget::showEvent(event);
+    setFocus(Qt::PopupFocusReason);
 }
 
 // Left to itself, the focus would go on to the next widget that takes it, which is New.
@@ -81,7 +88,8 @@ void LanguageMenu::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     auto *box = window()->findChild<LanguageBox *>();
-    if (box != nullptr && isAncestorOf(window()->focusWidget())) {
+    const QWidget *focused = window()->focusWidget();
+    if (box != nullptr && (focused == this || isAncestorOf(focused))) {
         box->setFocus(Qt::PopupFocusReason);
     }
 }
@@ -97,6 +105,8 @@ void LanguageMenu::keyPressEvent(QKeyEvent *event)
         emit ui->listWidget->itemClicked(item);
     } else if (event->key() == Qt::Key_Escape) {
         closeMenu();
+    } else if (hasFocus() && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        takeKeys(shownLanguage());
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -50,6 +50,7 @@ private slots:
 private:
     void closeMenu();
     LanguageItem *rowAt(int index) const;
+    QString shownLanguage() const;
 
     std::unique_ptr<Ui::LanguageMenu> ui;
 };
