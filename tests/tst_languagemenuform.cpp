@@ -26,6 +26,8 @@ private slots:
     void scrollBarKeepsOffTheEnds();
     void buttonsHaveThreePictures();
     void buttonsAreTheirPictureAlone();
+    void rowsAreWhiteButTheCurrentOne_data();
+    void rowsAreWhiteButTheCurrentOne();
     void rowTellsItsLanguage();
 
 private:
@@ -158,6 +160,34 @@ void TestLanguageMenuForm::buttonsAreTheirPictureAlone()
         button->setFocus(Qt::TabFocusReason);
         QVERIFY(button->hasFocus());
         QCOMPARE(button->grab().toImage().convertToFormat(picture.format()), picture);
+    }
+}
+
+void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("opened by mouse") << true;
+    QTest::newRow("opened by keys") << false;
+}
+
+void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne()
+{
+    QFETCH(bool, byMouse);
+    QVERIFY(QTest::qWaitForWindowActive(&window->dialog));
+    menu()->setLanguageList({"a", "b", "c"});
+    if (byMouse) {
+        Window::click(&window->dialog, "languageCombobox");
+    } else {
+        Window::find(&window->dialog, "languageCombobox")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(list()->hasFocus());
+    }
+    QCOMPARE(list()->currentRow(), byMouse ? -1 : 0);
+    const QImage seen = list()->viewport()->grab().toImage();
+    for (int index = 0; index < list()->count(); ++index) {
+        const QRect row = list()->visualItemRect(list()->item(index)) & seen.rect();
+        const QColor expected = index == list()->currentRow() ? QColor(0xf2, 0xf2, 0xf2) : QColor(Qt::white);
+        QCOMPARE(seen.pixelColor(row.left() + 8, row.top() + 8), expected);
     }
 }
 
