@@ -31,6 +31,8 @@ private slots:
     void keysOpen_data();
     void keysOpen();
     void keysChooseALanguage();
+    void arrowsGoOnFromTheMouse();
+    void escapeClosesThePopupAlone_data();
     void escapeClosesThePopupAlone();
     void focusStaysWithTheBox_data();
     void focusStaysWithTheBox();
@@ -110,10 +112,36 @@ void TestLanguageKeys::keysChooseALanguage()
     QCOMPARE(QApplication::focusWidget(), box);
 }
 
+// The first one comes to the language in force.
+void TestLanguageKeys::arrowsGoOnFromTheMouse()
+{
+    open();
+    QCOMPARE(list()->currentRow(), -1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QCOMPARE(list()->currentRow(), 1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    verifyClosed();
+    QCOMPARE(text("labelCurrentLanguage"), QStringLiteral("Other"));
+}
+
+void TestLanguageKeys::escapeClosesThePopupAlone_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("opened by mouse") << true;
+    QTest::newRow("opened by keys") << false;
+}
+
 void TestLanguageKeys::escapeClosesThePopupAlone()
 {
-    box->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(box, Qt::Key_Space);
+    QFETCH(bool, byMouse);
+    if (byMouse) {
+        open();
+    } else {
+        box->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(box, Qt::Key_Space);
+    }
+    QVERIFY(isOpen() && menu()->isVisible());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     verifyClosed();
     QVERIFY(dialog().isVisible());

@@ -51,9 +51,6 @@ private slots:
     void anyButtonOpens();
     void openPressIsEaten();
     void pressOnTheDialogCloses();
-    void escapeCloses_data();
-    void escapeCloses();
-    void arrowsGoOnFromTheMouse();
     void minimizingCloses();
     void languageMenuToggles();
     void bothTogglesGoTogether_data();
@@ -236,50 +233,6 @@ void TestLanguageMenu::pressOnTheDialogCloses()
     mouse::release();
     verifyClosed();
     mouse::moveTo(QPoint(2, 2));
-}
-
-void TestLanguageMenu::escapeCloses_data()
-{
-    QTest::addColumn<bool>("byMouse");
-    QTest::newRow("opened by mouse") << true;
-    QTest::newRow("opened by keys") << false;
-}
-
-void TestLanguageMenu::escapeCloses()
-{
-    QFETCH(bool, byMouse);
-    QVERIFY(QTest::qWaitForWindowActive(&dialog()));
-    auto *box = Window::find(&dialog(), "languageCombobox");
-    for (int time = 0; time < 2; ++time) {
-        if (byMouse) {
-            open();
-        } else {
-            box->setFocus();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        }
-        QVERIFY(isOpen() && menu()->isVisible());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        verifyClosed();
-        QCOMPARE(QApplication::focusWidget(), box);
-    }
-    QCOMPARE(content(languagefolder::iniPath()), QByteArray("English"));
-}
-
-void TestLanguageMenu::arrowsGoOnFromTheMouse()
-{
-    for (const char *name : {"Alpha", "Omega"}) {
-        addLanguage(QString::fromLatin1(name), languagefolder::marked("+"));
-    }
-    restart();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog()));
-    open();
-    QCOMPARE(list()->currentRow(), -1);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QCOMPARE(list()->currentRow(), names().indexOf("English"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    verifyClosed();
-    QCOMPARE(content(languagefolder::iniPath()), QByteArray("Omega"));
 }
 
 void TestLanguageMenu::minimizingCloses()
