@@ -82,6 +82,7 @@ void UserLanguageEditPopup::searchText(const QString &text)
         ui->listWidget->setRowHidden(index, !row->editText().toUpper().contains(wanted));
     }
     ui->listWidget->doItemsLayout();
+    ui->listWidget->scrollToTop();
     ui->listWidget->show();
 }
 

@@ -28,6 +28,7 @@ private slots:
     void showsOddLanguages();
     void initUiClears();
     void filtersWhileTyping();
+    void searchStartsAtTheTop();
     void filtersByTheNewText();
     void searchesOnReturnAndOnTheButton();
     void editGoesToTheSnapshot();
@@ -221,6 +222,23 @@ void TestLanguageEditor::filtersWhileTyping()
     QTest::keyClick(search(), Qt::Key_Backspace);
     QTest::keyClick(search(), Qt::Key_Backspace);
     QCOMPARE(shownTexts(), (QStringList{"Hysteresis", "Hysteresis (TH on/off)", "Hysteresis boost heater"}));
+}
+
+void TestLanguageEditor::searchStartsAtTheTop()
+{
+    for (const bool byTyping : {true, false}) {
+        Window::type(search(), QString());
+        list()->verticalScrollBar()->setValue(list()->verticalScrollBar()->maximum());
+        if (byTyping) {
+            Window::type(search(), "e");
+        } else {
+            search()->setText("e");
+            QTest::keyClick(search(), Qt::Key_Return);
+        }
+        QTest::qWait(0);
+        QVERIFY(list()->verticalScrollBar()->maximum() > 0);
+        QCOMPARE(list()->verticalScrollBar()->value(), 0);
+    }
 }
 
 void TestLanguageEditor::filtersByTheNewText()
