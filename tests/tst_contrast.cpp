@@ -130,6 +130,7 @@ private slots:
     void textsStandOut_data();
     void textsStandOut();
     void editorStandsOut();
+    void editorsClearButtonStandsOut();
     void findsFaintTexts();
     void paletteStandsOut_data();
     void paletteStandsOut();
@@ -175,6 +176,13 @@ void TestContrast::editorStandsOut()
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
     QCOMPARE(faint(&editor), QStringList());
+}
+
+void TestContrast::editorsClearButtonStandsOut()
+{
+    const QImage disc(":/images/btn_language_popup_edit_delete.png");
+    QCOMPARE(disc.size(), QSize(16, 16));
+    QVERIFY(contrast(disc.pixel(8, 3), qRgb(255, 255, 255)) >= 4.5);
 }
 
 void TestContrast::findsFaintTexts()
