@@ -35,7 +35,8 @@ void LanguageItem::paintEvent(QPaintEvent *)
     const QRect row = rect().adjusted(0, 0, 0, -1); // above its line
     QPainter painter(this);
     if (underMouse()) {
-        painter.fillRect(row, QColor(palette::ground.value));
+        // Paler than the current row's grey, and seen on it too.
+        painter.fillRect(row, QColor(0, 0, 0, 8));
     }
     if (inForce) {
         painter.fillRect(QRect(row.topLeft(), QSize(markWidth, row.height())), QColor(palette::accent.value));

@@ -12,6 +12,9 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWindow>
 
 LanguageMenu::LanguageMenu(QWidget *parent)
     : QWidget(parent)
@@ -22,6 +25,8 @@ LanguageMenu::LanguageMenu(QWidget *parent)
     // it.
     ui->listWidget->ensurePolished();
     ui->listWidget->setStyleSheet(ui->listWidget->styleSheet());
+    connect(ui->listWidget->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &LanguageMenu::followPointer, Qt::QueuedConnection);
 }
 
 LanguageMenu::~LanguageMenu() = default;
@@ -157,6 +162,21 @@ void LanguageMenu::loadLanguageJson(const QString &filePath)
     if (!Languages::instance().inForce.read(filePath)) {
         qWarning() << "LanguageMenu::loadLanguageJson failed to open file:" << filePath;
     }
+}
+
+// Rows that scroll below a pointer at rest aren't entered until it moves.
+void LanguageMenu::followPointer()
+{
+    const QPoint pointer = QCursor::pos();
+    const QWidget *rows = ui->listWidget->viewport();
+    QWindow *shownIn = window()->windowHandle();
+    if (!isVisible() || shownIn == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton
+        || !rows->rect().contains(rows->mapFromGlobal(pointer))) {
+        return;
+    }
+    QMouseEvent move(QEvent::MouseMove, shownIn->mapFromGlobal(pointer), pointer, Qt::NoButton, Qt::NoButton,
+                     QGuiApplication::keyboardModifiers());
+    QCoreApplication::sendEvent(shownIn, &move);
 }
 
 void LanguageMenu::closeMenu()

@@ -48,6 +48,7 @@ private slots:
     void loadLanguageJson(const QString &filePath);
 
 private:
+    void followPointer();
     void closeMenu();
     LanguageItem *rowAt(int index) const;
     QString shownLanguage() const;

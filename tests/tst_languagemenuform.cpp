@@ -28,6 +28,7 @@ private slots:
     void buttonsAreTheirPictureAlone();
     void rowsAreWhiteButTheCurrentOne_data();
     void rowsAreWhiteButTheCurrentOne();
+    void hoverIsPalerAndFollowsTheWheel();
     void rowTellsItsLanguage();
 
 private:
@@ -189,6 +190,45 @@ void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne()
         const QColor expected = index == list()->currentRow() ? QColor(0xf2, 0xf2, 0xf2) : QColor(Qt::white);
         QCOMPARE(seen.pixelColor(list()->viewport()->mapTo(menu(), corner)), expected);
     }
+}
+
+void TestLanguageMenuForm::hoverIsPalerAndFollowsTheWheel()
+{
+    mouse::place(window->dialog, QPoint(200, 100));
+    menu()->setLanguageList({"a", "b", "c", "d", "e", "f", "g", "h", "i"});
+    Window::click(&window->dialog, "languageCombobox");
+    QScrollBar *bar = list()->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    const auto *viewport = list()->viewport();
+    const QPoint pointed(60, list()->visualItemRect(list()->item(1)).center().y());
+    mouse::moveTo(viewport->mapToGlobal(pointed));
+    const auto hovered = [this] {
+        QStringList names;
+        for (const auto *row : list()->findChildren<LanguageItem *>()) {
+            if (row->underMouse()) {
+                names.append(row->language());
+            }
+        }
+        return names;
+    };
+    const QStringList first{static_cast<LanguageItem *>(list()->itemWidget(list()->item(1)))->language()};
+    QTRY_COMPARE(hovered(), first);
+    const QPoint corner = list()->visualItemRect(list()->item(1)).topLeft() + QPoint(8, 8);
+    const auto shade = [&] {
+        return menu()->grab().toImage().pixelColor(viewport->mapTo(menu(), corner)).red();
+    };
+    const int hoveredShade = shade();
+    QVERIFY(hoveredShade > 0xf2 && hoveredShade < 0xff);
+    list()->setCurrentRow(1);
+    QVERIFY(shade() < 0xf2);
+    mouse::press(5);
+    mouse::release(5);
+    QTRY_VERIFY(bar->value() > 0);
+    const auto *now = static_cast<LanguageItem *>(list()->itemWidget(list()->itemAt(pointed)));
+    QVERIFY(now->language() != first.first());
+    QTRY_COMPARE(hovered(), QStringList{now->language()});
+    mouse::moveTo(QPoint(2, 2));
+    QTRY_VERIFY(hovered().isEmpty());
 }
 
 void TestLanguageMenuForm::rowTellsItsLanguage()
