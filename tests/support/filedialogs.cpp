@@ -53,6 +53,8 @@ filedialogs::Seen filedialogs::answer(const std::function<void()> &action, const
                     dialog->nameFilters().join(QLatin1Char('|')), QString(), false};
             // Not in here: a timer doesn't fire again below its own slot, and a box may come up.
             QTimer::singleShot(0, dialog, [dialog, path] {
+                // Closed before it has the focus, it may leave it with no window.
+                static_cast<void>(QTest::qWaitForWindowActive(dialog));
                 if (path.isEmpty()) {
                     QTest::keyClick(dialog, Qt::Key_Escape);
                 } else {
