@@ -27,12 +27,12 @@
 
 namespace {
 
-QWidget *contentOf(QScrollArea *area, int margin = 0)
+QWidget *contentOf(QScrollArea *area, int sideMargin = 0, int margin = 0)
 {
     auto *content = new QWidget(area);
     area->setWidget(content);
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setContentsMargins(sideMargin, margin, sideMargin, margin);
     layout->addStretch();
     return content;
 }
@@ -162,7 +162,7 @@ void MainDialog::initSettingFunctionUi()
 
 void MainDialog::initSettingInstallationUi()
 {
-    QWidget *content = contentOf(ui->installationScrollArea, 16);
+    QWidget *content = contentOf(ui->installationScrollArea, 16, 12);
     content->layout()->setSpacing(12); // as between the cards of a page
     auto *system = addPage<InstallationSystemSetting>(content);
     auto *cool = addPage<InstallationCool>(content);

@@ -22,13 +22,41 @@ namespace {
 QRect cards(const Window &window)
 {
     QRect all;
-    const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QGroupBox *>();
-    for (const QGroupBox *box : boxes) {
-        if (box->isVisible() && box->property("role").isValid()) {
+    const auto boxes = Window::find(&window.dialog, "stackedWidget")->findChildren<QWidget *>();
+    for (const QWidget *box : boxes) {
+        const QString role = box->property("role").toString();
+        if (box->isVisible() && (role == "card" || role == "header")) {
             all |= look::placeOf(box);
         }
     }
     return all;
+}
+
+/// Where the paper of the cards begins in the window's column `x`, and their edge before it.
+int edgeOfCards(Window &window, int x)
+{
+    const QImage picture = window.dialog.grab().toImage();
+    const QColor ground(0xF2, 0xF2, 0xF2);
+    const auto colourAt = [&](int y) { return picture.pixelColor(x, y); };
+    int y = cards(window).top() - 1;
+    while (y < picture.height() - 1 && colourAt(y) == ground) {
+        ++y;
+    }
+    return colourAt(y) == QColor(0xD6, 0xD6, 0xD7) && colourAt(y + 1) == QColor(Qt::white) ? y : -1;
+}
+
+/// Where the texts in the cards begin.
+int textEdge(const Window &window)
+{
+    int edge = window.dialog.width();
+    const auto labels = Window::find(&window.dialog, "stackedWidget")->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        const QRect place = look::placeOf(label);
+        if (label->isVisible() && !label->text().isEmpty() && cards(window).contains(place)) {
+            edge = qMin(edge, place.left() + label->margin());
+        }
+    }
+    return edge;
 }
 
 /// Choices whose circle stands less than 24 pixels behind the word of the one before it; counts all pairs.
@@ -66,6 +94,8 @@ private slots:
     void marksStandBesideTheTabsTexts();
     void pagesAreOneColumn_data() { sizes(); }
     void pagesAreOneColumn();
+    void pagesHaveOneGrid();
+    void tabsContentBeginsAtTheTabs();
     void captionsStandInOneLine_data() { look::everyLanguage(); }
     void captionsStandInOneLine();
     void choicesStandApart_data() { look::everyLanguage(); }
@@ -176,6 +206,53 @@ void TestLook::pagesAreOneColumn()
     const int left = column.left() - 148;
     const int right = size.width() - 12 - column.right() - 1;
     QVERIFY(qAbs(left - right) <= 1);
+}
+
+// One top, one edge and one inset: under the tool bar, and lower under the tabs.
+void TestLook::pagesHaveOneGrid()
+{
+    constexpr int margin = 12;
+    constexpr int inset = 17;
+    Window window;
+    look::resize(window, QSize(1440, 800));
+    Tour tour(window, QStringLiteral("R32"));
+    int measured = 0;
+    for (const Tour::Stop &stop : tour.stops()) {
+        stop.show();
+        auto *area = Window::find<QScrollArea>(&window.dialog, "installationScrollArea");
+        area->verticalScrollBar()->setValue(0); // opened sections have scrolled
+        Tour::settle();
+        const QRect shown = cards(window);
+        if (stop.name.contains("select") || shown.isEmpty()) {
+            continue;
+        }
+        const auto *tabs = Window::find(&window.dialog, "tabBar");
+        const auto *above = tabs->isVisible() ? tabs : Window::find(&window.dialog, "pathGroupBox");
+        QVERIFY2(shown.top() - look::placeOf(above).bottom() - 1 == margin, qPrintable(stop.name));
+        QVERIFY2(edgeOfCards(window, shown.left() + 100) == shown.top(), qPrintable(stop.name));
+        QVERIFY2(textEdge(window) - shown.left() == inset,
+                 qPrintable(QStringLiteral("%1 at %2").arg(stop.name).arg(textEdge(window))));
+        ++measured;
+    }
+    QVERIFY(measured > 8);
+}
+
+// Their content isn't cut off below a gap.
+void TestLook::tabsContentBeginsAtTheTabs()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    const auto *tabs = Window::find(&window.dialog, "tabBar");
+    for (const auto &[tab, name] : std::initializer_list<std::pair<int, const char *>>{
+             {MainDialog::FunctionTab, "functionScrollArea"},
+             {MainDialog::UserTab, "userScrollArea"},
+             {MainDialog::ServiceTab, "serviceWidget"},
+             {MainDialog::InstallationTab, "installationScrollArea"}}) {
+        window.showPage(MainDialog::SettingPage, tab);
+        Tour::settle();
+        QCOMPARE(look::placeOf(Window::find(&window.dialog, name)).top(), look::placeOf(tabs).bottom() + 1);
+    }
 }
 
 void TestLook::captionsStandInOneLine()
