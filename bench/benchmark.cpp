@@ -39,6 +39,8 @@ void printMachine()
                 qPrintable(told(QStringLiteral("/proc/meminfo"), "MemTotal")),
                 qPrintable(QSysInfo::prettyProductName()), qVersion(), QFontDatabase().families().size(),
                 before.constData(), bench::runs);
+    // Or each program that is started later writes it again into a file.
+    static_cast<void>(std::fflush(stdout));
 }
 
 } // namespace
