@@ -114,13 +114,27 @@ void takePages(Album &album, const QString &refrigerant, const Round &round)
 
 // What opens above the pages
 
-/// What the screen shows in the window's place, popups included.
+QPixmap onScreen(const QRect &place)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(),
+                                                        place.height());
+}
+
+/// What the screen shows in the window's place, and in that of a list that reaches out of it.
 QPixmap onScreen(const QWidget &window)
 {
     QTest::qWait(100);
-    const QRect place = window.frameGeometry();
-    return QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(),
-                                                        place.height());
+    const QRect own = window.frameGeometry();
+    const QWidget *list = QApplication::activePopupWidget();
+    const QRect above = list == nullptr ? own : list->frameGeometry();
+    const QRect place = own | above;
+    QPixmap picture(place.size());
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    for (const QRect &part : {own, above}) {
+        painter.drawPixmap(part.topLeft() - place.topLeft(), onScreen(part));
+    }
+    return picture;
 }
 
 QPoint middleOf(const QWidget *widget) { return widget->mapToGlobal(widget->rect().center()); }
@@ -149,6 +163,15 @@ void takeList(Album &album, const Window &window, const char *name)
     album.add(QStringLiteral("popup-%1-over").arg(name), onScreen(window.dialog));
     list->hidePopup();
     leaveAll();
+}
+
+/// Where it opens, above the window.
+void takeEditorInPlace(Album &album, const Window &window)
+{
+    Window::click(&window.dialog, "languageCombobox");
+    modal::drive<UserLanguageEditPopup>(
+        [&] { Window::click(window.dialog.findChild<LanguageMenu *>(), "newButton"); },
+        [&](const UserLanguageEditPopup *) { album.add("editor-in-place", onScreen(window.dialog)); });
 }
 
 void takeFileDialog(Album &album, const QString &name, const QWidget *owner, const char *button)
@@ -307,13 +330,17 @@ void takeWhatOpens(Album &album, Window &window)
     album.add("data-save", onScreen(window.dialog));
     showTab(window, "userTabButton");
     takeLanguageMenu(album, window);
-    for (const char *list : {"comboDateYear", "comboScreenSaverTimer"}) {
+    for (const char *list : {"comboDateYear", "comboDateMonth", "comboScreenSaverTimer"}) {
         takeList(album, window, list);
     }
+    showTab(window, "installationTabButton");
+    album.add("installation-closed", onScreen(window.dialog));
+    takeEditorInPlace(album, window);
     takeEditor(album, window);
     for (const int step : {1, 2, 3}) {
         window.dialog.setStepCompleted(true, step);
     }
+    takeStates(album, "save", window.dialog, shown(&window.dialog, {"saveButton"}));
     const auto *tools = Window::find(&window.dialog, "toolbarGroupBox");
     takeFileDialog(album, QStringLiteral("file-openButton"), tools, "openButton");
     takeFileDialog(album, QStringLiteral("file-saveButton"), tools, "saveButton");
