@@ -1,8 +1,10 @@
 #include "support/tour.h"
 
+#include "languages/languagemenu.h"
 #include "languages/userlanguageeditpopup.h"
 #include "widgets/palette.h"
 
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QtMath>
@@ -134,6 +136,7 @@ private slots:
     void findsFaintTexts();
     void paletteStandsOut_data();
     void paletteStandsOut();
+    void popupAndEditorHaveThePalettesFocus();
     void controlsHaveThePalettesEdge_data();
     void controlsHaveThePalettesEdge();
 };
@@ -220,6 +223,25 @@ void TestContrast::paletteStandsOut()
     if (colour == palette::open.value) {
         QVERIFY(contrast(value, QColor(palette::accent.value).rgb()) > 1.5);
     }
+}
+
+// Their style sheets are their own, out of reach of the window's.
+void TestContrast::popupAndEditorHaveThePalettesFocus()
+{
+    Window window;
+    UserLanguageEditPopup editor;
+    QWidget *menu = window.dialog.members().languageMenuWidget;
+    const QRegularExpression ring(QStringLiteral(":focus \\{[^}]*border: 2px solid (#\\w+)"));
+    QStringList colours;
+    for (const QWidget *above : {menu, static_cast<QWidget *>(&editor)}) {
+        for (const QWidget *part : above->findChildren<QWidget *>()) {
+            const QRegularExpressionMatch rule = ring.match(part->styleSheet());
+            if (rule.hasMatch()) {
+                colours.append(rule.captured(1));
+            }
+        }
+    }
+    QCOMPARE(colours, QStringList({palette::focus.value, palette::focus.value, palette::focus.value}));
 }
 
 // The edge of each control, and the two pixels of blue that it has with the keyboard.
