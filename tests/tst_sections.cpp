@@ -152,7 +152,7 @@ void TestSections::openedSectionIsSeen()
 void TestSections::openedFirstSectionStays()
 {
     Window::click(header(section("InstallationCool")));
-    for (const int scrolledBy : {0, 9, 16}) {
+    for (const int scrolledBy : {0, 9, 12}) {
         area()->verticalScrollBar()->setValue(scrolledBy);
         Window::click(header(section("InstallationSystemSetting")));
         QVERIFY(isOpen(section("InstallationSystemSetting")));
