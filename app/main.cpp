@@ -3,6 +3,9 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -48,6 +51,15 @@ QByteArray platformArgument()
 #endif
 }
 
+/// Where a window manager puts a window without a frame, Qt may not be told: it then opens lists, which are
+/// windows of their own, away from their boxes. Where the window asks to stand is known.
+void placeInTheMiddle(QWidget &window)
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const QPoint corner = room.center() - window.rect().center();
+    window.move(std::max(room.left(), corner.x()), std::max(room.top(), corner.y()));
+}
+
 } // namespace
 
 // Command-line arguments are neither read nor passed on.
@@ -71,6 +83,7 @@ int main(int, char *[])
     qInstallMessageHandler(discardMessage);
     loadFonts();
     MainDialog dialog;
+    placeInTheMiddle(dialog);
     dialog.show();
     return QApplication::exec();
 }

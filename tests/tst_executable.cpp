@@ -71,6 +71,13 @@ public:
         return {match.captured(1).toInt(), match.captured(2).toInt()};
     }
 
+    QPoint place() const
+    {
+        const QString told = ask("xdotool", {"getwindowgeometry", window});
+        const auto match = QRegularExpression("Position: (\\d+),(\\d+)").match(told);
+        return {match.captured(1).toInt(), match.captured(2).toInt()};
+    }
+
     QString property(const QString &name) const { return ask("xprop", {"-id", window, name}); }
 
     /// The window as it is seen, once it stands still.
@@ -180,6 +187,7 @@ private slots:
 
     void showsItsWindow();
     void isAWindowOfItsOwn();
+    void opensListsAtTheirBoxes();
     void ignoresArguments_data();
     void ignoresArguments();
     void isNotScaled_data();
@@ -258,6 +266,27 @@ void TestExecutable::isAWindowOfItsOwn()
     QVERIFY2(type.endsWith("_NET_WM_WINDOW_TYPE_NORMAL"), qPrintable(type));
     QVERIFY2(!type.contains("DIALOG"), qPrintable(type));
     QCOMPARE(run.property("WM_TRANSIENT_FOR"), QString("WM_TRANSIENT_FOR:  not found."));
+}
+
+// Before the window was ever moved: window managers place a window without a frame where they like.
+void TestExecutable::opensListsAtTheirBoxes()
+{
+    Run run(folder(), {});
+    QVERIFY(run.isShown());
+    run.picture();
+    // New, two answers of step 1, steps 2 and 3, the tab User, the list of years.
+    for (const QPoint &place : {QPoint(60, 67), QPoint(717, 226), QPoint(877, 288), QPoint(73, 300),
+                                QPoint(73, 428), QPoint(658, 162), QPoint(770, 436)}) {
+        run.clickAt(place.x(), place.y());
+        QTest::qWait(300);
+    }
+    // The bar beside the item that is chosen, the first one.
+    const QPoint bar = run.place() + QPoint(712, 465);
+    const auto isThere = [&] {
+        const QPixmap seen = QGuiApplication::primaryScreen()->grabWindow(0, bar.x(), bar.y(), 1, 1);
+        return seen.toImage().pixelColor(0, 0) == QColor("#A50034");
+    };
+    QTRY_VERIFY(isThere());
 }
 
 void TestExecutable::ignoresArguments_data()

@@ -109,9 +109,9 @@ void DipSwitchSettingStatus::initUi()
 void DipSwitchSettingStatus::makeChoiceRows()
 {
     constexpr int belowTheInterface = 12;
-    for (QLabel *caption :
+    for (QLabel *label :
          {ui->labelOrvoAddress, ui->labelOrvoWHM1, ui->labelOrvoWHM2, ui->labelOrvoWHM3, ui->labelOrvoWHM4}) {
-        caption->setContentsMargins(belowTheInterface, 0, 0, 0);
+        label->setContentsMargins(belowTheInterface, 0, 0, 0);
     }
     choiceRows = std::make_unique<ChoiceRows>(
         std::vector<ChoiceRows::Row>{
