@@ -162,11 +162,14 @@ void TestLayout::controlsStandInOneColumn_data()
     QTest::newRow("R410") << "R410";
 }
 
-// What follows a caption, and the first radio of each row; where "Min" or "Max" comes first, after its room.
+// What follows a caption, and the first radio of each row; where "Min" or "Max" comes first, after its room, and
+// months below the date's, after that of a year.
 void TestLayout::controlsStandInOneColumn()
 {
     QFETCH(QString, refrigerant);
     constexpr int roomOfWord = 44;
+    constexpr int roomOfYear = 128;
+    const QStringList months{"comboStartMonth", "comboEndMonth"};
     Window window;
     window.stopPainting();
     int measured = 0;
@@ -177,7 +180,8 @@ void TestLayout::controlsStandInOneColumn()
         const QList<const QWidget *> controls = firstControls(Window::find(&window.dialog, "stackedWidget"));
         for (const QWidget *control : controls) {
             const int column = onPage(control).x() - onPage(controls.first()).x();
-            QVERIFY2(column == 0 || column == roomOfWord,
+            const bool isMonth = months.contains(control->objectName());
+            QVERIFY2(isMonth ? column == roomOfYear : column == 0 || column == roomOfWord,
                      qPrintable(stop.name + ": " + control->objectName()));
             ++measured;
         }
