@@ -162,8 +162,8 @@ void TestLayout::controlsStandInOneColumn_data()
     QTest::newRow("R410") << "R410";
 }
 
-// What follows a caption, and the first radio of each row; where "Min" or "Max" comes first, after its room, and
-// months below the date's, after that of a year.
+// What follows a caption, and the first radio of each row; where "Min" or "Max" comes first, after its room,
+// and months below the date's, after that of a year.
 void TestLayout::controlsStandInOneColumn()
 {
     QFETCH(QString, refrigerant);

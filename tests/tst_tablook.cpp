@@ -15,7 +15,8 @@ int linesBetween(Window &window, const char *above, const char *below)
     const QImage picture = window.dialog.grab().toImage();
     const QRect next = look::placeOf(Window::find(&window.dialog, below));
     int lines = 0;
-    for (int y = look::placeOf(Window::find(&window.dialog, above)).center().y(); y < next.center().y(); ++y) {
+    for (int y = look::placeOf(Window::find(&window.dialog, above)).center().y(); y < next.center().y();
+         ++y) {
         const bool isLine = picture.pixelColor(next.left(), y) == hairline
             && picture.pixelColor(next.right(), y) == hairline;
         lines += isLine ? 1 : 0;
