@@ -22,6 +22,8 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMoveEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -230,6 +232,17 @@ void MainDialog::closeLanguageMenu()
     if (state.languageMenuWidget->isVisible()) {
         state.languageMenuOpen = false;
         state.languageMenuWidget->hide();
+    }
+}
+
+// Qt may have measured what a window manager puts around the window while it was made, and would find no
+// edge to resize. It measures anew with a move.
+void MainDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && windowHandle() != nullptr) {
+        QMoveEvent unmoved(windowHandle()->position(), windowHandle()->position());
+        QCoreApplication::sendEvent(windowHandle(), &unmoved);
     }
 }
 

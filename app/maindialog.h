@@ -143,6 +143,7 @@ private slots:
     void saveJsonData(const QString &path, const QJsonValue &value) { state.settings.setValue(path, value); }
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *object, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
