@@ -3,8 +3,12 @@
 
 #include "widgets/palette.h"
 
+#include <QGroupBox>
+#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -24,6 +28,45 @@ int linesBetween(Window &window, const char *above, const char *below)
     return lines;
 }
 
+/// The darkest of what a label draws on white.
+int darkness(QLabel *label)
+{
+    const QImage picture = label->grab().toImage();
+    int darkest = 255;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            darkest = std::min(darkest, picture.pixelColor(x, y).lightness());
+        }
+    }
+    return darkest;
+}
+
+/// Texts that are pale beside something open, or dark beside what is off; counts the pale ones.
+QStringList wronglyTinted(const QWidget *page, int &pale)
+{
+    QStringList wrong;
+    const auto rows = page->findChildren<QGroupBox *>();
+    for (const QGroupBox *row : rows) {
+        const auto parts = row->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const auto isOpen = [](const QWidget *part) {
+            return part->isEnabled() && qobject_cast<const QLabel *>(part) == nullptr;
+        };
+        const bool isOff = std::none_of(parts.begin(), parts.end(), isOpen);
+        const auto labels = row->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QLabel *label : labels) {
+            if (!label->isVisible() || label->text().isEmpty()) {
+                continue;
+            }
+            const bool isPale = darkness(label) > 150;
+            pale += isPale ? 1 : 0;
+            if (isPale != isOff) {
+                wrong.append(label->objectName());
+            }
+        }
+    }
+    return wrong;
+}
+
 } // namespace
 
 // The Function and User tabs: rows, columns and what is off.
@@ -37,6 +80,7 @@ private slots:
     void rowsAreDivided_data();
     void rowsAreDivided();
     void functionTabNeedsNoScrolling();
+    void textsDimWithTheirFields();
 };
 
 // Nothing but its column tells a day from a month.
@@ -116,6 +160,27 @@ void TestTabLook::functionTabNeedsNoScrolling()
     QVERIFY(Window::find(&window.dialog, "groupBoxOdeFunction")->isVisible());
     const auto *area = Window::find<QScrollArea>(&window.dialog, "functionScrollArea");
     QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+}
+
+void TestTabLook::textsDimWithTheirFields()
+{
+    Window window;
+    window.use(documents::everything("R32"));
+    window.dialog.setSideBarVisible(true);
+    const auto *pages = Window::find(&window.dialog, "stackedWidget");
+    const auto count = [&](int tab, const char *choice) {
+        int pale = 0;
+        window.showPage(MainDialog::SettingPage, tab);
+        Window::click(&window.dialog, choice);
+        Tour::settle();
+        const QStringList wrong = wronglyTinted(pages, pale);
+        return wrong.isEmpty() ? QString::number(pale) : wrong.join(' ');
+    };
+    QCOMPARE(count(MainDialog::FunctionTab, "radioSlientModeUse"), QString("0"));
+    QCOMPARE(count(MainDialog::FunctionTab, "radioSlientModeNotuse"), QString("4")); // captions and colons
+    QCOMPARE(count(MainDialog::FunctionTab, "radioAllButtonUse"), QString("7"));
+    QCOMPARE(count(MainDialog::UserTab, "radioSummerTimeUse"), QString("0"));
+    QCOMPARE(count(MainDialog::UserTab, "radioSummerTimeNotuse"), QString("2"));
 }
 
 CALORA_TEST_MAIN(TestTabLook)
