@@ -16,10 +16,10 @@ constexpr int room = 5;
 /// What has a look of its own for the focus, in the style sheet, needs no ring.
 bool isServed(const QWidget *widget)
 {
-    static const QStringList buttons{
-        QStringLiteral("minimizeButton"), QStringLiteral("maximumButton"), QStringLiteral("newButton"),
-        QStringLiteral("openButton"),     QStringLiteral("saveButton"),    QStringLiteral("closeButton"),
-        QStringLiteral("loadButton"),     QStringLiteral("buttonModify"),  QStringLiteral("searchLineEdit")};
+    static const QStringList buttons{QStringLiteral("minimizeButton"), QStringLiteral("maximumButton"),
+                                     QStringLiteral("newButton"),      QStringLiteral("openButton"),
+                                     QStringLiteral("saveButton"),     QStringLiteral("closeButton"),
+                                     QStringLiteral("loadButton"),     QStringLiteral("buttonModify")};
     return buttons.contains(widget->objectName()) || qobject_cast<const QRadioButton *>(widget) != nullptr
         || dynamic_cast<const PaintedButton *>(widget) != nullptr;
 }
@@ -125,7 +125,9 @@ void RadioRing::paintEvent(QPaintEvent *)
                || served->parentWidget()->objectName() == QLatin1String("titleFrame")) {
         ring.adjust(room, room, -room, -room);
     }
-    const qreal corner = served->inherits("ImageButton") ? ring.height() / 2 : 4;
+    const bool isPill = served->inherits("ImageButton")
+        || served->parentWidget()->objectName() == QLatin1String("buttonRow");
+    const qreal corner = isPill ? ring.height() / 2 : 4;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(palette::focus.value), width));

@@ -10,6 +10,7 @@
 #include <QDebug>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 UserLanguageEditPopup::UserLanguageEditPopup(QWidget *parent)
     : QDialog(parent)
@@ -18,6 +19,10 @@ UserLanguageEditPopup::UserLanguageEditPopup(QWidget *parent)
     ui->setupUi(this);
     emit Languages::instance().editorMade(this);
     new JsonList(this);
+    // A bar that always takes its room draws no handle while there is nothing to scroll.
+    QScrollBar *bar = ui->listWidget->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, bar,
+            [bar](int least, int most) { bar->setEnabled(most > least); });
     connect(ui->searchLineEdit, &QLineEdit::returnPressed, this, &UserLanguageEditPopup::returnSearchText);
 }
 
