@@ -62,13 +62,20 @@ void PaintedButton::keyPressEvent(QKeyEvent *event)
     }
 }
 
+QFont PaintedButton::large() const
+{
+    QFont larger = font();
+    larger.setPointSize(15);
+    return larger;
+}
+
+int PaintedButton::textWidth() const { return QFontMetrics(large()).size(0, plaintext::shown(text)).width(); }
+
 void PaintedButton::drawText(QPainter &painter, const QRect &place) const
 {
     if (text.isEmpty()) {
         return;
     }
-    QFont large = font();
-    large.setPointSize(15);
-    painter.setFont(large);
+    painter.setFont(large());
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignVCenter, plaintext::shown(text));
 }

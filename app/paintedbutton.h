@@ -25,7 +25,13 @@ protected:
     /// Draws the text in the middle of `place`, in the widget's font at 15 points.
     void drawText(QPainter &painter, const QRect &place) const;
 
+    /// How much of the width the text takes.
+    int textWidth() const;
+
     bool pressed = false;
     bool hovered = false;
     QString text;
+
+private:
+    QFont large() const;
 };

@@ -2,7 +2,10 @@
 
 #include "widgets/palette.h"
 
+#include <QLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 TabButton::TabButton(QWidget *parent)
     : PaintedButton(parent)
@@ -13,6 +16,26 @@ void TabButton::setSelected(bool nowSelected)
 {
     selected = nowSelected;
     update();
+}
+
+void TabButton::setText(const QString &newText)
+{
+    PaintedButton::setText(newText);
+    placeMark();
+}
+
+void TabButton::resizeEvent(QResizeEvent *) { placeMark(); }
+
+// Beside the text, and at the end of the tab where that leaves no room.
+void TabButton::placeMark()
+{
+    constexpr int gap = 10;
+    constexpr int markWidth = 24;
+    constexpr int least = 10;
+    if (layout() != nullptr) {
+        const int right = (width() - textWidth()) / 2 - gap - markWidth;
+        layout()->setContentsMargins(0, 0, std::max(least, right), 0);
+    }
 }
 
 void TabButton::click() { emit clicked(); }

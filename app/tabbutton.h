@@ -10,6 +10,8 @@ class TabButton : public PaintedButton
 public:
     explicit TabButton(QWidget *parent = nullptr);
 
+    void setText(const QString &newText);
+
     /// Marks the tab as the current one. A click doesn't do so by itself.
     void setSelected(bool selected);
 
@@ -18,8 +20,11 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void click() override;
 
 private:
+    void placeMark();
+
     bool selected = false;
 };

@@ -35,8 +35,7 @@ void LanguageItem::paintEvent(QPaintEvent *)
     const QRect row = rect().adjusted(0, 0, 0, -1); // above its line
     QPainter painter(this);
     if (underMouse()) {
-        // Paler than the current row's grey, and seen on it too.
-        painter.fillRect(row, QColor(0, 0, 0, 8));
+        painter.fillRect(row, QColor(palette::ground.value));
     }
     if (inForce) {
         painter.fillRect(QRect(row.topLeft(), QSize(markWidth, row.height())), QColor(palette::accent.value));

@@ -145,8 +145,11 @@ void takeLanguageMenu(Album &album, const Window &window)
 {
     Window::click(&window.dialog, "languageCombobox");
     album.add("popup-languages", onScreen(window.dialog));
-    const auto *row = Window::find(&window.dialog, "buttonModify");
-    mouse::moveTo(middleOf(row) - QPoint(80, 0));
+    const auto rows = window.dialog.findChildren<QWidget *>("buttonModify");
+    const auto row = std::find_if(rows.begin(), rows.end(), [](const QWidget *each) {
+        return each->visibleRegion().boundingRect() == each->rect();
+    });
+    mouse::moveTo(middleOf(*row) - QPoint(80, 0));
     album.add("popup-languages-over", onScreen(window.dialog));
     leaveAll();
     QTest::mouseClick(Window::find(&window.dialog, "languageCombobox"), Qt::LeftButton);

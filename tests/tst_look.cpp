@@ -1,6 +1,7 @@
 #include "support/look.h"
 #include "support/measure.h"
 #include "support/modal.h"
+#include "support/mouse.h"
 #include "support/testfiles.h"
 
 #include "languages/languagemenu.h"
@@ -92,6 +93,7 @@ private slots:
     void tabsAreJoined();
     void marksStandBesideTheTabsTexts_data() { look::everyLanguage(); }
     void marksStandBesideTheTabsTexts();
+    void marksAreNearTheTabsTexts();
     void pagesAreOneColumn_data() { sizes(); }
     void pagesAreOneColumn();
     void pagesHaveOneGrid();
@@ -109,6 +111,7 @@ private slots:
     void monthsNeedNoScrolling();
     void popupLinesUpWithItsBox();
     void popupMarksTheLanguageInForce();
+    void popupShowsTheRowUnderTheMouse();
     void editorOpensInTheMiddle();
 
 private:
@@ -176,6 +179,28 @@ void TestLook::marksStandBesideTheTabsTexts()
         const QString key = QString(tab).replace(0, 1, QString(QString(tab).at(0).toUpper()));
         const int half = QFontMetrics(font).horizontalAdvance(window.dialog.languageTextOrKey(key)) / 2;
         QVERIFY2(look::placeOf(button).center().x() + half < look::placeOf(mark).left(), tab);
+    }
+}
+
+// The free room of a wide tab lies beside both, and goes with the text.
+void TestLook::marksAreNearTheTabsTexts()
+{
+    Window window;
+    window.use(documents::standard("R32"));
+    window.dialog.setSideBarVisible(true);
+    look::resize(window, QSize(1920, 1080));
+    window.showPage(MainDialog::SettingPage, MainDialog::FunctionTab);
+    const QWidget *tab = Window::find(&window.dialog, "userTabButton");
+    QWidget *mark = Window::find(&window.dialog, "userValidationIcon");
+    mark->show();
+    for (const QString &language : {QStringLiteral("English"), QStringLiteral("Polski")}) {
+        look::speak(window, language);
+        QFont font = tab->font();
+        font.setPointSize(15);
+        const int text = QFontMetrics(font).horizontalAdvance(window.dialog.languageTextOrKey("User"));
+        const int end = look::placeOf(tab).left() + (tab->width() + text) / 2;
+        const int gap = look::placeOf(mark).left() - end;
+        QVERIFY2(gap >= 8 && gap <= 12, qPrintable(QString::number(gap)));
     }
 }
 
@@ -499,6 +524,23 @@ void TestLook::popupMarksTheLanguageInForce()
         marked += isMarked ? 1 : 0;
     }
     QCOMPARE(marked, 1);
+}
+
+void TestLook::popupShowsTheRowUnderTheMouse()
+{
+    Window window;
+    mouse::place(window.dialog, QPoint(0, 0));
+    Window::click(&window.dialog, "languageCombobox");
+    const auto *menu = window.dialog.findChild<LanguageMenu *>();
+    mouse::moveTo(window.dialog.mapToGlobal(QPoint(300, 300)));
+    const QWidget *row = menu->findChild<QLabel *>("labelLanguage")->parentWidget();
+    const auto ground = [&window, row] {
+        const QPoint point = row->mapTo(&window.dialog, QPoint(row->width() / 2, 2));
+        return window.dialog.grab().toImage().pixelColor(point);
+    };
+    QCOMPARE(ground(), QColor(Qt::white));
+    mouse::moveTo(row->mapToGlobal(row->rect().center()));
+    QTRY_COMPARE(ground(), QColor(0xF2, 0xF2, 0xF2)); // as in lists
 }
 
 void TestLook::editorOpensInTheMiddle()
