@@ -14,6 +14,17 @@ QScrollBar *barOf(const Window &window, const char *area)
     return Window::find<QScrollArea>(&window.dialog, area)->verticalScrollBar();
 }
 
+/// The page with all of the document's texts and marks.
+void show(Window &window, const QJsonDocument &document, const QString &language, const QSize &size)
+{
+    window.use(document);
+    window.dialog.setSideBarVisible(true);
+    look::speak(window, language);
+    look::resize(window, size);
+    window.showPage(MainDialog::DipSwitchPage);
+    Tour::settle();
+}
+
 } // namespace
 
 // The dip switch page: one line for a decision, the guide beside the hand.
@@ -30,6 +41,12 @@ private slots:
     void guideStandsBesideTheOptions_data() { look::everyLanguage(); }
     void guideStandsBesideTheOptions();
     void pairsComeBeforeLongCaptions();
+    void cardsEndTogether_data() { look::everyLanguage(); }
+    void cardsEndTogether();
+    void captionsStandApart_data() { look::everyLanguage(); }
+    void captionsStandApart();
+    void threeChoicesKeepTheColumn_data() { look::everyLanguage(); }
+    void threeChoicesKeepTheColumn();
     void guideHasOneEdge_data();
     void guideHasOneEdge();
     void meterRowsDependOnTheMeter();
@@ -110,12 +127,7 @@ void TestDipSwitchLook::guideStandsBesideTheOptions()
 {
     QFETCH(QString, language);
     Window window;
-    window.use(documents::everything("R32"));
-    window.dialog.setSideBarVisible(true);
-    look::speak(window, language);
-    look::resize(window, QSize(974, 612));
-    window.showPage(MainDialog::DipSwitchPage);
-    Tour::settle();
+    show(window, documents::everything("R32"), language, QSize(974, 612));
     const auto *guide = Window::find(&window.dialog, "guide");
     QVERIFY(look::placeOf(guide).left()
             > look::placeOf(Window::find(&window.dialog, "groupBoxOptions")).right());
@@ -132,12 +144,7 @@ void TestDipSwitchLook::guideStandsBesideTheOptions()
 void TestDipSwitchLook::pairsComeBeforeLongCaptions()
 {
     Window window;
-    window.use(documents::standard("R32"));
-    window.dialog.setSideBarVisible(true);
-    look::speak(window, QStringLiteral("Suomi"));
-    look::resize(window, QSize(974, 612));
-    window.showPage(MainDialog::DipSwitchPage);
-    Tour::settle();
+    show(window, documents::standard("R32"), QStringLiteral("Suomi"), QSize(974, 612));
     const auto top = [&window](const char *name) {
         return look::placeOf(Window::find(&window.dialog, name)).top();
     };
@@ -146,6 +153,57 @@ void TestDipSwitchLook::pairsComeBeforeLongCaptions()
     const QWidget *address = Window::find(&window.dialog, "labelOrvoAddress");
     const QWidget *first = Window::find(&window.dialog, "radioOrvoAddressB0");
     QCOMPARE(address->geometry().top(), first->geometry().top());
+}
+
+// The options and the guide beside them, where the options fill the page.
+void TestDipSwitchLook::cardsEndTogether()
+{
+    QFETCH(QString, language);
+    for (const char *refrigerant : {"R32", "R410"}) {
+        Window window;
+        show(window, documents::everything(refrigerant), language, QSize(974, 612));
+        QCOMPARE(look::placeOf(Window::find(&window.dialog, "guide")).bottom(),
+                 look::placeOf(Window::find(&window.dialog, "groupBoxOptions")).bottom());
+    }
+}
+
+// Further than a circle from its own words.
+void TestDipSwitchLook::captionsStandApart()
+{
+    QFETCH(QString, language);
+    for (const char *refrigerant : {"R32", "R410"}) {
+        Window window;
+        show(window, documents::everything(refrigerant), language, QSize(1440, 800));
+        int measured = 0;
+        for (const auto *caption : Window::find(&window.dialog, "optionRows")->findChildren<QLabel *>()) {
+            const auto *group = caption->parentWidget();
+            const auto *circle = group->findChild<QRadioButton *>(QString(), Qt::FindDirectChildrenOnly);
+            if (!caption->isVisible() || circle == nullptr || caption->text().isEmpty()) {
+                continue;
+            }
+            const int words = look::placeOf(caption).left() + caption->contentsMargins().left()
+                + caption->fontMetrics().size(0, caption->text()).width();
+            QVERIFY2(look::placeOf(circle).left() - words >= 24, qPrintable(caption->objectName()));
+            ++measured;
+        }
+        QVERIFY(measured > 7);
+    }
+}
+
+// One below the other sooner than beside each other out of the column of the pairs.
+void TestDipSwitchLook::threeChoicesKeepTheColumn()
+{
+    QFETCH(QString, language);
+    for (const QSize &size : {QSize(974, 612), QSize(1440, 800)}) {
+        Window window;
+        show(window, documents::everything("R410"), language, size);
+        QMap<int, QString> columns;
+        for (const char *name : {"radioDhwUse", "radioSolarThermalKitUse", "radioOperationBoth",
+                                 "radioElectricHeater1", "radioThermostatUse", "radioOrvoAddressB1"}) {
+            columns[look::placeOf(Window::find(&window.dialog, name)).left()] += QString(" ") + name;
+        }
+        QVERIFY2(columns.size() <= 2, qPrintable(columns.values().join(" |")));
+    }
 }
 
 void TestDipSwitchLook::guideHasOneEdge_data() { dipSwitchPageShowsAll_data(); }

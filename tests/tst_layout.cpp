@@ -294,6 +294,29 @@ void TestLayout::stepsAreJoined()
     for (const char *line : {"stepLine1", "stepLine2", "stepLine3"}) {
         QVERIFY2(Window::find(&window.dialog, line)->height() >= 20, line);
     }
+    // On the axis of the discs, as far from the captions as from the discs' own edges, 3 px within.
+    const QWidget *bar = Window::find(&window.dialog, "sideGroupBox");
+    const QImage picture = window.dialog.grab().toImage();
+    const auto placeOf = [&window](const char *name) {
+        const auto *part = Window::find(&window.dialog, name);
+        return QRect(part->mapTo(&window.dialog, QPoint()), part->size());
+    };
+    const QRect line = placeOf("stepLine1");
+    const QColor pale(0xD6, 0xD6, 0xD7);
+    QRect painted;
+    for (int y = line.top(); y <= line.bottom(); ++y) {
+        for (int x = bar->x(); x < bar->x() + bar->width(); ++x) {
+            if (picture.pixelColor(x, y) == pale && x < bar->x() + bar->width() - 2) {
+                painted |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    QCOMPARE(painted.width(), 2);
+    QCOMPARE(painted.left() + painted.right(),
+             placeOf("productSelectionButton").left() + placeOf("productSelectionButton").right());
+    const int above = painted.top() - placeOf("labelSlide1").bottom();
+    const int below = placeOf("dipSwitchButton").top() + 3 - painted.bottom();
+    QVERIFY2(qAbs(above - below) <= 1, qPrintable(QString("%1 and %2").arg(above).arg(below)));
     // Crimson is left to the caption of the page that is shown.
     const QImage disc(QStringLiteral(":/images/btn_step_1_focus.png"));
     QCOMPARE(disc.pixelColor(4, disc.height() / 2), QColor(0x33, 0x33, 0x33));

@@ -25,6 +25,8 @@ inline constexpr Colour done{"@done", "#2E7D4F"};
 /// Where the keyboard is.
 inline constexpr Colour focus{"@focus", "#1D5FA6"};
 inline constexpr Colour text{"@text", "#333333"};
+/// Choices, as pages tell them in style sheets of their own.
+inline constexpr Colour choice{"@choice", "#212121"};
 /// Captions, and what is said in passing.
 inline constexpr Colour quiet{"@quiet", "#555555"};
 /// The edge of what can be set, and the handles of scroll bars: 3 to 1 against paper and ground.
@@ -42,7 +44,7 @@ inline constexpr Colour warm{"@warm", "#E3C08F"};
 /// Behind the caption of the step that is shown.
 inline constexpr Colour tint{"@tint", "#F9ECF0"};
 
-inline constexpr std::array all{accent, over, press,    open, done,   focus, text, quiet,
+inline constexpr std::array all{accent, over, press,    open, done,   focus, text, choice, quiet,
                                 edge,   line, hairline, pale, ground, tint,  cool, warm};
 
 } // namespace palette

@@ -106,7 +106,7 @@ ChoiceRows::Plan ChoiceRows::planFor(int room) const
         return stacked > 0;
     };
     Plan best;
-    for (const int captions : {widestCaption(), narrowCaptions}) {
+    for (const int captions : {widestCaption() + apart, widestCaption(), narrowCaptions}) {
         const bool better = best.captions == 0 || mostStacked(best);
         if (better && captions + gap + choice <= room) {
             best = planWith(captions, 0, room);
@@ -129,10 +129,7 @@ ChoiceRows::Plan ChoiceRows::planWith(int captions, int indent, int room) const
     }
     for (const Row &row : rows) {
         plan.pairs.push_back(isPair(row.choices));
-        // Three give up the common column before they stand below each other.
-        const bool inColumn = together(row.choices, plan.first) <= left;
-        plan.firsts.push_back(inColumn ? plan.first : 0);
-        plan.sideBySide.push_back(inColumn || (!isPair(row.choices) && together(row.choices, 0) <= left));
+        plan.sideBySide.push_back(together(row.choices, plan.first) <= left);
     }
     return plan;
 }
@@ -175,7 +172,7 @@ void ChoiceRows::place(const Row &row, const Plan &plan, std::size_t index)
             row.grid->addWidget(choice, row.line + choices, firstColumn);
             continue;
         }
-        choice->setMinimumWidth(sideBySide ? widthInRow(row.choices, choice, plan.firsts.at(index)) : 0);
+        choice->setMinimumWidth(sideBySide ? widthInRow(row.choices, choice, plan.first) : 0);
         row.grid->addWidget(choice, line, column);
         (sideBySide ? column : line) += 1;
     }

@@ -31,16 +31,15 @@ public:
 
 private:
     struct Plan {
-        int captions = 0;        ///< width of the column, 0: choices stand below their caption
-        int indent = 0;          ///< of choices below their caption
-        int first = 0;           ///< width of the column of first choices
-        std::vector<int> firsts; ///< of each row, 0: not in that column
+        int captions = 0; ///< width of the column, 0: choices stand below their caption
+        int indent = 0;   ///< of choices below their caption
+        int first = 0;    ///< width of the column of first choices
         std::vector<bool> sideBySide;
         std::vector<bool> pairs;
 
         bool operator==(const Plan &other) const
         {
-            return captions == other.captions && indent == other.indent && firsts == other.firsts
+            return captions == other.captions && indent == other.indent && first == other.first
                 && sideBySide == other.sideBySide && pairs == other.pairs;
         }
     };
