@@ -32,6 +32,8 @@ private slots:
     void singleOptionsAreDivided();
     void secondChoicesStandInOneColumn_data() { look::everyLanguage(); }
     void secondChoicesStandInOneColumn();
+    void sectionsColumnsAreNoNearMiss_data() { look::everyLanguage(); }
+    void sectionsColumnsAreNoNearMiss();
     void bulletsStandAtTheFirstLine();
 };
 
@@ -132,6 +134,33 @@ void TestSectionLook::secondChoicesStandInOneColumn()
         }
     }
     QVERIFY(measured > 40);
+}
+
+// Sections follow each other: their second choices stand in one column or well apart.
+void TestSectionLook::sectionsColumnsAreNoNearMiss()
+{
+    QFETCH(QString, language);
+    Window window;
+    look::speak(window, language);
+    for (const char *refrigerant : {"R32", "R410"}) {
+        showInstallation(window, documents::everything(refrigerant));
+        QMap<int, QString> columns;
+        for (const QFrame *body : window.dialog.findChildren<QFrame *>("frame")) {
+            for (const QGroupBox *group : body->findChildren<QGroupBox *>()) {
+                const auto choices = group->findChildren<QRadioButton *>(QString(),
+                                                                         Qt::FindDirectChildrenOnly);
+                if (group->isVisible() && choices.size() == 2) {
+                    columns[look::placeOf(choices.last()).left()] = choices.last()->objectName();
+                }
+            }
+        }
+        QVERIFY(!columns.isEmpty());
+        int before = columns.firstKey() - 100;
+        for (auto column = columns.cbegin(); column != columns.cend(); ++column) {
+            QVERIFY2(column.key() - before >= 40, qPrintable(column.value()));
+            before = column.key();
+        }
+    }
 }
 
 void TestSectionLook::bulletsStandAtTheFirstLine()

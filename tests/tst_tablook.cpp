@@ -69,7 +69,7 @@ QStringList wronglyTinted(const QWidget *page, int &pale)
 
 } // namespace
 
-// The Function and User tabs: rows, columns and what is off.
+// The Function, User and Service tabs: rows, columns and what is off.
 class TestTabLook : public QObject
 {
     Q_OBJECT
@@ -129,6 +129,9 @@ void TestTabLook::rowsAreDivided_data()
     add(MainDialog::UserTab, "groupBoxScreenSaver", "groupBoxBrightness", 1);
     add(MainDialog::UserTab, "groupBoxSummerTimeSet", "groupBoxSummerStart", 1);
     add(MainDialog::UserTab, "groupBoxSummerStart", "groupBoxSummerEnd", 1);
+    add(MainDialog::ServiceTab, "labelServiceContract", "groupBoxOfficeName", 0);
+    add(MainDialog::ServiceTab, "groupBoxOfficeName", "groupBoxInstallerName", 1);
+    add(MainDialog::ServiceTab, "groupBoxInstallerName", "groupBoxTelephone", 1);
 }
 
 // They lead from a caption to its controls.

@@ -6,11 +6,21 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 /// Beside the spacing of a row, between a choice and the circle of the next one.
 constexpr int apart = 16;
+
+/// Sections follow each other: where their columns don't agree, they differ by more than a near miss.
+constexpr std::array columns{150, 192, 252};
+
+int columnFor(int first)
+{
+    const auto *column = std::lower_bound(columns.begin(), columns.end(), first);
+    return column == columns.end() ? first : *column;
+}
 
 /// A caption takes all that it may.
 int widthOf(const QWidget *part)
@@ -91,8 +101,12 @@ int ChoiceColumn::common() const
         }
     }
     int widest = 0;
+    std::vector<int> widths;
     for (const Row *candidate : pairs) {
-        const int width = candidate->first();
+        widths.push_back(candidate->first());
+        widths.push_back(columnFor(candidate->first()));
+    }
+    for (const int width : widths) {
         const bool leavesRoom = std::all_of(pairs.begin(), pairs.end(), [all, width](const Row *pair) {
             return pair->first() >= width || pair->width(width) <= all;
         });
