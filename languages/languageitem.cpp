@@ -35,7 +35,8 @@ void LanguageItem::paintEvent(QPaintEvent *)
     const QRect row = rect().adjusted(0, 0, 0, -1); // above its line
     QPainter painter(this);
     if (underMouse()) {
-        painter.fillRect(row, QColor(palette::ground.value));
+        // As in lists, and seen on the current row's darker grey too.
+        painter.fillRect(row, QColor(0, 0, 0, 13));
     }
     if (inForce) {
         painter.fillRect(QRect(row.topLeft(), QSize(markWidth, row.height())), QColor(palette::accent.value));

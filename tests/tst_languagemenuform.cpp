@@ -187,7 +187,7 @@ void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne()
     const QImage seen = menu()->grab().toImage();
     for (int index = 0; index < list()->count(); ++index) {
         const QPoint corner = list()->visualItemRect(list()->item(index)).topLeft() + QPoint(8, 8);
-        const QColor expected = index == list()->currentRow() ? QColor(0xf2, 0xf2, 0xf2) : QColor(Qt::white);
+        const QColor expected = index == list()->currentRow() ? QColor(0xe6, 0xe6, 0xe7) : QColor(Qt::white);
         QCOMPARE(seen.pixelColor(list()->viewport()->mapTo(menu(), corner)), expected);
     }
 }
@@ -217,10 +217,9 @@ void TestLanguageMenuForm::hoverIsPalerAndFollowsTheWheel()
     const auto shade = [&] {
         return menu()->grab().toImage().pixelColor(viewport->mapTo(menu(), corner)).red();
     };
-    const int hoveredShade = shade();
-    QVERIFY(hoveredShade > 0xf2 && hoveredShade < 0xff);
+    QCOMPARE(shade(), 0xf2);
     list()->setCurrentRow(1);
-    QVERIFY(shade() < 0xf2);
+    QVERIFY(shade() < 0xe6);
     mouse::press(5);
     mouse::release(5);
     QTRY_VERIFY(bar->value() > 0);
