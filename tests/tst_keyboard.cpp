@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QListWidget>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 
 namespace {
@@ -186,6 +187,8 @@ private slots:
     void tabsAreChosen();
     void arrowsChooseAsClicksDo_data() { refrigerants(); }
     void arrowsChooseAsClicksDo();
+    void anyArrowChooses_data();
+    void anyArrowChooses();
 
 private:
     static void refrigerants();
@@ -462,6 +465,63 @@ void TestKeyboard::compareChoices(Window &window, QRadioButton *radio, const std
     const QVariantMap differences = documents::changes(byKey, window.dialog.document());
     QVERIFY2(differences.isEmpty(), qPrintable(next->objectName() + ": " + differences.keys().join(' ')));
     reload();
+}
+
+void TestKeyboard::anyArrowChooses_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QStringList>("choices");
+    const auto add = [](const char *name, int page, int tab, const QStringList &choices) {
+        QTest::newRow(name) << page << tab << choices;
+    };
+    add("beside each other", MainDialog::SettingPage, MainDialog::UserTab,
+        {"radioSummerTimeNotuse", "radioSummerTimeUse"});
+    add("below each other", MainDialog::DipSwitchPage, 0,
+        {"radioElectricHeaterNotuse", "radioElectricHeater1", "radioElectricHeaterBoth"});
+}
+
+// How the choices of a group stand depends on the window and the language. At the ends nothing happens, and
+// nothing scrolls.
+void TestKeyboard::anyArrowChooses()
+{
+    QFETCH(int, page);
+    QFETCH(int, tab);
+    QFETCH(QStringList, choices);
+    Window window;
+    window.dialog.resize(974, 612);
+    QVERIFY(QTest::qWaitForWindowActive(&window.dialog));
+    window.use(documents::everything("R32"));
+    window.showPage(page, tab);
+    Tour::settle();
+    const auto radio = [&](int index) {
+        return Window::find<QRadioButton>(&window.dialog, choices.at(index).toLatin1());
+    };
+    const auto scrolled = [&window] {
+        QList<int> values;
+        for (const auto *bar : window.dialog.findChildren<QScrollBar *>()) {
+            values.append(bar->isVisible() ? bar->value() : 0);
+        }
+        return values;
+    };
+    const int last = choices.size() - 1;
+    for (const auto &[forth, back] :
+         {std::pair(Qt::Key_Down, Qt::Key_Up), std::pair(Qt::Key_Right, Qt::Key_Left)}) {
+        Window::click(radio(0));
+        radio(0)->setFocus();
+        const QList<int> before = scrolled();
+        for (int index = 1; index <= last + 1; ++index) {
+            QTest::keyClick(QApplication::focusWidget(), forth);
+            QVERIFY2(radio(qMin(index, last))->hasFocus() && radio(qMin(index, last))->isChecked(),
+                     qPrintable(QString::number(index)));
+        }
+        for (int index = last - 1; index >= -1; --index) {
+            QTest::keyClick(QApplication::focusWidget(), back);
+            QVERIFY2(radio(qMax(index, 0))->hasFocus() && radio(qMax(index, 0))->isChecked(),
+                     qPrintable(QString::number(index)));
+        }
+        QCOMPARE(scrolled(), before);
+    }
 }
 
 CALORA_TEST_MAIN(TestKeyboard)

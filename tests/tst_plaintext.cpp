@@ -9,6 +9,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTextDocument>
 
@@ -60,6 +61,20 @@ void lookAlike(QWidget &reference, QWidget *shown)
     reference.ensurePolished();
 }
 
+/// How many columns have ink.
+int inkWidth(const QImage &image)
+{
+    int width = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        int y = 0;
+        while (y < image.height() && image.pixelColor(x, y) == QColor(Qt::white)) {
+            ++y;
+        }
+        width += y < image.height() ? 1 : 0;
+    }
+    return width;
+}
+
 } // namespace
 
 class TestPlainText : public EditorTest
@@ -80,6 +95,7 @@ private slots:
     void hostileLanguage_data();
     void hostileLanguage();
     void hugeTexts();
+    void hooksAreNotCut();
 
 private:
     QStringList tour()
@@ -335,6 +351,31 @@ void TestPlainText::hugeTexts()
     QVERIFY(!editor->grab().isNull());
     QCOMPARE(text("labelProductType"), lines);
     QCOMPARE(dialog().size(), QSize(1440, 800));
+}
+
+// A "J" begins left of its line.
+void TestPlainText::hooksAreNotCut()
+{
+    for (const QString &text :
+         {QStringLiteral("Jasność"), QStringLiteral("Air\nJasność"), QStringLiteral("Air")}) {
+        for (const int points : {10, 13, 15}) {
+            QFont font(QStringLiteral("Noto Sans"), points, points == 10 ? QFont::Normal : QFont::Bold);
+            PlainLabel label;
+            label.setText(text);
+            label.setFont(font);
+            label.resize(label.sizeHint());
+            QImage whole(label.size() + QSize(40, 0), QImage::Format_RGB32);
+            whole.fill(Qt::white);
+            QPainter painter(&whole);
+            painter.setFont(font);
+            painter.drawText(whole.rect().adjusted(20, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
+            painter.end();
+            QCOMPARE(inkWidth(picture(&label)), inkWidth(whole));
+        }
+    }
+    PlainLabel plain;
+    plain.setText(QStringLiteral("Air"));
+    QCOMPARE(plain.indent(), -1);
 }
 
 CALORA_TEST_MAIN(TestPlainText)

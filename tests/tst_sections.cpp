@@ -28,6 +28,7 @@ private slots:
     void openedSectionIsSeen();
     void openedFirstSectionStays();
     void closingStaysInPlace();
+    void closingKeepsTheFocus();
     void loadStaysInPlace();
     void pressBelowTheLanguagePopupClosesIt();
 
@@ -170,6 +171,27 @@ void TestSections::closingStaysInPlace()
     Window::click(header(section("InstallationCool")));
     QVERIFY(!isOpen(section("InstallationCool")));
     QCOMPARE(scrolled(), 40);
+}
+
+// At the section that the hand is at, not at the next one.
+void TestSections::closingKeepsTheFocus()
+{
+    QVERIFY(QTest::qWaitForWindowActive(&window->dialog));
+    QWidget *cool = section("InstallationCool");
+    QWidget *arrow = Window::find(cool, "hideButton");
+    Window::click(arrow);
+    QWidget *list = Window::find(cool, "comboTemperatureIndoorMin");
+    list->setFocus();
+    QVERIFY(list->hasFocus());
+    QTest::mouseClick(header(cool), Qt::LeftButton);
+    QVERIFY(!isOpen(cool));
+    QCOMPARE(QApplication::focusWidget(), arrow);
+    Window::click(arrow);
+    QWidget *elsewhere = Window::find(section("InstallationHeat"), "hideButton");
+    elsewhere->setFocus();
+    QTest::mouseClick(header(cool), Qt::LeftButton);
+    QVERIFY(!isOpen(cool));
+    QCOMPARE(QApplication::focusWidget(), elsewhere);
 }
 
 void TestSections::loadStaysInPlace()

@@ -1,8 +1,12 @@
 #include "widgets/plaintext.h"
 
+#include <QHash>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+
+#include <algorithm>
 
 // Documented at QKeySequence; no header declares it.
 void Q_GUI_EXPORT qt_set_sequence_auto_mnemonic(bool on);
@@ -45,7 +49,34 @@ PlainLabel::PlainLabel(QWidget *parent)
     setTextFormat(Qt::PlainText);
 }
 
-void PlainLabel::setText(const QString &text) { plaintext::setText(this, text); }
+void PlainLabel::setText(const QString &text)
+{
+    plaintext::setText(this, text);
+    makeRoomForHooks();
+}
+
+void PlainLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        makeRoomForHooks();
+    }
+}
+
+// A "J" begins left of where its line does, which a label would cut off.
+void PlainLabel::makeRoomForHooks()
+{
+    const QStringList lines = plaintext::shown(text()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    int hook = 0;
+    for (const QString &line : lines) {
+        hook = std::max(hook, -fontMetrics().leftBearing(line.at(0)));
+    }
+    constexpr int none = -1;
+    const int room = hook > 0 ? hook + 1 : none; // its edge is blurred
+    if (room != indent()) {
+        setIndent(room);
+    }
+}
 
 // QLabel takes the "&" out of what it draws when it has a buddy.
 bool PlainLabel::drawsItself() const
@@ -126,6 +157,22 @@ QSize PlainRadioButton::sizeHint() const
 void PlainRadioButton::paintEvent(QPaintEvent *)
 {
     QStylePainter(this).drawControl(QStyle::CE_RadioButton, shownOption());
+}
+
+// Qt looks for a choice in the arrow's direction alone: beside each other, Down would scroll the page.
+void PlainRadioButton::keyPressEvent(QKeyEvent *event)
+{
+    static const QHash<int, Qt::Key> across{{Qt::Key_Up, Qt::Key_Left},
+                                            {Qt::Key_Left, Qt::Key_Up},
+                                            {Qt::Key_Down, Qt::Key_Right},
+                                            {Qt::Key_Right, Qt::Key_Down}};
+    QRadioButton::keyPressEvent(event);
+    const auto other = across.constFind(event->key());
+    if (!event->isAccepted() && other != across.cend()) {
+        QKeyEvent turned(event->type(), *other, event->modifiers());
+        QRadioButton::keyPressEvent(&turned);
+        event->accept();
+    }
 }
 
 // QRadioButton would measure the text as it stands.

@@ -23,10 +23,12 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     bool drawsItself() const;
+    void makeRoomForHooks();
     int textFlags() const;
     QSize sizeForWidth(int width) const;
 };
@@ -43,6 +45,7 @@ protected:
     QStyleOptionButton shownOption() const;
 };
 
+/// Any two arrows choose the next one and the one before, however a group stands at the moment.
 class PlainRadioButton : public PlainButton<QRadioButton>
 {
 public:
@@ -52,6 +55,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool hitButton(const QPoint &position) const override;
 };

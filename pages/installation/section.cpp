@@ -3,7 +3,7 @@
 #include "app/maindialog.h"
 #include "pages/style.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFrame>
 #include <QIcon>
 #include <QMouseEvent>
@@ -35,6 +35,10 @@ void Section::collapse(QPushButton *hideButton, QFrame *frame)
 void Section::toggle(QPushButton *hideButton, QFrame *frame)
 {
     if (expanded) {
+        // Else Qt would give the focus to the next section.
+        if (frame->isAncestorOf(QApplication::focusWidget())) {
+            hideButton->setFocus(Qt::OtherFocusReason);
+        }
         collapse(hideButton, frame);
         styleHeader(hideButton, false);
         return;
