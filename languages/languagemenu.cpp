@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileDialog>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -76,6 +77,8 @@ LanguageItem *LanguageMenu::rowAt(int index) const
 
 void LanguageMenu::showEvent(QShowEvent *event)
 {
+    // Keys make a row the current one; what was picked the last time isn't.
+    ui->listWidget->selectionModel()->clear();
     const QString shown = shownLanguage();
     for (int index = 0; index < ui->listWidget->count(); ++index) {
         LanguageItem *row = rowAt(index);

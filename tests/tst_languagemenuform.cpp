@@ -167,15 +167,20 @@ void TestLanguageMenuForm::buttonsAreTheirPictureAlone()
 void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne_data()
 {
     QTest::addColumn<bool>("byMouse");
-    QTest::newRow("opened by mouse") << true;
-    QTest::newRow("opened by keys") << false;
+    QTest::addColumn<int>("pickedBefore");
+    QTest::newRow("opened by mouse") << true << -1;
+    QTest::newRow("opened by mouse after a choice") << true << 1;
+    QTest::newRow("opened by keys") << false << -1;
+    QTest::newRow("opened by keys after a choice") << false << 1;
 }
 
 void TestLanguageMenuForm::rowsAreWhiteButTheCurrentOne()
 {
     QFETCH(bool, byMouse);
+    QFETCH(int, pickedBefore);
     QVERIFY(QTest::qWaitForWindowActive(&window->dialog));
     menu()->setLanguageList({"a", "b", "c"});
+    list()->setCurrentRow(pickedBefore);
     if (byMouse) {
         Window::click(&window->dialog, "languageCombobox");
     } else {

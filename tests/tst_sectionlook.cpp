@@ -149,8 +149,10 @@ void TestSectionLook::sectionsColumnsAreNoNearMiss()
             for (const QGroupBox *group : body->findChildren<QGroupBox *>()) {
                 const auto choices = group->findChildren<QRadioButton *>(QString(),
                                                                          Qt::FindDirectChildrenOnly);
-                if (group->isVisible() && choices.size() == 2) {
-                    columns[look::placeOf(choices.last()).left()] = choices.last()->objectName();
+                // Three Italian words leave no room for the column.
+                if (group->isVisible() && choices.size() > 1
+                    && (choices.size() == 2 || language != "Italiano")) {
+                    columns[look::placeOf(choices.at(1)).left()] = choices.at(1)->objectName();
                 }
             }
         }

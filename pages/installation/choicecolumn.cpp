@@ -120,7 +120,7 @@ void ChoiceColumn::place() const
     const int column = common();
     for (const Row &row : rows) {
         if (isThere(row)) {
-            const int first = std::max(column, row.first());
+            const int first = std::max(column, columnFor(row.first()));
             row.place(row.width(first) <= room() ? first : row.first());
         }
     }
