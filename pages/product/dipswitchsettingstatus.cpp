@@ -75,6 +75,15 @@ void DipSwitchSettingStatus::placeRows()
     const int height = rows->hasHeightForWidth() ? rows->totalHeightForWidth(rowsWidth)
                                                  : rows->totalSizeHint().height();
     ui->groupBoxOptions->setMaximumHeight(height + edges);
+    endTogether(std::min(height + edges, ui->columns->height()));
+}
+
+// Cards beside each other end together, or well apart.
+void DipSwitchSettingStatus::endTogether(int options)
+{
+    constexpr int nearMiss = 16;
+    const int beyond = options - ui->guide->sizeHint().height();
+    ui->guide->setMinimumHeight(beyond > 0 && beyond < nearMiss ? options : 0);
 }
 
 void DipSwitchSettingStatus::showEvent(QShowEvent *event)

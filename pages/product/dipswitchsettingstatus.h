@@ -96,6 +96,7 @@ private:
     using Flag = std::pair<const char *, const char *>;
 
     void makeChoiceRows();
+    void endTogether(int options);
     void placeRows();
     void turn(std::initializer_list<Switch> switches);
     void saveFlags(std::initializer_list<Flag> flags);

@@ -21,9 +21,11 @@ struct Outcome {
 
 inline QString name() { return qEnvironmentVariable("CALORA_FILES_PROGRAM", QStringLiteral(CALORA_FILES)); }
 
-inline Outcome run(const QStringList &arguments, const QByteArray &input = {})
+/// In `folder`, else in the test's own one.
+inline Outcome run(const QStringList &arguments, const QByteArray &input = {}, const QString &folder = {})
 {
     QProcess process;
+    process.setWorkingDirectory(folder);
     process.start(name(), arguments);
     process.write(input);
     process.closeWriteChannel();

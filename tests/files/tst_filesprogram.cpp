@@ -207,8 +207,7 @@ void TestFilesProgram::tellsWhatIsWrongWithTheCommandLine()
     // Of files beside it, whose names are words of the command line.
     folder.put(QStringLiteral("plant.json"), program::complete());
     folder.put(QStringLiteral("diff"), program::complete());
-    QVERIFY(QDir::setCurrent(folder.path(QString())));
-    const program::Outcome outcome = program::run(arguments);
+    const program::Outcome outcome = program::run(arguments, {}, folder.path(QString()));
     QCOMPARE(outcome.code, code);
     QVERIFY2((outcome.out + outcome.err).contains(said), qPrintable(outcome.out + outcome.err));
 }

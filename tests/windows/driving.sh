@@ -61,7 +61,7 @@ saves_what_it_opened() {
     xdotool windowfocus --sync "$window" type --delay 50 plant.json
     xdotool key Return
     wait_for "the dialog stays" hidden '^Json File$'
-    click 72 409                                        # Operation setting
+    click 72 444                                        # Operation setting
     for tab in 620 938 1255; do click "$tab" 161; done  # User, Service, Installation
     click 251 67                                        # Save
     wait_for "the file wasn't saved as expected" cmp "$work/expected.json" "$desktop/plant.json"
